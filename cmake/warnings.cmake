@@ -1,0 +1,9 @@
+# Every warning is an error, in the product and in the tests.
+set(CMAKE_COMPILE_WARNING_AS_ERROR ON)
+if(MSVC)
+  add_compile_options(/W4 /permissive- /utf-8)
+else()
+  add_compile_options(
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast
+    -Wnon-virtual-dtor)
+endif()

@@ -1,0 +1,131 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/view.h"
+
+namespace quenda {
+
+class Control;
+
+/// Background colours by meaning; the native side turns them into the system's colours.
+enum class BackColor { kButtonFace, kWindow };
+
+/// Position and size in twips (1440 to the inch), relative to the parent frame or the form.
+struct Place {
+  int left = 0;
+  int top = 0;
+  int width = 0;
+  int height = 0;
+  friend bool operator==(const Place&, const Place&) = default;
+};
+
+/// What kind of native control shows a control.
+enum class ControlKind {
+  kLabel,
+  kFrame,
+  kButton,
+  kCheckBox,
+  kOptionButton,
+  kTextBox,
+  kListBox,
+  kComboList,
+  kListView,
+  kPicture,
+  kStatusBar,
+  kTimer,
+};
+
+/// The window that controls belong to, as far as controls need to know it.
+class ControlHost {
+ public:
+  /// The controls in the order of their construction.
+  [[nodiscard]] const std::vector<Control*>& controls() const { return controls_; }
+
+ protected:
+  ControlHost() = default;
+  ~ControlHost() = default;
+
+ private:
+  friend class Control;
+  std::vector<Control*> controls_;
+};
+
+/// State and events that all controls share. Setters store, tell the peer, and raise the event
+/// themselves; what the user does comes in by the take_user_ operations, which do not tell the peer
+/// back.
+class Control {
+ public:
+  /// `index` is the position in a control array, -1 for a control that stands alone.
+  Control(ControlHost& host, ControlKind kind, std::string_view name, int index = -1);
+  Control(const Control&) = delete;
+  Control& operator=(const Control&) = delete;
+  virtual ~Control();
+
+  [[nodiscard]] ControlKind kind() const { return kind_; }
+  [[nodiscard]] const std::string& name() const { return name_; }
+  [[nodiscard]] int index() const { return index_; }
+  [[nodiscard]] ControlHost& host() const { return host_; }
+
+  [[nodiscard]] const std::string& caption() const { return caption_; }
+  void set_caption(std::string_view caption);
+  /// A name for screen readers where the caption alone says too little; empty means the caption.
+  [[nodiscard]] const std::string& spoken_name() const { return spoken_name_; }
+  void set_spoken_name(std::string_view name);
+
+  /// The control's own switch; a control inside a disabled frame takes no input whatever it says.
+  [[nodiscard]] bool enabled() const { return enabled_; }
+  void set_enabled(bool enabled);
+  [[nodiscard]] bool visible() const { return visible_; }
+  void set_visible(bool visible);
+  [[nodiscard]] BackColor back_color() const { return back_color_; }
+  void set_back_color(BackColor color);
+
+  [[nodiscard]] const Place& place() const { return place_; }
+  void set_place(const Place& place);
+  /// Moves the control without changing its size.
+  void move_to(int left, int top);
+  /// The frame that holds the control; null for one that lies on the form itself.
+  [[nodiscard]] Control* parent() const { return parent_; }
+  void set_parent(Control* parent) { parent_ = parent; }
+  /// Position in the tab order of the form; -1 is never reached by the Tab key.
+  [[nodiscard]] int tab_index() const { return tab_index_; }
+  void set_tab_index(int tab_index) { tab_index_ = tab_index; }
+
+  void bring_to_front() { refresh(Aspect::kZOrder); }
+  /// Gives the control the keyboard focus and raises its event.
+  void set_focus();
+  /// Whether the control and all frames around it are enabled and visible.
+  [[nodiscard]] bool reachable() const;
+
+  std::function<void()> on_got_focus;
+  void take_user_focus();
+
+  void attach(ControlPeer* peer) { peer_ = peer; }
+  [[nodiscard]] ControlPeer* peer() const { return peer_; }
+
+ protected:
+  void refresh(Aspect aspect) {
+    if (peer_ != nullptr) peer_->refresh(aspect);
+  }
+
+ private:
+  ControlHost& host_;
+  ControlKind kind_;
+  std::string name_;
+  int index_;
+  std::string caption_;
+  std::string spoken_name_;
+  bool enabled_ = true;
+  bool visible_ = true;
+  BackColor back_color_;
+  Place place_;
+  Control* parent_ = nullptr;
+  int tab_index_ = -1;
+  ControlPeer* peer_ = nullptr;
+};
+
+}  // namespace quenda

@@ -1,0 +1,101 @@
+#pragma once
+
+#include <exception>
+#include <functional>
+#include <initializer_list>
+#include <string>
+#include <string_view>
+#include <type_traits>
+#include <utility>
+
+#include "support/clsErrorHandling.h"
+#include "support/fault.h"
+
+namespace quenda {
+
+/// The number of the statement that a procedure has reached; 0 where it does not count them.
+class Statement {
+ public:
+  void operator()(int number) { number_ = number; }
+  [[nodiscard]] int number() const { return number_; }
+
+ private:
+  int number_ = 0;
+};
+
+namespace procedure_detail {
+
+template <class Body>
+void run(Body& body, Statement& at) {
+  if constexpr (std::is_invocable_v<Body&, Statement&>) {
+    body(at);
+  } else {
+    body();
+  }
+}
+
+/// Runs the body; a fault goes to `on_fault` together with the statement reached. While faults are
+/// not trapped they pass through. The end of the program always passes through.
+template <class Body, class OnFault>
+bool trap(const clsErrorHandling& errors, Body& body, OnFault on_fault) {
+  Statement at;
+  if (!errors.trapping()) {
+    run(body, at);
+    return true;
+  }
+  try {
+    run(body, at);
+    return true;
+  } catch (const std::exception&) {
+    on_fault(current_fault(), at.number());
+    return false;
+  }
+}
+
+}  // namespace procedure_detail
+
+/// The frame of every procedure: announces it in trace mode, runs the body (which may take a
+/// `Statement&` to number its statements), and reports a trapped fault silently under the name.
+/// Returns whether the body came through.
+template <class Body>
+bool procedure(clsErrorHandling& errors, std::string_view name, TraceValues traced, Body&& body) {
+  if (errors.tracing()) errors.LogDebug_Trace(name, traced);
+  return procedure_detail::trap(errors, body, [&](const RuntimeFault& fault, int statement) {
+    errors.set_pending(fault, statement);
+    errors.ErrorLogNew(name, {});
+  });
+}
+
+/// As `procedure`, but the user sees a message box, and the report carries one value that says what
+/// was being worked on when the fault came.
+template <class Body>
+bool procedure_with_message(clsErrorHandling& errors, std::string_view name, TraceValues traced,
+                            const std::string& worked_on, Body&& body) {
+  if (errors.tracing()) errors.LogDebug_Trace(name, traced);
+  return procedure_detail::trap(errors, body, [&](const RuntimeFault& fault, int statement) {
+    errors.set_pending(fault, statement);
+    errors.ErrorLogWithMsgBox(name, {std::string_view(worked_on)});
+  });
+}
+
+/// As `procedure`, for procedures that tell the user about a fault in their own way.
+template <class Body, class OnFault>
+bool procedure_with_own_report(clsErrorHandling& errors, std::string_view name, TraceValues traced,
+                               Body&& body, OnFault on_fault) {
+  if (errors.tracing()) errors.LogDebug_Trace(name, traced);
+  return procedure_detail::trap(errors, body, on_fault);
+}
+
+/// Runs one step after the other; a step that fails is left behind without a report. For loaders,
+/// where one unreadable value must not keep the others from being read.
+inline void skip_faults(std::initializer_list<std::function<void()>> steps) {
+  for (const auto& step : steps) {
+    try {
+      step();
+    } catch (const std::exception&) {
+      continue;
+    }
+  }
+}
+
+}  // namespace quenda

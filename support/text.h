@@ -1,0 +1,58 @@
+#pragma once
+
+#include <cstddef>
+#include <initializer_list>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// Texts are Windows-1252 bytes, one character per byte, so every length and position here is a
+// count of bytes. Nothing depends on the locale of the machine.
+namespace quenda {
+
+inline constexpr std::string_view kCrLf = "\r\n";
+
+/// The parts one after another.
+std::string concat(std::initializer_list<std::string_view> parts);
+
+template <class... Parts>
+std::string concat(const Parts&... parts) {
+  return concat({std::string_view(parts)...});
+}
+
+/// The text without the blanks (code 32 only, no tabs) at both ends.
+std::string_view trim(std::string_view text);
+
+/// Small letter of a character; covers the letters of the whole code page, umlauts too.
+char to_lower(char character);
+std::string to_lower(std::string_view text);
+
+/// Whether two texts are equal apart from letter case.
+bool equal_ignoring_case(std::string_view a, std::string_view b);
+
+/// Every occurrence of `from`, left to right and without overlap, replaced; an empty `from`
+/// replaces nothing.
+std::string replace_all(std::string_view text, std::string_view from, std::string_view to);
+
+/// The parts between the separators; an empty text has one empty part.
+std::vector<std::string_view> split(std::string_view text, std::string_view separator);
+
+/// Cuts the text before the first `separator` off the front of `rest`; the last part is what
+/// remains, and `rest` is then without data pointer. False when nothing remained.
+bool next_part(std::string_view& rest, std::string_view separator, std::string_view& part);
+
+/// How often the character stands in the text.
+std::size_t count_of(std::string_view text, char character);
+
+/// Whether a character is one of the digits 0 to 9.
+constexpr bool is_digit(char c) { return c >= '0' && c <= '9'; }
+
+/// Windows-1252 to UTF-8; every byte has a character.
+std::string to_utf8(std::string_view text);
+
+/// UTF-8 to Windows-1252; nothing when the text is no valid UTF-8 or has a character that the code
+/// page lacks.
+std::optional<std::string> from_utf8(std::string_view utf8);
+
+}  // namespace quenda
