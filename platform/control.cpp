@@ -19,6 +19,12 @@ BackColor designed_color(ControlKind kind) {
 
 }  // namespace
 
+void ControlHost::lock_input(bool locked) {
+  if (input_locked_ == locked) return;
+  input_locked_ = locked;
+  for (Control* control : controls_) control->refresh(Aspect::kEnabled);
+}
+
 Control::Control(ControlHost& host, ControlKind kind, std::string_view name, int index)
     : host_(host), kind_(kind), name_(name), index_(index), back_color_(designed_color(kind)) {
   host_.controls_.push_back(this);
@@ -71,7 +77,7 @@ void Control::set_focus() {
 
 bool Control::reachable() const {
   for (const Control* control = this; control != nullptr; control = control->parent_) {
-    if (!control->enabled_ || !control->visible_) return false;
+    if (!control->takes_input() || !control->visible_) return false;
   }
   return true;
 }

@@ -44,6 +44,10 @@ class ControlHost {
  public:
   /// The controls in the order of their construction.
   [[nodiscard]] const std::vector<Control*>& controls() const { return controls_; }
+  /// While input is locked, only controls that are always usable take any: long work locks it
+  /// before it handles events for the first time.
+  [[nodiscard]] bool input_locked() const { return input_locked_; }
+  void lock_input(bool locked);
 
  protected:
   ControlHost() = default;
@@ -52,6 +56,7 @@ class ControlHost {
  private:
   friend class Control;
   std::vector<Control*> controls_;
+  bool input_locked_ = false;
 };
 
 /// State and events that all controls share. Setters store, tell the peer, and raise the event
@@ -79,6 +84,13 @@ class Control {
   /// The control's own switch; a control inside a disabled frame takes no input whatever it says.
   [[nodiscard]] bool enabled() const { return enabled_; }
   void set_enabled(bool enabled);
+  /// Keeps the control usable while the form's input is locked.
+  void set_always_usable() { always_usable_ = true; }
+  /// Whether the control itself takes input now: enabled, and not locked with its form. This is
+  /// what a peer shows.
+  [[nodiscard]] bool takes_input() const {
+    return enabled_ && (always_usable_ || !host_.input_locked_);
+  }
   [[nodiscard]] bool visible() const { return visible_; }
   void set_visible(bool visible);
   [[nodiscard]] BackColor back_color() const { return back_color_; }
@@ -98,7 +110,7 @@ class Control {
   void bring_to_front() { refresh(Aspect::kZOrder); }
   /// Gives the control the keyboard focus and raises its event.
   void set_focus();
-  /// Whether the control and all frames around it are enabled and visible.
+  /// Whether the control and all frames around it take input and are visible.
   [[nodiscard]] bool reachable() const;
 
   std::function<void()> on_got_focus;
@@ -113,6 +125,8 @@ class Control {
   }
 
  private:
+  friend class ControlHost;
+
   ControlHost& host_;
   ControlKind kind_;
   std::string name_;
@@ -121,6 +135,7 @@ class Control {
   std::string spoken_name_;
   bool enabled_ = true;
   bool visible_ = true;
+  bool always_usable_ = false;
   BackColor back_color_;
   Place place_;
   Control* parent_ = nullptr;
