@@ -1,0 +1,28 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "platform/files.h"
+
+namespace quenda {
+
+/// The tool's path as this system's: UTF-8, "/" between the folders.
+std::string posix_path(std::string_view path);
+
+/// Files by the POSIX calls. A file that nobody may write to counts as read-only for everybody, the
+/// administrator included, as it does under Windows.
+class PosixFiles final : public Files {
+ public:
+  [[nodiscard]] bool exists(std::string_view path) const override;
+  [[nodiscard]] std::uint64_t size(std::string_view path) const override;
+  [[nodiscard]] std::uint64_t stamp(std::string_view path) const override;
+  [[nodiscard]] std::string read(std::string_view path) const override;
+  void write(std::string_view path, std::string_view content) override;
+  void append(std::string_view path, std::string_view content) override;
+  void replace_tail(std::string_view path, std::uint64_t keep, std::string_view tail) override;
+  void remove(std::string_view path) noexcept override;
+};
+
+}  // namespace quenda

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <cstdint>
+#include <limits>
+#include <map>
+#include <set>
+#include <string>
+#include <string_view>
+
+#include "platform/files.h"
+
+namespace quenda {
+
+/// A file system in memory. Letter case of paths does not matter, as under Windows. It can be told
+/// to be full, or to have protected or locked files.
+class FakeFiles final : public Files {
+ public:
+  /// Places a file, and makes its folder known.
+  void put(std::string_view path, std::string_view content);
+  void add_folder(std::string_view path);
+  /// Writing to the path fails with that fault from now on; 0 takes it back.
+  void refuse_writing(std::string_view path, int fault);
+  /// Reading the path fails with that fault from now on; 0 takes it back.
+  void refuse_reading(std::string_view path, int fault);
+  /// Bytes that all files together may still grow by.
+  std::uint64_t free_space = std::numeric_limits<std::uint64_t>::max();
+  /// The content, or the empty text for no file.
+  [[nodiscard]] std::string content(std::string_view path) const;
+  /// How often a file was written, appended to or replaced in part.
+  [[nodiscard]] int writes(std::string_view path) const;
+
+  [[nodiscard]] bool exists(std::string_view path) const override;
+  [[nodiscard]] std::uint64_t size(std::string_view path) const override;
+  [[nodiscard]] std::uint64_t stamp(std::string_view path) const override;
+  [[nodiscard]] std::string read(std::string_view path) const override;
+  void write(std::string_view path, std::string_view content) override;
+  void append(std::string_view path, std::string_view content) override;
+  void replace_tail(std::string_view path, std::uint64_t keep, std::string_view tail) override;
+  void remove(std::string_view path) noexcept override;
+
+ private:
+  struct Entry {
+    std::string content;
+    std::uint64_t stamp = 0;
+    int writes = 0;
+  };
+  [[nodiscard]] const Entry* find(std::string_view path) const;
+  void check_writable(const std::string& key) const;
+  void store(const std::string& key, std::string content);
+
+  std::map<std::string, Entry> entries_;
+  std::set<std::string> folders_;
+  std::map<std::string, int> refused_writing_;
+  std::map<std::string, int> refused_reading_;
+  std::uint64_t next_stamp_ = 1;
+};
+
+}  // namespace quenda
