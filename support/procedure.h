@@ -67,14 +67,14 @@ bool procedure(clsErrorHandling& errors, std::string_view name, TraceValues trac
 }
 
 /// As `procedure`, but the user sees a message box, and the report carries one value that says what
-/// was being worked on when the fault came.
+/// was being worked on when the fault came: the body keeps `worked_on` up to date.
 template <class Body>
 bool procedure_with_message(clsErrorHandling& errors, std::string_view name, TraceValues traced,
-                            const std::string& worked_on, Body&& body) {
+                            const std::string_view& worked_on, Body&& body) {
   if (errors.tracing()) errors.LogDebug_Trace(name, traced);
   return procedure_detail::trap(errors, body, [&](const RuntimeFault& fault, int statement) {
     errors.set_pending(fault, statement);
-    errors.ErrorLogWithMsgBox(name, {std::string_view(worked_on)});
+    errors.ErrorLogWithMsgBox(name, {worked_on});
   });
 }
 

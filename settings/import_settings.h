@@ -1,0 +1,80 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace quenda {
+
+class modAPI_INI;
+
+/// The kinds of columns, in the order of the wizard's header lists.
+enum SelectionKind : std::size_t {
+  kSelNames,
+  kSelNumbers,
+  kSelAddress1,
+  kSelAddress2,
+  kSelectionKinds
+};
+
+/// Most columns of a kind that can be chosen.
+inline constexpr std::size_t kMostSelected = 3;
+inline constexpr std::array<std::size_t, kSelectionKinds> kMostSelectedOf = {2, 3, 3, 3};
+
+/// Number boxes of the Outlook page, and characters of its address text.
+inline constexpr std::size_t kOutlookNumbers = 11;
+inline constexpr std::size_t kOutlookAddresses = 14;
+
+/// What the tool remembers from one run to the next, as values. What has not been loaded has its
+/// default.
+struct ImportSettings {
+  // The suite's general settings; read only.
+  std::string own_country = "49";
+  std::string own_area;
+  std::int32_t log_count = 25;
+  std::int32_t backup_count = 9;
+
+  // Position of the main window in twips.
+  std::int32_t top = 500;
+  std::int32_t left = 500;
+
+  // The merge and the Outlook page.
+  std::int32_t ask = 0;
+  std::int32_t min_name_length = 1;  // 1 keeps names below 3 characters out
+  std::int32_t ol_name_flip = 0;
+  std::int32_t ol_address_flip = 0;
+  std::string ol_number = "10010010000";                 // one "1" or "0" per number box
+  std::string ol_adress = "10010000000000";              // one "1" or "0" per address box
+  std::array<std::string, kOutlookNumbers> ol_name_ext;  // saved and never read back
+
+  // The header texts of the chosen columns, and how many there are.
+  std::array<std::array<std::string, kMostSelected>, kSelectionKinds> selections;
+  std::array<std::int32_t, kSelectionKinds> selection_counts{};
+
+  // The header pages. A suffix that is not in the file keeps the text that it has here.
+  std::int32_t name_flip = 0;
+  std::int32_t address_flip = 0;
+  std::array<std::string, 3> name_ext;
+  std::array<std::array<std::int32_t, 2>, 3> add_check{};
+};
+
+/// The tool's own settings file.
+inline constexpr std::string_view kImportSettingsFile = "\\data\\sett_import.ini";
+
+/// Each reads its group and leaves the rest alone. A value that cannot be read keeps the others
+/// from nothing.
+void load_general(modAPI_INI& ini, ImportSettings& settings);
+void load_window_position(modAPI_INI& ini, ImportSettings& settings);
+void load_page_options(modAPI_INI& ini, ImportSettings& settings);
+void load_selections(modAPI_INI& ini, ImportSettings& settings);
+void load_header_options(modAPI_INI& ini, ImportSettings& settings);
+
+void save_window_position(modAPI_INI& ini, const ImportSettings& settings);
+void save_page_options(modAPI_INI& ini, const ImportSettings& settings);
+/// Of each kind as many texts as its count says, the rest empty.
+void save_selections(modAPI_INI& ini, const ImportSettings& settings);
+void save_header_options(modAPI_INI& ini, const ImportSettings& settings);
+
+}  // namespace quenda

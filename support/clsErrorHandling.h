@@ -1,0 +1,131 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "platform/clock.h"
+#include "platform/dialogs.h"
+#include "support/fault.h"
+#include "support/trace_value.h"
+
+namespace quenda {
+
+class clsCollection;
+class Files;
+
+/// What the error service reads of the program's settings, each time anew.
+struct ErrorEnvironment {
+  std::string program_code = "IMP";  // names the program in every line; empty becomes "NON"
+  int major = 1;
+  int minor = 17;
+  bool trapping = true;     // off lets faults pass through, for work with a debugger
+  std::string main_folder;  // without "\" at the end; empty means that no log is written
+  bool trace_mode = false;
+  bool LogExport = false;
+  bool LogCAPI = false;
+  bool LogAVM = false;
+  bool LogNCID = false;
+  bool LogTAPI = false;
+  bool LogOther = false;
+  bool LogTiming = false;
+};
+
+/// Reports trapped faults and writes the trace and debug logs of the suite. Nothing here raises,
+/// whatever happens to the files.
+class clsErrorHandling {
+ public:
+  /// All three have to live as long as the service.
+  clsErrorHandling(const ErrorEnvironment& environment, Files& files, const Clock& clock);
+  clsErrorHandling(const clsErrorHandling&) = delete;
+  clsErrorHandling& operator=(const clsErrorHandling&) = delete;
+  /// Writes the trace lines that still wait.
+  ~clsErrorHandling();
+
+  /// Whether procedures trap faults.
+  [[nodiscard]] bool trapping() const { return environment_.trapping; }
+  /// Whether procedures announce themselves.
+  [[nodiscard]] bool tracing() const {
+    return environment_.trace_mode && !environment_.main_folder.empty();
+  }
+  /// The code of the program, never empty.
+  [[nodiscard]] std::string_view program_code() const;
+
+  /// The fault that the next report is about, and the statement that it came from (0 for none).
+  void set_pending(const RuntimeFault& fault, int statement);
+
+  /// The error log as messages to the user name it. The reports themselves are in no file; in trace
+  /// mode the trace log has them.
+  [[nodiscard]] static std::string_view FileLogError() { return "\\log\\error.log"; }
+  /// Whether the first trace entry tells the user that tracing is on, and starts a new trace log.
+  void TraceInfoMessage(bool show) { trace_info_message_ = show; }
+  void ErrorLogForceWrite(std::string_view procedure, TraceValues parameters);
+  void ErrorLogWithMsgBox(std::string_view procedure, TraceValues parameters);
+  void ErrorLogNew(std::string_view procedure, TraceValues parameters);
+  void LogDebug_Trace(std::string_view procedure, TraceValues parameters);
+  /// Keeps the next `count` trace entries out of the log.
+  void TraceHideNextSteps(std::int16_t count);
+  void LogDebug_Export(std::string_view procedure, TraceValues parameters);
+  void LogDebug_TAPI(std::string_view procedure, TraceValues parameters);
+  void LogDebug_CAPI(std::string_view procedure, TraceValues parameters);
+  void LogDebug_AVM(std::string_view procedure, TraceValues parameters);
+  void LogDebug_NCID(std::string_view procedure, TraceValues parameters);
+  void LogDebug_Other(std::string_view procedure, TraceValues parameters);
+  void LogDebug_Timing(std::string_view procedure, TraceValues parameters);
+  void LogDebug_Temp(std::string_view procedure, TraceValues parameters);
+
+  /// The line of the last report, as a log would show it; empty before the first report.
+  [[nodiscard]] const std::string& last_report() const { return last_report_; }
+
+  /// Set when the services exist that report here themselves. Without them messages keep their
+  /// German texts, and boxes are not shown.
+  std::function<std::string(std::string_view key, std::string_view german)> look_up_text;
+  std::function<void(std::string_view text, MessageStyle style, std::string_view title)>
+      show_message;
+  /// Told about every report that is not suppressed.
+  std::function<void(std::string_view procedure, const RuntimeFault& fault,
+                     std::string_view parameters)>
+      on_report;
+
+ private:
+  struct MessageTexts {
+    std::string ErrorRaised;
+    std::string SeeFile;
+    std::string TracingIsActive;
+    std::string MuchDataInShortTime;
+  };
+
+  const MessageTexts& LoadMessageTexts();
+  void ComposeErrorReport(std::string_view procedure, const std::string& parameters, bool show_box,
+                          bool force);
+  void report(std::string_view procedure, const std::string& parameters, bool show_box, bool force);
+  void Trace_Flush();
+  void DeleteTraceFile();
+  bool CanTrace();
+  void QueueTraceLine(std::string_view procedure, TraceValues parameters);
+  void WriteTraceQueue();
+  void WriteDebugLog(std::string_view procedure, TraceValues parameters);
+  void show(std::string_view text, MessageStyle style, std::string_view title);
+  [[nodiscard]] std::string log_path(std::string_view name) const;
+  [[nodiscard]] std::string program_and_version() const;
+
+  const ErrorEnvironment& environment_;
+  Files& files_;
+  const Clock& clock_;
+  LocalTime start_time_;
+  bool first_trace_pending_ = true;
+  bool trace_info_message_ = false;
+  std::int16_t hide_counter_ = 0;
+  std::optional<MessageTexts> message_texts_;
+  std::string last_traced_;
+  std::int16_t repeat_count_ = 0;
+  std::unique_ptr<clsCollection> oTraceQueue_;
+  std::optional<RuntimeFault> pending_;
+  int pending_statement_ = 0;
+  std::string last_report_;
+};
+
+}  // namespace quenda

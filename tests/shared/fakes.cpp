@@ -1,0 +1,100 @@
+#include "tests/shared/fakes.h"
+
+#include "platform/form.h"
+#include "support/fault.h"
+
+namespace quenda {
+
+MessageAnswer FakeDialogs::message_box(std::string_view text, MessageStyle style,
+                                       std::string_view title) {
+  boxes.push_back({std::string(text), style, std::string(title)});
+  if (answers.empty()) return MessageAnswer::kOk;
+  const MessageAnswer answer = answers.front();
+  answers.pop_front();
+  return answer;
+}
+
+std::string FakeDialogs::open_file(Form& /*owner*/, const std::vector<FileFilter>& wanted) {
+  filters.push_back(wanted);
+  if (paths.empty()) return {};
+  std::string path = std::move(paths.front());
+  paths.pop_front();
+  return path;
+}
+
+std::string FakeSystem::special_folder(int number) const {
+  const auto folder = folders.find(number);
+  return folder == folders.end() ? std::string() : folder->second;
+}
+
+int FakeSystem::open_with_shell(Form* /*owner*/, std::string_view verb, std::string_view file,
+                                std::string_view /*parameters*/, std::string_view /*folder*/) {
+  opened.push_back(std::string(verb) + " " + std::string(file));
+  return shell_result;
+}
+
+void FakeEvents::yield() {
+  ++yields;
+  if (on_yield) on_yield();
+}
+
+void FakeEvents::show_modal(Form& form, Form& /*owner*/) {
+  modal.push_back(&form);
+  if (on_modal) on_modal(form);
+  if (form.loaded()) form.unload();
+}
+
+void FakeHostLink::offer(std::string_view new_topic, std::string_view new_item,
+                         HostLinkEvents new_events) {
+  topic = new_topic;
+  item = new_item;
+  events = std::move(new_events);
+}
+
+namespace {
+
+class Dispatch : public AutomationObject {
+ public:
+  explicit Dispatch(std::shared_ptr<FakeObject> object) : object_(std::move(object)) {}
+
+  std::string text(std::string_view name) override { return member(object_->texts, name); }
+  long number(std::string_view name) override { return member(object_->numbers, name); }
+  std::unique_ptr<AutomationObject> object(std::string_view name) override {
+    return std::make_unique<Dispatch>(member(object_->objects, name));
+  }
+  std::unique_ptr<AutomationObject> object(std::string_view name, long argument) override {
+    const auto& list = member(object_->lists, name);
+    const auto position = static_cast<std::size_t>(argument - 1);
+    if (position >= list.size()) raise_fault(kFaultAutomation);
+    return std::make_unique<Dispatch>(list[position]);
+  }
+  std::unique_ptr<AutomationObject> object(std::string_view name,
+                                           std::string_view argument) override {
+    return std::make_unique<Dispatch>(
+        member(object_->objects, std::string(name) + "(" + std::string(argument) + ")"));
+  }
+  std::string type_name() override { return object_->type; }
+
+ private:
+  template <class Members>
+  const typename Members::mapped_type& member(const Members& members, std::string_view name) const {
+    const auto fault = object_->faults.find(name);
+    if (fault != object_->faults.end()) raise_fault(fault->second);
+    const auto found = members.find(name);
+    if (found == members.end()) raise_fault(kFaultNoSuchMember);
+    return found->second;
+  }
+
+  std::shared_ptr<FakeObject> object_;
+};
+
+}  // namespace
+
+std::unique_ptr<AutomationObject> FakeAutomation::create(std::string_view program_id) {
+  created.emplace_back(program_id);
+  const auto program = programs.find(program_id);
+  if (program == programs.end()) raise_fault(kFaultNoComponent);
+  return std::make_unique<Dispatch>(program->second);
+}
+
+}  // namespace quenda
