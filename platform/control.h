@@ -23,6 +23,10 @@ struct Place {
   friend bool operator==(const Place&, const Place&) = default;
 };
 
+/// What a control does along one axis when its parent is larger than designed: keep its distance
+/// from the start, from the end, or from both by growing.
+enum class Anchor { kStart, kEnd, kBoth };
+
 /// What kind of native control shows a control.
 enum class ControlKind {
   kLabel,
@@ -100,6 +104,13 @@ class Control {
   void set_place(const Place& place);
   /// Moves the control without changing its size.
   void move_to(int left, int top);
+  /// How the control takes part when the user makes the window larger.
+  [[nodiscard]] Anchor anchor_across() const { return anchor_across_; }
+  [[nodiscard]] Anchor anchor_down() const { return anchor_down_; }
+  void set_anchors(Anchor across, Anchor down) {
+    anchor_across_ = across;
+    anchor_down_ = down;
+  }
   /// The frame that holds the control; null for one that lies on the form itself.
   [[nodiscard]] Control* parent() const { return parent_; }
   void set_parent(Control* parent) { parent_ = parent; }
@@ -138,6 +149,8 @@ class Control {
   bool always_usable_ = false;
   BackColor back_color_;
   Place place_;
+  Anchor anchor_across_ = Anchor::kStart;
+  Anchor anchor_down_ = Anchor::kStart;
   Control* parent_ = nullptr;
   int tab_index_ = -1;
   ControlPeer* peer_ = nullptr;

@@ -35,6 +35,10 @@ class Form : public ControlHost {
   /// The window's new position after the user moved it.
   void take_user_position(int left, int top);
 
+  /// Whether the user may make the window larger than designed; controls follow by their anchors.
+  [[nodiscard]] bool resizable() const { return resizable_; }
+  void set_resizable(bool resizable) { resizable_ = resizable; }
+
   [[nodiscard]] Pointer pointer() const { return pointer_; }
   void set_pointer(Pointer pointer);
   /// While redrawing is off, changes are not shown.
@@ -49,10 +53,13 @@ class Form : public ControlHost {
 
   std::function<void(bool& cancel, CloseReason reason)> on_query_unload;
   std::function<void()> on_unload;
-  /// The window became the active one.
+  /// The window is the active one, and none of its controls has the keyboard focus.
   std::function<void()> on_got_focus;
   /// A file was dropped onto the window.
   std::function<void(std::string_view path)> on_drop_file;
+  /// The user dropped or chose a file whose name has characters outside Windows-1252, so that the
+  /// tool cannot name it; `nearest` is the path with those characters replaced.
+  std::function<void(std::string_view nearest)> on_unusable_path;
   /// F1 was pressed.
   std::function<void()> on_help;
 
@@ -76,6 +83,7 @@ class Form : public ControlHost {
   Place place_;
   Pointer pointer_ = Pointer::kDefault;
   bool redraw_ = true;
+  bool resizable_ = false;
   bool loaded_ = true;
   ControlPeer* peer_ = nullptr;
 };

@@ -27,7 +27,10 @@ class TextBox : public Control {
 
   /// A locked field shows its text and takes no typing.
   [[nodiscard]] bool locked() const { return locked_; }
-  void set_locked(bool locked) { locked_ = locked; }
+  void set_locked(bool locked) {
+    locked_ = locked;
+    refresh(Aspect::kEnabled);
+  }
 
   std::function<void()> on_change;
   /// The Windows-1252 code of a typed key; the handler may change it, 0 swallows the key.
