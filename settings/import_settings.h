@@ -31,8 +31,8 @@ inline constexpr std::size_t kOutlookAddresses = 14;
 /// default.
 struct ImportSettings {
   // The suite's general settings; read only.
-  std::string own_country = "49";
-  std::string own_area;
+  std::string own_country_code = "49";
+  std::string own_area_code;
   std::int32_t log_count = 25;
   std::int32_t backup_count = 9;
 
@@ -65,7 +65,7 @@ inline constexpr std::string_view kImportSettingsFile = "\\data\\sett_import.ini
 
 /// Each reads its group and leaves the rest alone. A value that cannot be read keeps the others
 /// from nothing.
-void load_general(modAPI_INI& ini, ImportSettings& settings);
+void load_general_values(modAPI_INI& ini, ImportSettings& settings);
 void load_window_position(modAPI_INI& ini, ImportSettings& settings);
 void load_page_options(modAPI_INI& ini, ImportSettings& settings);
 void load_selections(modAPI_INI& ini, ImportSettings& settings);
