@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/clock.h"
+#include "support/local_time.h"
 
 // Dates and times as texts.
 namespace quenda {

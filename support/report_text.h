@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/clock.h"
+#include "support/local_time.h"
 #include "support/trace_value.h"
 
 // The texts of trace lines and error reports.
