@@ -1,0 +1,50 @@
+# Sourced by the scripts of this project.
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+jobs=$(nproc)
+
+say() { printf '\n== %s\n' "$*"; }
+die() { printf '%s\n' "$*" >&2; exit 1; }
+
+# Installs what is missing of the Debian packages named.
+need_packages() {
+  local missing=() package
+  for package; do
+    [[ $(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null) == installed ]] ||
+      missing+=("$package")
+  done
+  [ ${#missing[@]} -eq 0 ] && return
+  say "Installing ${missing[*]}"
+  local as_root=()
+  if [ "$(id -u)" -ne 0 ]; then
+    command -v sudo >/dev/null || die "Please install as root: apt-get install ${missing[*]}"
+    as_root=(sudo)
+  fi
+  "${as_root[@]}" apt-get update -q
+  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+    apt-get install -q -y --no-install-recommends "${missing[@]}"
+}
+
+# The tracked files that fit the patterns, below the project's root.
+tracked() {
+  local list
+  list=$(git -c safe.directory="$root" -C "$root" ls-files -- "$@")
+  [ -n "$list" ] || die "git lists no files for $*"
+  printf '%s\n' "$list"
+}
+
+# Configures when that has not been done yet, and builds; output only when something fails or is
+# worth a warning. Usage: build PRESET [TARGET...]
+build() {
+  local preset=$1
+  shift
+  if command -v ccache >/dev/null; then
+    export CMAKE_C_COMPILER_LAUNCHER=ccache CMAKE_CXX_COMPILER_LAUNCHER=ccache
+  fi
+  mkdir -p "$root/build"
+  local log=$root/build/$preset.log
+  (
+    cd "$root"
+    cmake --preset "$preset" &&
+      cmake --build "build/$preset" --parallel "$jobs" ${1:+--target "$@"}
+  ) >"$log" 2>&1 || { cat "$log" >&2; die "building $preset failed"; }
+}
