@@ -111,6 +111,9 @@ class Control {
     anchor_across_ = across;
     anchor_down_ = down;
   }
+  /// A heading is shown in larger, bold letters. Part of the design, not changed later.
+  [[nodiscard]] bool heading() const { return heading_; }
+  void set_heading(bool heading) { heading_ = heading; }
   /// The frame that holds the control; null for one that lies on the form itself.
   [[nodiscard]] Control* parent() const { return parent_; }
   void set_parent(Control* parent) { parent_ = parent; }
@@ -147,6 +150,7 @@ class Control {
   bool enabled_ = true;
   bool visible_ = true;
   bool always_usable_ = false;
+  bool heading_ = false;
   BackColor back_color_;
   Place place_;
   Anchor anchor_across_ = Anchor::kStart;

@@ -32,6 +32,9 @@ class Form : public ControlHost {
   /// Outer position and inner size in twips.
   [[nodiscard]] const Place& place() const { return place_; }
   void set_place(const Place& place);
+  /// Width of the window with its frame; 0 for a form that only tells its inner width.
+  [[nodiscard]] int outer_width() const { return outer_width_; }
+  void set_outer_width(int twips) { outer_width_ = twips; }
   /// The window's new position after the user moved it.
   void take_user_position(int left, int top);
 
@@ -81,6 +84,7 @@ class Form : public ControlHost {
   std::string name_;
   std::string caption_;
   Place place_;
+  int outer_width_ = 0;
   Pointer pointer_ = Pointer::kDefault;
   bool redraw_ = true;
   bool resizable_ = false;

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "platform/control.h"
-#include "platform/flat_table.h"
+#include "support/flat_table.h"
 
 namespace quenda {
 

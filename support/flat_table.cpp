@@ -1,4 +1,4 @@
-#include "platform/flat_table.h"
+#include "support/flat_table.h"
 
 #include <limits>
 

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "app/fMain.h"
+
+namespace quenda {
+
+/// Long work of the main form: hourglass, progress shown from 0, and no input but "cancel" until it
+/// is over, however it ends.
+class BusyWork {
+ public:
+  explicit BusyWork(fMain& form) : form_(form) {
+    form_.set_pointer(Pointer::kHourglass);
+    form_.lock_input(true);
+    form_.PicProgress.set_percent(0);
+    form_.PicProgress.set_visible(true);
+  }
+  ~BusyWork() {
+    form_.PicProgress.set_visible(false);
+    form_.PicProgress.set_percent(0);
+    form_.lock_input(false);
+    form_.set_pointer(Pointer::kDefault);
+  }
+  BusyWork(const BusyWork&) = delete;
+  BusyWork& operator=(const BusyWork&) = delete;
+
+  /// A callable for rules that report their steps.
+  [[nodiscard]] auto on_step() {
+    return [this](std::size_t done, std::size_t total) { form_.step(done, total); };
+  }
+
+ private:
+  fMain& form_;
+};
+
+}  // namespace quenda

@@ -1,0 +1,42 @@
+#include "app/design.h"
+
+#include "app/app.h"
+#include "platform/form.h"
+#include "support/fault.h"
+
+namespace quenda {
+namespace {
+
+Control& control_of(const Form& form, std::string_view name, int index) {
+  Control* const control = form.find(name, index);
+  if (control == nullptr) raise_fault(kFaultNoControlElement);
+  return *control;
+}
+
+}  // namespace
+
+void apply_design(Form& form, std::span<const DesignEntry> design) {
+  for (const DesignEntry& entry : design) {
+    Control& control = control_of(form, entry.name, entry.index);
+    control.set_place(entry.place);
+    control.set_tab_index(entry.tab_index);
+    if (!entry.frame.empty()) control.set_parent(&control_of(form, entry.frame, entry.frame_index));
+  }
+}
+
+void load_captions(Form& form, std::span<const DesignEntry> design, App& app) {
+  for (const DesignEntry& entry : design) {
+    if (entry.caption.empty()) continue;
+    control_of(form, entry.name, entry.index).set_caption(app.text(entry.caption));
+  }
+}
+
+void centre_over(Form& dialog, const Form& owner) {
+  const Place& over = owner.place();
+  Place place = dialog.place();
+  place.left = over.left + (over.width - place.width) / 2;
+  place.top = over.top + (over.height - place.height) / 2;
+  dialog.set_place(place);
+}
+
+}  // namespace quenda

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace quenda {
+
+/// One entry of the phone book. The texts are views into the text that the entry was read from.
+struct BookEntry {
+  std::string_view Name;
+  std::string_view Number;  // the key; an entry without a number is not written
+  std::string_view Tag = "0";
+  std::string_view Address;
+  std::string_view Extra;
+  std::string_view CardData;  // what stands between "[vcd(" and ")vcd]"
+  std::int16_t Count = 0;
+  bool Flag1 = false;
+  bool Flag2 = false;
+};
+
+/// The entry on a line of the book. Faults: 9 fewer than eight fields, 13 a flag or count that is
+/// no such value, 6 a count beyond 16 bits, 5 a card block that is not closed.
+BookEntry read_book_line(std::string_view line);
+
+/// Adds the entry's line, with its CR LF, to the text. `Extra` is not written: the tool leaves that
+/// field empty whatever the book held there. Nothing is escaped; a ";" inside a text shifts the
+/// fields of the line.
+void append_book_line(std::string& text, const BookEntry& entry);
+
+}  // namespace quenda

@@ -1,0 +1,40 @@
+#include "book/book_file.h"
+
+#include <algorithm>
+
+#include "support/text.h"
+
+namespace quenda {
+
+bool BookLines::next(std::string_view& line) {
+  if (rest_.empty()) return false;
+  const auto at = rest_.find(kCrLf);
+  line = rest_.substr(0, at);
+  rest_ = at == rest_.npos ? std::string_view() : rest_.substr(at + kCrLf.size());
+  return true;
+}
+
+BookChange compose_book(std::string_view old_text, const std::vector<BookEntry>& entries,
+                        const std::function<void(std::size_t, std::size_t)>& on_step) {
+  BookChange change;
+  std::string line;
+  std::size_t done = 0;
+  for (const BookEntry& entry : entries) {
+    on_step(++done, entries.size());
+    if (entry.Number.empty()) continue;
+    if (!change.tail.empty()) {
+      append_book_line(change.tail, entry);
+      continue;
+    }
+    line.clear();
+    append_book_line(line, entry);
+    const std::string_view old_rest = old_text.substr(change.keep);
+    const auto differs =
+        std::mismatch(line.begin(), line.end(), old_rest.begin(), old_rest.end()).first;
+    change.keep += static_cast<std::uint64_t>(differs - line.begin());
+    change.tail.assign(differs, line.end());
+  }
+  return change;
+}
+
+}  // namespace quenda

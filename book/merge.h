@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "book/book_entry.h"
+
+namespace quenda {
+
+/// What happens to a number that the book has under another name or address; the numbers are those
+/// of the options on the last page.
+enum class MergeMode : int { kAsk = 0, kTakeNew = 1, kKeepExisting = 2 };
+
+/// The user's answers so far. `replace` is the last answer to a question and outlives it: as long
+/// as it says so, a double replaces the existing entry in every mode.
+struct MergeState {
+  MergeMode mode = MergeMode::kAsk;
+  bool replace = false;
+};
+
+/// Asks the user about a number that is there already: the number, then the existing and the new
+/// entry in words. The answer goes into the MergeState that the removal works with.
+using AskAboutDouble =
+    std::function<void(std::string_view number, const std::string& existing, const std::string& fresh)>;
+
+/// Removes doubles by telephone number (compared as exact texts) from a list in which the book's
+/// entries stand before the new ones; the earlier entry counts as the existing one, inside the book
+/// too. Equal names and addresses (letter case aside) make an exact double, which is dropped. A
+/// replacing entry moves to the end of the list, takes over `Tag` and `Count`, and leaves the
+/// replaced one behind without number. Entries without a number are dropped. Returns how many
+/// entries the list keeps, those without number by replacement included. `on_step` is told after
+/// each entry.
+std::size_t remove_double_entries(
+    std::vector<BookEntry>& entries, const MergeState& state, const AskAboutDouble& ask,
+    const std::function<void(std::size_t done, std::size_t total)>& on_step);
+
+}  // namespace quenda

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "sources/record_table.h"
+
+// The rules of delimited contact files: which delimiter a file uses, how quotes are taken out, and
+// how its text becomes records.
+namespace quenda {
+
+/// The delimiters that the tool knows, in the order of the choice list.
+inline constexpr std::array<char, 3> kDelimiters = {';', ',', '\t'};
+
+/// Told now and then by long work: what has been done of the total, in bytes or records.
+using OnStep = std::function<void(std::size_t done, std::size_t total)>;
+
+/// How often each delimiter occurs in a file, and how many line breaks (CR characters) it has.
+struct DelimiterCounts {
+  std::array<std::size_t, kDelimiters.size()> of{};
+  std::size_t line_breaks = 0;
+};
+
+DelimiterCounts count_delimiters(std::string_view text);
+
+/// Position of the delimiter that occurs more often than each of the others; -1 on a tie.
+int choose_delimiter(const DelimiterCounts& counts);
+
+/// Whether a delimiter occurs at least as often as there are line breaks in the whole file. The
+/// test is meant to be this weak: not every line needs the delimiter.
+bool delimiter_acceptable(const DelimiterCounts& counts, int delimiter);
+
+/// The lines of a text, split at every CR LF; nothing for a text without CR LF. A text that ends
+/// with CR LF has an empty last line.
+RecordTable split_lines(std::shared_ptr<const std::string> text);
+
+/// Takes every pair of adjacent double quotes out, in place: an escaped quote inside a quoted field
+/// disappears, and an empty quoted field becomes an empty field.
+void remove_doubled_quotes(std::string& text);
+
+/// Cuts a text without doubled quotes into records. Inside quotes that follow a delimiter, line
+/// breaks become blanks and delimiters "|"; a quote that opens the first field of a line protects
+/// nothing there, but such a field is put together again with "|". The quotes stay in the records.
+/// A lone LF is dropped, so that a file with LF line ends becomes one record; a record cut off by
+/// the end of the file gets a surplus delimiter at its end.
+RecordTable build_records(std::string text, char delimiter, const OnStep& on_step);
+
+/// Gives every record at least as many delimiters as the header has. Fault 6 when a record, or the
+/// header, has more than 32767; the records before it are padded then.
+void pad_records(RecordTable& records, char delimiter, const OnStep& on_step);
+
+/// A field as the user reads it: without quotes, and with the delimiter where "|" stands for it.
+std::string shown_field(std::string_view field, char delimiter);
+
+/// The fields of a record as the user reads them.
+std::vector<std::string> shown_fields(std::string_view record, char delimiter);
+
+/// Whether a path names a call log: its lower-cased text has "ispy.log" at the end, and nowhere
+/// before.
+bool is_ispy_log(std::string_view path);
+
+}  // namespace quenda

@@ -1,0 +1,115 @@
+#include <string>
+#include <vector>
+
+#include "app/app.h"
+#include "app/busy.h"
+#include "app/fMain.h"
+#include "platform/events.h"
+#include "support/modProgress.h"
+#include "support/procedure.h"
+#include "support/text.h"
+
+namespace quenda {
+
+bool fMain::outlook_importable() const {
+  return outlook_.installed() && outlook_.contact_count() > 0;
+}
+
+void fMain::tmOLcheck_Timer() {
+  procedure(app_.errors, "fMain.tmOLcheck_Timer", {}, [&] {
+    tmOLcheck.set_enabled(false);
+    outlook_.isOutlookInstalled(true);
+    cmdOutlook.set_enabled(outlook_importable() && txtImpFile.enabled());
+    if (!outlook_.installed()) {
+      labOLver.set_caption(texts.outlook_not_inst);
+      StatusBar.set_panel(2, texts.outlook_not_inst);
+      return;
+    }
+    std::string version =
+        concat(outlook_.version_name(), "  v", outlook_.major_version());
+    if (outlook_.contact_count() == 0) version.append(" ").append(texts.data_not_found);
+    labOLver.set_caption(version);
+    StatusBar.set_panel(
+        2, concat(std::to_string(outlook_.contact_count()), " ", texts.contacts_found));
+  });
+}
+
+void fMain::cmdOutlook_Click() {
+  procedure(app_.errors, "fMain.cmdOutlook_Click", {}, [&] {
+    txtImpFile.set_text("");
+    StatusBar.set_panel(1, "Importmode: Outlook");
+    if (!outlook_.installed()) return;
+    lstImport.clear();
+    cmdBack.set_enabled(true);
+    ShowSite();
+    show_outlook_page();
+    source.IsOutlookSource = true;
+    Import();
+    cmdFor.set_enabled(lstImport.count() > 0);
+  });
+}
+
+void fMain::show_outlook_page() {
+  frmImpOL.set_enabled(true);
+  frmImpOL.set_visible(true);
+  frmImpOL.bring_to_front();
+  show_title(kOutlookTitle);
+}
+
+void fMain::Import() {
+  procedure(app_.errors, "fMain.Import", {}, [&] {
+    std::vector<OutlookContact> contacts;
+    {
+      const BusyWork busy(*this);
+      LockElements(true);
+      StatusBar.set_panel(2, texts.items_recycle);
+      outlook_.getContactsAll(contacts, [this](std::size_t done, std::size_t total) {
+        modProgress_Show(PicProgress, static_cast<std::int64_t>(done), 1,
+                         static_cast<std::int64_t>(total));
+        app_.services.events.yield();
+        return !wizard.abort;
+      });
+      contacts_ = ContactTable();
+      for (std::size_t i = 0; i < contacts.size(); ++i) {
+        add_contact(contacts_, contacts[i]);
+        step(i + 1, contacts.size());
+      }
+      LockElements(false);
+    }
+    StatusBar.set_panel(2, concat(std::to_string(contacts.size()), " ", texts.contacts_found));
+    DataView();
+  });
+}
+
+void fMain::DataView() {
+  procedure(app_.errors, "fMain.DataView", {}, [&] {
+    OutlookChoice choice;
+    choice.flip_name = chkFlipName.ticked();
+    choice.flip_address = chkFlipAdress.ticked();
+    for (const auto& box : chkImport) {
+      const int kind = box->index();
+      const bool two = has_two_addresses(static_cast<std::size_t>(kind));
+      choice.kinds.at(static_cast<std::size_t>(kind)) = {
+          box->ticked(), chkAdr(kind).ticked(), two && chkAdr(kind + 10).ticked(),
+          txtImport(kind).text()};
+    }
+    lstImport.set_table(preview_rows(contacts_, choice));
+    show_counts(lstImport.count(), texts.items_for_import);
+  });
+}
+
+void fMain::chkImport_Click(int index) {
+  procedure(app_.errors, "fMain.chkImport_Click", {index}, [&] {
+    if (wizard.loading) return;
+    LockElements(false);
+    DataView();
+  });
+}
+
+void fMain::chkAdr_Click(int index) {
+  procedure(app_.errors, "fMain.chkAdr_Click", {index}, [&] {
+    if (!wizard.loading) DataView();
+  });
+}
+
+}  // namespace quenda

@@ -1,0 +1,166 @@
+#include "wizard/composition.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "support/conversions.h"
+#include "support/fault.h"
+#include "support/text.h"
+
+namespace quenda {
+namespace {
+
+using Order = std::vector<std::size_t>;
+
+const std::array<Order, 6>& orders_of_three() {
+  static const std::array<Order, 6> orders = {Order{0, 1, 2}, Order{0, 2, 1}, Order{1, 2, 0},
+                                              Order{1, 0, 2}, Order{2, 0, 1}, Order{2, 1, 0}};
+  return orders;
+}
+
+const std::array<Order, 2>& orders_of_two() {
+  static const std::array<Order, 2> orders = {Order{0, 1}, Order{1, 0}};
+  return orders;
+}
+
+void append_without_quotes(std::string& out, std::string_view field) {
+  for (auto at = field.find('"'); at != field.npos; at = field.find('"')) {
+    out += field.substr(0, at);
+    field.remove_prefix(at + 1);
+  }
+  out += field;
+}
+
+void append_name(std::string& out, std::string_view first, std::string_view second, bool flip) {
+  append_without_quotes(out, flip ? second : first);
+  out += ' ';
+  append_without_quotes(out, flip ? first : second);
+}
+
+template <class Parts>
+void append_parts(std::string& out, const Parts& parts, const Order& order) {
+  if (order.size() == 1) {
+    out += parts[0];
+    return;
+  }
+  for (std::size_t i = 0; i < order.size(); ++i) {
+    if (i > 0) out += ' ';
+    out += parts[order[i]];
+  }
+}
+
+}  // namespace
+
+std::string compose_name(std::string_view first, std::string_view second, bool flip) {
+  std::string name;
+  append_name(name, first, second, flip);
+  return name;
+}
+
+std::string compose_address(const std::array<std::string_view, 3>& parts, const Order& order) {
+  std::string address;
+  append_parts(address, parts, order);
+  return std::string(trim(address));
+}
+
+std::vector<std::string> address_order_names(const std::vector<std::string>& parts) {
+  std::vector<std::string> safe;
+  for (const std::string& part : parts) safe.push_back(replace_all(part, "/", "-"));
+  const auto joined = [&](const Order& order) {
+    std::string name;
+    for (const std::size_t part : order) {
+      if (!name.empty()) name += '/';
+      name += safe[part];
+    }
+    return name;
+  };
+  std::vector<std::string> names;
+  if (safe.size() == 1) names = safe;
+  if (safe.size() == 2) {
+    for (const Order& order : orders_of_two()) names.push_back(joined(order));
+  }
+  if (safe.size() >= 3) {
+    for (const Order& order : orders_of_three()) names.push_back(joined(order));
+  }
+  return names;
+}
+
+Order address_order(std::string_view entry, int position) {
+  const auto at = static_cast<std::size_t>(position);
+  if (count_of(entry, '/') == 1) {
+    if (at >= orders_of_two().size()) raise_fault(kFaultIndexRange);
+    return orders_of_two()[at];
+  }
+  if (at >= orders_of_three().size()) raise_fault(kFaultIndexRange);
+  return orders_of_three()[at];
+}
+
+std::string address_preview(const std::vector<std::string>& parts, const Order& order) {
+  std::string joined;
+  for (const std::size_t part : order) {
+    if (part < parts.size()) joined += parts[part];
+    joined += '/';
+  }
+  std::string preview = replace_all(joined, "//", "/");
+  if (preview.starts_with('/')) preview.erase(0, 1);
+  if (preview.ends_with('/')) preview.pop_back();
+  return preview;
+}
+
+LineComposer::LineComposer(Composition composition, char delimiter, CleanNumber clean)
+    : composition_(std::move(composition)), delimiter_(delimiter), clean_(std::move(clean)) {
+  const ColumnChoice& columns = composition_.columns;
+  for (const auto* positions :
+       {&columns.names, &columns.numbers, &columns.addresses[0], &columns.addresses[1]}) {
+    for (const std::size_t position : *positions) last_column_ = std::max(last_column_, position);
+  }
+}
+
+void LineComposer::compose(const RecordTable& records, std::size_t record, TextRows& lines) {
+  fields_.split(records, record, delimiter_, last_column_);
+  if (!fields_.has_delimiter()) return;
+  const ColumnChoice& columns = composition_.columns;
+  const auto name_part = [&](std::size_t part) {
+    return part < columns.names.size() ? fields_[columns.names[part]] : std::string_view();
+  };
+  name_.clear();
+  append_name(name_, name_part(0), name_part(1), composition_.flip_name);
+
+  const std::size_t rows = std::min(columns.numbers.size(), kNumberRows);
+  std::string number;
+  for (std::size_t row = 0; row < rows; ++row) {
+    number.clear();
+    append_without_quotes(number, fields_[columns.numbers[row]]);
+    if (number.empty()) continue;
+    add_line(row, clean_(number), lines);
+  }
+}
+
+void LineComposer::add_line(std::size_t row, std::string_view number, TextRows& lines) {
+  const std::string_view address = address_of(row);
+  if (!is_numeric(number)) return;
+  const std::size_t name_size = name_.size();
+  name_.append(" ").append(composition_.suffixes[row]);
+  lines.append(trim(name_));
+  lines.append(';');
+  lines.append(number);
+  lines.append(';');
+  lines.append(address);
+  lines.end_row();
+  name_.resize(name_size);
+}
+
+std::string_view LineComposer::address_of(std::size_t row) {
+  const Binding binding = composition_.bindings[row];
+  if (binding == Binding::kNone) return {};
+  const auto& positions = composition_.columns.addresses[binding == Binding::kAddress2 ? 1 : 0];
+  for (std::size_t i = 0; i < parts_.size(); ++i) {
+    parts_[i].clear();
+    if (i < positions.size()) append_without_quotes(parts_[i], fields_[positions[i]]);
+  }
+  address_.clear();
+  append_parts(address_, parts_, composition_.address_order);
+  return trim(address_);
+}
+
+}  // namespace quenda

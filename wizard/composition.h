@@ -1,0 +1,86 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "sources/record_table.h"
+#include "support/text_rows.h"
+
+// How one record becomes entry lines: name, cleaned number and address, one line per number.
+namespace quenda {
+
+inline constexpr std::size_t kNumberRows = 3;
+inline constexpr std::size_t kAddressCount = 2;
+
+/// What a number row takes as its address.
+enum class Binding { kNone, kAddress1, kAddress2 };
+
+/// The columns chosen for each purpose, as positions from 0 in the order of the file.
+struct ColumnChoice {
+  std::vector<std::size_t> names;
+  std::vector<std::size_t> numbers;
+  std::array<std::vector<std::size_t>, kAddressCount> addresses;
+};
+
+/// Everything that the pages of the wizard settle about the entry lines.
+struct Composition {
+  ColumnChoice columns;
+  bool flip_name = false;
+  std::vector<std::size_t> address_order = {0};
+  std::array<std::string, kNumberRows> suffixes;
+  std::array<Binding, kNumberRows> bindings{};
+};
+
+/// Two name parts with a blank between; flipped, the second comes first. The blank stays when a
+/// part is empty.
+std::string compose_name(std::string_view first, std::string_view second, bool flip);
+
+/// The parts in the given order, joined with blanks and trimmed; a blank stays for a part that is
+/// empty between others. An order of one entry takes the first part alone.
+std::string compose_address(const std::array<std::string_view, 3>& parts,
+                            const std::vector<std::size_t>& order);
+
+/// The possible orders of up to three address parts by their names, as "Straße/PLZ/Ort"; nothing
+/// for no parts. A "/" inside a name is shown as "-", because the number of "/" tells how many
+/// parts an order has.
+std::vector<std::string> address_order_names(const std::vector<std::string>& parts);
+
+/// The order behind an entry of the order list: its text tells the number of parts (one "/" means
+/// two, any other number three), its position the order. Fault 9 for a position without an order.
+std::vector<std::size_t> address_order(std::string_view entry, int position);
+
+/// The names of an address's parts in an order, as the page shows them: "Straße/Ort".
+std::string address_preview(const std::vector<std::string>& parts,
+                            const std::vector<std::size_t>& order);
+
+/// Brings a number into dialling form.
+using CleanNumber = std::function<std::string(std::string_view)>;
+
+/// Turns records into entry lines; made once for all records of a file.
+class LineComposer {
+ public:
+  LineComposer(Composition composition, char delimiter, CleanNumber clean);
+
+  /// Adds the record's lines, at most one per number row, in row order. A record without the
+  /// delimiter has none. Fault 9 when a chosen column that is needed is missing in the record.
+  void compose(const RecordTable& records, std::size_t record, TextRows& lines);
+
+ private:
+  void add_line(std::size_t row, std::string_view number, TextRows& lines);
+  [[nodiscard]] std::string_view address_of(std::size_t row);
+
+  Composition composition_;
+  char delimiter_;
+  CleanNumber clean_;
+  std::size_t last_column_ = 0;
+  RecordFields fields_;
+  std::string name_;
+  std::array<std::string, 3> parts_;
+  std::string address_;
+};
+
+}  // namespace quenda
