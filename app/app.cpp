@@ -32,9 +32,9 @@ bool App::start() {
   load_shared_texts(language, shared_texts);
   if (services.system.command_line().find("/i") != std::string::npos) return true;
   load_shared_texts(language, shared_texts);
-  message_box(concat(text("Import_Msg_DirectCallNotProvided"), kCrLf,
-                     text("Import_Msg_UseMenuInBook")),
-              MessageStyle::kInformation);
+  message_box(
+      concat(text("Import_Msg_DirectCallNotProvided"), kCrLf, text("Import_Msg_UseMenuInBook")),
+      MessageStyle::kInformation);
   return false;
 }
 

@@ -13,8 +13,8 @@ class Form;
 /// One control as a form is designed: where it lies and which text it carries.
 struct DesignEntry {
   std::string_view name;
-  int index;                 // in its control array, -1 for none
-  std::string_view frame;    // the frame that holds it, empty for the form itself
+  int index;               // in its control array, -1 for none
+  std::string_view frame;  // the frame that holds it, empty for the form itself
   int frame_index;
   Place place;               // twips, inside the frame
   int tab_index;             // -1 is never reached by the Tab key

@@ -83,8 +83,8 @@ void fImportItemEdit::cmdEdit_Click(int index) {
     if (index == 0) {
       auto& edited = main_.edited;
       edited.row = row_;
-      edited.changed = !(txtName.text().empty() && txtNumber.text().empty() &&
-                         txtAdress.text().empty());
+      edited.changed =
+          !(txtName.text().empty() && txtNumber.text().empty() && txtAdress.text().empty());
       edited.name = txtName.text();
       edited.address = txtAdress.text();
       edited.number = txtNumber.text();

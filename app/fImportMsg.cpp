@@ -53,8 +53,7 @@ void fImportMsg::Language() {
 }
 
 void fImportMsg::fill(std::string_view number, std::string_view existing, std::string_view fresh) {
-  labMsgNumber.set_caption(
-      concat(app_.text("Import_Label_ItemExistWithNumber"), ": ", number));
+  labMsgNumber.set_caption(concat(app_.text("Import_Label_ItemExistWithNumber"), ": ", number));
   labMsgIn.set_caption(existing);
   labMsgNew.set_caption(fresh);
 }

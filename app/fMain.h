@@ -58,8 +58,8 @@ struct WizardState {
   bool link_open = false;  // the phone book listens
 };
 
-/// The wizard. Its procedures fetch values from the controls, call a rule, and put the results back;
-/// their bodies lie beside the rules that they call (sources/, wizard/, book/, app/).
+/// The wizard. Its procedures fetch values from the controls, call a rule, and put the results
+/// back; their bodies lie beside the rules that they call (sources/, wizard/, book/, app/).
 class fMain : public Form {
  public:
   explicit fMain(App& app);
@@ -239,8 +239,7 @@ class fMain : public Form {
   ControlArray<Label> labImport{*this, "labImport", {0, 1, 2}};
   ControlArray<CheckBox> chkImport{*this, "chkImport", {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11}};
   ControlArray<TextBox> txtImport{*this, "txtImport", {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11}};
-  ControlArray<CheckBox> chkAdr{
-      *this, "chkAdr", {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 17, 18, 21}};
+  ControlArray<CheckBox> chkAdr{*this, "chkAdr", {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 17, 18, 21}};
   CheckBox chkFlipName{*this, "chkFlipName"};
   CheckBox chkFlipAdress{*this, "chkFlipAdress"};
   Label labPreview{*this, "labPreview"};

@@ -95,7 +95,12 @@ constexpr DesignEntry kAddressPage[] = {
     {"txtAdres", 0, "frmImp", 3, {2520, 555, 7920, 345}, 53, ""},
     {"labAdres", 1, "frmImp", 3, {0, 1050, 2340, 255}, 54, "Import_Label_AddressInfo2"},
     {"txtAdres", 1, "frmImp", 3, {2520, 1005, 7920, 345}, 55, ""},
-    {"labAdresBind", -1, "frmImp", 3, {0, 1650, kPageWidth, 255}, -1,
+    {"labAdresBind",
+     -1,
+     "frmImp",
+     3,
+     {0, 1650, kPageWidth, 255},
+     -1,
      "Import_Label_SelectedAddressAlloc"},
     {"frmBind", 0, "frmImp", 3, {0, 1980, kPageWidth, 870}, -1, ""},
     {"chk1", 0, "frmBind", 0, {180, 375, 1050, 300}, 56, ""},
@@ -138,9 +143,8 @@ constexpr DesignEntry kOutlookHead[] = {
     {"chkFlipAdress", -1, "frmImpOL", -1, {0, 5010, 5580, 300}, 149, "Import_ChkBox_FlipAddress"},
 };
 
-constexpr std::span<const DesignEntry> kDesign[] = {kFrames,      kSourcePage, kColumnPage,
-                                                    kNamePage,    kAddressPage, kEntryPage_,
-                                                    kOutlookHead};
+constexpr std::span<const DesignEntry> kDesign[] = {
+    kFrames, kSourcePage, kColumnPage, kNamePage, kAddressPage, kEntryPage_, kOutlookHead};
 
 /// The eleven number kinds of the Outlook page: what the box says, and what is added to the name
 /// until the user types something else.
@@ -234,8 +238,8 @@ void fMain::name_address_boxes() {
       const std::string address = std::to_string(box->index() + 1);
       box->set_caption(address);
       // Read aloud, "1" alone would say nothing.
-      box->set_spoken_name(concat(texts.number, " ", std::to_string(row + 1), ": ", texts.address,
-                                  " ", address));
+      box->set_spoken_name(
+          concat(texts.number, " ", std::to_string(row + 1), ": ", texts.address, " ", address));
     }
   }
 }

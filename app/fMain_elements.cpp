@@ -7,9 +7,9 @@ namespace quenda {
 
 void fMain::LockElements(bool lock) {
   procedure(app_.errors, "fMain.LockElements", {lock}, [&] {
-    for (Control* control : {static_cast<Control*>(&cmdBack), static_cast<Control*>(&cmdHelp),
-                             static_cast<Control*>(&chkFlipName),
-                             static_cast<Control*>(&chkFlipAdress)}) {
+    for (Control* control :
+         {static_cast<Control*>(&cmdBack), static_cast<Control*>(&cmdHelp),
+          static_cast<Control*>(&chkFlipName), static_cast<Control*>(&chkFlipAdress)}) {
       control->set_enabled(!lock);
     }
     for (const auto& box : chkImport) {
@@ -25,9 +25,8 @@ void fMain::LockElements(bool lock) {
 }
 
 void fMain::ObjectEnable(bool enabled, Control& control) {
-  procedure(app_.errors, "fMain.ObjectEnable", {enabled, control.name(), control.index()}, [&] {
-    control.set_back_color(enabled ? BackColor::kWindow : BackColor::kButtonFace);
-  });
+  procedure(app_.errors, "fMain.ObjectEnable", {enabled, control.name(), control.index()},
+            [&] { control.set_back_color(enabled ? BackColor::kWindow : BackColor::kButtonFace); });
 }
 
 ControlArray<CheckBox>& fMain::address_boxes(std::size_t row) {

@@ -43,9 +43,9 @@ void fMain::Form_Load() {
     tmOLcheck.set_enabled(true);
     StatusBar.set_panel(2, texts.outlook_search);
     entry_lines_.clear();
-    app_.services.host_link.offer("book", "txtDDE",
-                                  {[this] { Form_LinkOpen(); }, [this] { Form_LinkClose(); },
-                                   [this] { Form_LinkError(); }});
+    app_.services.host_link.offer(
+        "book", "txtDDE",
+        {[this] { Form_LinkOpen(); }, [this] { Form_LinkClose(); }, [this] { Form_LinkError(); }});
   });
 }
 

@@ -13,7 +13,12 @@ namespace {
 
 constexpr DesignEntry kDesign[] = {
     {"labRequired", -1, "", -1, {240, 180, 6240, 510}, -1, "Import_Label_ImportRequiredCodes"},
-    {"labWithoutAreaCode", -1, "", -1, {240, 720, 6240, 510}, -1,
+    {"labWithoutAreaCode",
+     -1,
+     "",
+     -1,
+     {240, 720, 6240, 510},
+     -1,
      "Import_Label_SettingsWithoutAreaCode"},
     {"labOwnArea", -1, "", -1, {240, 1320, 6240, 255}, -1, "Import_Label_OwnArea"},
     {"labLVW", -1, "", -1, {240, 1725, 2000, 255}, 0, "Settings_Label_CountryCode"},
@@ -75,9 +80,7 @@ void fOVWInput::Language() {
   });
 }
 
-void fOVWInput::enable_ok() {
-  cmdOK.set_enabled(own_codes_complete(txtLVW.text(), txtOVW.text()));
-}
+void fOVWInput::enable_ok() { cmdOK.set_enabled(own_codes_complete(txtLVW.text(), txtOVW.text())); }
 
 void fOVWInput::txtLVW_Change() {
   procedure(app_.errors, "fOVWInput.txtLVW_Change", {}, [&] { enable_ok(); });

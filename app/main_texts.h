@@ -49,7 +49,7 @@ struct MainTexts {
 /// A key of the language files and the text that it fills.
 struct MainText {
   std::string_view key;
-  std::string MainTexts::* field;
+  std::string MainTexts::*field;
 };
 
 inline constexpr std::array kMainTexts = {

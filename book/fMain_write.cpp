@@ -24,7 +24,7 @@ void fMain::Add() {
   if (!done) return;
   if (!wizard.link_open) {
     app_.message_box(concat(texts.dde_not_connected, kCrLf, texts.refresh_info),
-                                MessageStyle::kInformation);
+                     MessageStyle::kInformation);
   }
   unload();
 }

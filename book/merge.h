@@ -23,8 +23,8 @@ struct MergeState {
 
 /// Asks the user about a number that is there already: the number, then the existing and the new
 /// entry in words. The answer goes into the MergeState that the removal works with.
-using AskAboutDouble =
-    std::function<void(std::string_view number, const std::string& existing, const std::string& fresh)>;
+using AskAboutDouble = std::function<void(std::string_view number, const std::string& existing,
+                                          const std::string& fresh)>;
 
 /// Removes doubles by telephone number (compared as exact texts) from a list in which the book's
 /// entries stand before the new ones; the earlier entry counts as the existing one, inside the book

@@ -102,8 +102,7 @@ class RecordBuilder {
   /// A field that begins with a quote and does not end with one was cut by a delimiter that
   /// belongs to it.
   [[nodiscard]] char field_end() const {
-    const bool cut =
-        written_ > field_ && text_[field_] == kQuote && text_[written_ - 1] != kQuote;
+    const bool cut = written_ > field_ && text_[field_] == kQuote && text_[written_ - 1] != kQuote;
     return cut ? '|' : delimiter_;
   }
 

@@ -25,8 +25,7 @@ void fMain::tmOLcheck_Timer() {
       StatusBar.set_panel(2, texts.outlook_not_inst);
       return;
     }
-    std::string version =
-        concat(outlook_.version_name(), "  v", outlook_.major_version());
+    std::string version = concat(outlook_.version_name(), "  v", outlook_.major_version());
     if (outlook_.contact_count() == 0) version.append(" ").append(texts.data_not_found);
     labOLver.set_caption(version);
     StatusBar.set_panel(
@@ -89,9 +88,9 @@ void fMain::DataView() {
     for (const auto& box : chkImport) {
       const int kind = box->index();
       const bool two = has_two_addresses(static_cast<std::size_t>(kind));
-      choice.kinds.at(static_cast<std::size_t>(kind)) = {
-          box->ticked(), chkAdr(kind).ticked(), two && chkAdr(kind + 10).ticked(),
-          txtImport(kind).text()};
+      choice.kinds.at(static_cast<std::size_t>(kind)) = {box->ticked(), chkAdr(kind).ticked(),
+                                                         two && chkAdr(kind + 10).ticked(),
+                                                         txtImport(kind).text()};
     }
     lstImport.set_table(preview_rows(contacts_, choice));
     show_counts(lstImport.count(), texts.items_for_import);

@@ -18,7 +18,7 @@ constexpr long kContactsFolder = 10;
 /// Names from version 7 on, one per major version.
 constexpr int kFirstNamedVersion = 7;
 constexpr std::array kVersionNames = {
-    u8"Outlook®95"_de,   u8"Outlook®97"_de,   u8"Outlook®2000"_de,
+    u8"Outlook®95"_de,      u8"Outlook®97"_de,   u8"Outlook®2000"_de,
     u8"Outlook®2002 XP"_de, u8"Outlook®2003"_de, u8"Outlook®2007"_de,
     u8"Outlook®Unknown"_de, u8"Outlook®2010"_de, u8"Outlook®2013"_de};
 

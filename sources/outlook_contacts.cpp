@@ -57,8 +57,8 @@ void add_contact(ContactTable& table, const OutlookContact& contact) {
                                     : concat(contact[kFirstName], ";", contact[kLastName]);
   const std::string home =
       address_cell(contact[kHomePostalCode], contact[kHomeCity], contact[kHomeStreet]);
-  const std::string business = address_cell(contact[kBusinessPostalCode], contact[kBusinessCity],
-                                            contact[kBusinessStreet]);
+  const std::string business =
+      address_cell(contact[kBusinessPostalCode], contact[kBusinessCity], contact[kBusinessStreet]);
   std::array<std::string_view, kContactColumns> cells;
   cells[kContactName] = name;
   for (std::size_t i = 0; i < kFieldOfColumn.size(); ++i) {

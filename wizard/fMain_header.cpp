@@ -16,21 +16,18 @@ void fMain::ImpHeader() {
     const std::string_view header_record = source.ImportRows[0];
     if (header_record.find(source.Delimiter) == header_record.npos) {
       fill_header_lists({});
-      app_.message_box(
-          concat(texts.no_delimiter_found, kCrLf, texts.import_not_available),
-          MessageStyle::kCritical);
+      app_.message_box(concat(texts.no_delimiter_found, kCrLf, texts.import_not_available),
+                       MessageStyle::kCritical);
       wizard.CurrentPage = kFirstPage;
       cmdBack_Click();
       return;
     }
-    const std::vector<std::string> header =
-        shown_fields(source.ImportRows.padded_text(0, source.Delimiter.front()),
-                     source.Delimiter.front());
+    const std::vector<std::string> header = shown_fields(
+        source.ImportRows.padded_text(0, source.Delimiter.front()), source.Delimiter.front());
     fill_header_lists(header);
     if (std::any_of(header.begin(), header.end(), [](const auto& text) { return text.empty(); })) {
-      app_.message_box(
-          concat(texts.header_fault, kCrLf, texts.error_free_no_warranted),
-          MessageStyle::kInformation);
+      app_.message_box(concat(texts.header_fault, kCrLf, texts.error_free_no_warranted),
+                       MessageStyle::kInformation);
     }
     select_saved_columns(header);
   });
