@@ -66,9 +66,7 @@ void Control::set_place(const Place& place) {
   refresh(Aspect::kPlace);
 }
 
-void Control::move_to(int left, int top) {
-  set_place({left, top, place_.width, place_.height});
-}
+void Control::move_to(int left, int top) { set_place({left, top, place_.width, place_.height}); }
 
 void Control::set_focus() {
   refresh(Aspect::kFocus);

@@ -10,21 +10,19 @@
 
 namespace quenda {
 
-/// What a label is for: it names a field ("&" marks the letter that leads there), heads a page in
-/// large letters, or shows the user's data, in which "&" is a character like any other.
-enum class LabelStyle { kFieldName, kHeading, kData };
-
 /// A text that the user cannot change.
 class Label : public Control {
  public:
   Label(ControlHost& host, std::string_view name, int index = -1)
       : Control(host, ControlKind::kLabel, name, index) {}
 
-  [[nodiscard]] LabelStyle style() const { return style_; }
-  void set_style(LabelStyle style) { style_ = style; }
+  /// Whether the caption is the user's data, in which "&" is a character like any other. In the
+  /// name of a field it marks the letter that leads there. Part of the design, not changed later.
+  [[nodiscard]] bool shows_data() const { return shows_data_; }
+  void set_shows_data(bool shows_data) { shows_data_ = shows_data; }
 
  private:
-  LabelStyle style_ = LabelStyle::kFieldName;
+  bool shows_data_ = false;
 };
 
 /// A group of controls that move, show and take input together.

@@ -40,16 +40,16 @@ constexpr std::array kDescriptions = {
 
 }  // namespace
 
-RuntimeFault::RuntimeFault(int number)
-    : number_(number), description_(fault_description(number)) {}
+RuntimeFault::RuntimeFault(int number) : number_(number), description_(fault_description(number)) {}
 
 void raise_fault(int number) { throw RuntimeFault(number); }
 
 std::string_view fault_description(int number) {
   const auto* const found = std::find_if(kDescriptions.begin(), kDescriptions.end(),
-                                  [&](const Description& d) { return d.number == number; });
-  return found != kDescriptions.end() ? found->text
-                                      : std::string_view("Anwendungs- oder objektdefinierter Fehler");
+                                         [&](const Description& d) { return d.number == number; });
+  return found != kDescriptions.end()
+             ? found->text
+             : std::string_view("Anwendungs- oder objektdefinierter Fehler");
 }
 
 RuntimeFault current_fault() {

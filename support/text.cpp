@@ -110,7 +110,11 @@ std::optional<std::string> from_utf8(std::string_view utf8) {
   result.reserve(utf8.size());
   for (std::size_t i = 0; i < utf8.size();) {
     const auto lead = static_cast<unsigned char>(utf8[i]);
-    const std::size_t size = lead < 0x80 ? 1 : lead < 0xC2 ? 0 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 0;
+    const std::size_t size = lead < 0x80   ? 1
+                             : lead < 0xC2 ? 0
+                             : lead < 0xE0 ? 2
+                             : lead < 0xF0 ? 3
+                                           : 0;
     if (size == 0 || i + size > utf8.size()) return std::nullopt;
     char32_t code_point = size == 1 ? lead : lead & (0x7FU >> size);
     for (std::size_t k = 1; k < size; ++k) {
