@@ -54,6 +54,10 @@ class clsErrorHandling {
   /// The code of the program, never empty.
   [[nodiscard]] std::string_view program_code() const;
 
+  /// Code and version, "IMP v1.17".
+  [[nodiscard]] std::string program_and_version() const;
+  [[nodiscard]] const std::string& main_folder() const { return environment_.main_folder; }
+
   /// The fault that the next report is about, and the statement that it came from (0 for none).
   void set_pending(const RuntimeFault& fault, int statement);
 
@@ -80,6 +84,9 @@ class clsErrorHandling {
   /// The line of the last report, as a log would show it; empty before the first report.
   [[nodiscard]] const std::string& last_report() const { return last_report_; }
 
+  /// Shows a box through `show_message`.
+  void show(std::string_view text, MessageStyle style, std::string_view title);
+
   /// Set when the services exist that report here themselves. Without them messages keep their
   /// German texts, and boxes are not shown.
   std::function<std::string(std::string_view key, std::string_view german)> look_up_text;
@@ -99,7 +106,7 @@ class clsErrorHandling {
   };
 
   const MessageTexts& LoadMessageTexts();
-  void ComposeErrorReport(std::string_view procedure, const std::string& parameters, bool show_box,
+  void ComposeErrorReport(std::string_view procedure, TraceValues parameters, bool show_box,
                           bool force);
   void report(std::string_view procedure, const std::string& parameters, bool show_box, bool force);
   void Trace_Flush();
@@ -108,9 +115,7 @@ class clsErrorHandling {
   void QueueTraceLine(std::string_view procedure, TraceValues parameters);
   void WriteTraceQueue();
   void WriteDebugLog(std::string_view procedure, TraceValues parameters);
-  void show(std::string_view text, MessageStyle style, std::string_view title);
   [[nodiscard]] std::string log_path(std::string_view name) const;
-  [[nodiscard]] std::string program_and_version() const;
 
   const ErrorEnvironment& environment_;
   Files& files_;
@@ -118,10 +123,10 @@ class clsErrorHandling {
   LocalTime start_time_;
   bool first_trace_pending_ = true;
   bool trace_info_message_ = false;
-  std::int16_t hide_counter_ = 0;
+  int hide_counter_ = 0;
   std::optional<MessageTexts> message_texts_;
   std::string last_traced_;
-  std::int16_t repeat_count_ = 0;
+  int repeat_count_ = 0;
   std::unique_ptr<clsCollection> oTraceQueue_;
   std::optional<RuntimeFault> pending_;
   int pending_statement_ = 0;

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -32,7 +31,7 @@ class modTimePeriods {
   clsErrorHandling& errors_;
   const Clock& clock_;
   const System& system_;
-  std::optional<std::string> limiter_;
+  std::string limiter_;  // empty until it has been found
 };
 
 }  // namespace quenda

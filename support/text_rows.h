@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstring>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -32,8 +33,9 @@ class TextRows {
   void append(char character) { text_ += character; }
   void end_row() { ends_.push_back(text_.size()); }
 
-  /// Drops every row for which `keep(position)` is false, in place and in one pass; the others stay
-  /// in their order. `keep` is asked once per row, from the first to the last.
+  /// Drops every row for which `keep(row, position)` is false, in place and in one pass; the others
+  /// stay in their order. `keep` gets each row, from the first to the last, and the position that
+  /// it would have; the rows before that position are the ones kept so far.
   template <class Keep>
   void keep_rows(Keep keep);
 
@@ -51,8 +53,8 @@ void TextRows::keep_rows(Keep keep) {
   std::size_t start = 0;
   for (std::size_t row = 0; row < ends_.size(); ++row) {
     const std::size_t end = ends_[row];
-    if (keep(row)) {
-      if (written != start) text_.replace(written, end - start, text_, start, end - start);
+    if (keep(std::string_view(text_.data() + start, end - start), kept)) {
+      if (written != start) std::memmove(text_.data() + written, text_.data() + start, end - start);
       written += end - start;
       ends_[kept++] = written;
     }

@@ -1,0 +1,105 @@
+#include "support/clsFiles.h"
+
+#include <cstring>
+#include <utility>
+
+#include "platform/clock.h"
+#include "platform/files.h"
+#include "support/date_text.h"
+#include "support/procedure.h"
+#include "support/text.h"
+
+namespace quenda {
+namespace {
+
+constexpr std::int64_t kKilobyte = 1024;
+
+/// The log without its oldest lines, so that it fits into three quarters of the maximum. A log
+/// without a CR LF is one line and goes as a whole.
+std::string_view newest_lines(std::string_view log, std::int32_t maximum) {
+  const std::int64_t target = maximum - maximum / 4;
+  while (static_cast<std::int64_t>(log.size()) / kKilobyte > target) {
+    const auto line_end = log.find(kCrLf);
+    log.remove_prefix(line_end == log.npos ? log.size() : line_end + kCrLf.size());
+  }
+  return log;
+}
+
+/// How many CR LF the text has, and in `line_feeds` how many LF.
+long count_line_ends(std::string_view text, long& line_feeds) {
+  long line_ends = 0;
+  line_feeds = 0;
+  const char* const begin = text.data();
+  const char* const end = begin + text.size();
+  for (const char* at = begin; at != end; ++at) {
+    const void* const found = std::memchr(at, '\n', static_cast<std::size_t>(end - at));
+    if (found == nullptr) break;
+    at = static_cast<const char*>(found);
+    ++line_feeds;
+    if (at != begin && at[-1] == '\r') ++line_ends;
+  }
+  return line_ends;
+}
+
+}  // namespace
+
+long line_count(std::string_view text) {
+  if (text.empty()) return 0;
+  long line_feeds = 0;
+  const long line_ends = count_line_ends(text, line_feeds);
+  return line_ends > 0 ? line_ends + (text.ends_with(kCrLf) ? 0 : 1) : line_feeds / 2 + 1;
+}
+
+void clsFiles::FileWrite_Log(std::string_view path, std::string_view text, std::int32_t maximum) {
+  procedure(errors_, "clsFiles.FileWrite_Log", {path}, [&] {
+    const std::string entry = concat(log_stamp(clock_.now()), text);
+    const auto size = static_cast<std::int64_t>(files_.size(path)) / kKilobyte;
+    if (maximum < 1 || maximum >= size) {
+      MakeFile(path, entry, true);
+      return;
+    }
+    long count = 0;
+    const std::string log = fOpenFileToStream(path, count);
+    MakeFile(path, concat(newest_lines(log, maximum), entry), false);
+  });
+}
+
+std::string clsFiles::fOpenFileToStream(std::string_view path, long& count) {
+  std::string text;
+  count = 0;
+  procedure(errors_, "clsFiles.fOpenFileToStream", {path}, [&] {
+    if (!files_.exists(path) || files_.size(path) == 0) return;
+    text = files_.read(path);
+    count = line_count(text);
+  });
+  return text;
+}
+
+bool clsFiles::MakeFile(std::string_view path, std::string_view text, bool append) {
+  return procedure_with_own_report(
+      errors_, "clsFiles.MakeFile", {path, append},
+      [&] {
+        const std::string line = concat(text, kCrLf);
+        if (append) {
+          files_.append(path, line);
+        } else {
+          files_.write(path, line);
+        }
+      },
+      [&](const RuntimeFault& fault, int statement) {
+        errors_.set_pending(fault, statement);
+        errors_.ErrorLogNew("clsFiles_MakeFile", {});
+      });
+}
+
+bool clsFiles::FileExist(std::string_view path) {
+  bool there = false;
+  procedure(errors_, "clsFiles.FileExist", {path}, [&] { there = files_.exists(path); });
+  return there;
+}
+
+void clsFiles::FileDelete(std::string_view path) {
+  procedure(errors_, "clsFiles.FileDelete", {path}, [&] { files_.remove(path); });
+}
+
+}  // namespace quenda

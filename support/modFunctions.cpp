@@ -1,0 +1,23 @@
+#include "support/modFunctions.h"
+
+#include "support/characters.h"
+#include "support/procedure.h"
+
+namespace quenda::modFunctions {
+
+std::string fStringClear(clsErrorHandling& errors, std::string_view text,
+                         std::string_view characters, std::string_view replacement) {
+  std::string result;
+  procedure(errors, "modFunctions.fStringClear", {text, characters, replacement},
+            [&] { result = strip_characters(text, characters, replacement); });
+  return result;
+}
+
+std::size_t fAnzahlZeichen(clsErrorHandling& errors, std::string_view text, std::string_view part) {
+  std::size_t count = 0;
+  procedure(errors, "modFunctions.fAnzahlZeichen", {part},
+            [&] { count = count_occurrences(text, part); });
+  return count;
+}
+
+}  // namespace quenda::modFunctions

@@ -1,0 +1,22 @@
+#include "support/modPrivateDummy.h"
+
+#include "platform/system.h"
+#include "support/procedure.h"
+#include "support/text.h"
+
+namespace quenda::modPrivateDummy {
+
+std::string message_title(std::string_view title, std::string_view executable_name) {
+  return title.empty() ? concat("Quenda - ", executable_name) : std::string(title);
+}
+
+MessageAnswer MsgBoxForward(clsErrorHandling& errors, Dialogs& dialogs, const System& system,
+                            std::string_view text, MessageStyle style, std::string_view title) {
+  auto answer = MessageAnswer::kOk;
+  procedure(errors, "modPrivateDummy.MsgBoxForward", {text, static_cast<int>(style), title}, [&] {
+    answer = dialogs.message_box(text, style, message_title(title, system.executable_name()));
+  });
+  return answer;
+}
+
+}  // namespace quenda::modPrivateDummy
