@@ -1,0 +1,126 @@
+#include "book/merge.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace quenda {
+namespace {
+
+BookEntry entry(std::string_view name, std::string_view number, std::string_view address = "") {
+  BookEntry made;
+  made.Name = name;
+  made.Number = number;
+  made.Address = address;
+  return made;
+}
+
+class RemoveDoubleEntries : public testing::Test {
+ protected:
+  std::size_t remove(std::vector<BookEntry> entries) {
+    entries_ = std::move(entries);
+    return remove_double_entries(
+        entries_, state_,
+        [this](std::string_view number, const std::string& existing, const std::string& fresh) {
+          questions_.push_back(std::string(number) + ": " + existing + " / " + fresh);
+          state_.replace = take_new_;
+          if (for_all_) state_.mode = take_new_ ? MergeMode::kTakeNew : MergeMode::kKeepExisting;
+        },
+        [](auto, auto) {});
+  }
+  /// "name:number" of what would be written.
+  [[nodiscard]] std::vector<std::string> written() const {
+    std::vector<std::string> lines;
+    for (const BookEntry& e : entries_) {
+      if (!e.Number.empty()) lines.push_back(std::string(e.Name) + ":" + std::string(e.Number));
+    }
+    return lines;
+  }
+  using Lines = std::vector<std::string>;
+
+  std::vector<BookEntry> entries_;
+  MergeState state_;
+  bool take_new_ = false;
+  bool for_all_ = false;
+  Lines questions_;
+};
+
+TEST_F(RemoveDoubleEntries, DropsExactDoublesWhateverTheirLetterCase) {
+  EXPECT_EQ(remove({entry("M\xFCller", "030",
+                          "Stra\xDF"
+                          "e"),
+                    entry("M\xDCLLER", "030",
+                          "STRA\xDF"
+                          "E")}),
+            1U);
+  EXPECT_TRUE(questions_.empty());
+}
+
+TEST_F(RemoveDoubleEntries, KeepsTheExistingEntry) {
+  state_.mode = MergeMode::kKeepExisting;
+  EXPECT_EQ(remove({entry("Alt", "030"), entry("Neu", "030"), entry("Neu", "031")}), 2U);
+  EXPECT_EQ(written(), (Lines{"Alt:030", "Neu:031"}));
+  EXPECT_TRUE(questions_.empty());
+}
+
+TEST_F(RemoveDoubleEntries, ReplacingEntryMovesToTheEndAndKeepsTagAndCountOnly) {
+  state_.mode = MergeMode::kTakeNew;
+  BookEntry existing = entry("Alt", "030");
+  existing.Tag = "x";
+  existing.Count = 7;
+  existing.Flag1 = true;
+  existing.CardData = "card";
+  EXPECT_EQ(remove({existing, entry("Zwei", "031"), entry("Neu", "030")}), 3U);
+  EXPECT_EQ(written(), (Lines{"Zwei:031", "Neu:030"}));
+  EXPECT_EQ(entries_[2].Tag, "x");
+  EXPECT_EQ(entries_[2].Count, 7);
+  EXPECT_FALSE(entries_[2].Flag1);
+  EXPECT_EQ(entries_[2].CardData, "");
+}
+
+TEST_F(RemoveDoubleEntries, ReplacedNumberIsFoundAgainUnderItsNewEntry) {
+  state_.mode = MergeMode::kTakeNew;
+  EXPECT_EQ(remove({entry("Eins", "030"), entry("Zwei", "030"), entry("Drei", "030"),
+                    entry("drei", "030")}),
+            3U);
+  EXPECT_EQ(written(), Lines{"Drei:030"});
+}
+
+TEST_F(RemoveDoubleEntries, AsksForEachDoubleUntilAnAnswerIsForAll) {
+  const std::vector<BookEntry> entries = {entry("A", "1", "x"), entry("B", "1", "y"),
+                                          entry("C", "1", "z")};
+  remove(entries);
+  EXPECT_EQ(questions_, (Lines{"1: A  x / B  y", "1: A  x / C  z"}));
+  questions_.clear();
+  for_all_ = true;
+  take_new_ = true;
+  remove(entries);
+  EXPECT_EQ(questions_.size(), 1U);
+  EXPECT_EQ(written(), Lines{"C:1"});
+}
+
+TEST_F(RemoveDoubleEntries, LastAnswerOutlivesItsQuestion) {
+  // Once "take the new one" was the answer, doubles replace in the keeping mode too.
+  state_ = {MergeMode::kKeepExisting, true};
+  remove({entry("Alt", "030"), entry("Neu", "030")});
+  EXPECT_EQ(written(), Lines{"Neu:030"});
+}
+
+TEST_F(RemoveDoubleEntries, NamelessEntryIsReplacedWithoutAQuestionInEveryMode) {
+  for (const auto mode : {MergeMode::kAsk, MergeMode::kKeepExisting}) {
+    state_ = {mode, false};
+    remove({entry("", "030", "Ort"), entry("Neu", "030")});
+    EXPECT_EQ(written(), Lines{"Neu:030"});
+  }
+  EXPECT_TRUE(questions_.empty());
+}
+
+TEST_F(RemoveDoubleEntries, DropsEntriesWithoutNumberAndComparesNumbersExactly) {
+  EXPECT_EQ(remove({entry("A", ""), entry("A", "03 0"), entry("A", "030"), entry("B", "")}), 2U);
+  EXPECT_EQ(written(), (Lines{"A:03 0", "A:030"}));
+}
+
+}  // namespace
+}  // namespace quenda

@@ -1,0 +1,57 @@
+#include "book/number_cleaning.h"
+
+#include <gtest/gtest.h>
+
+#include <ostream>
+#include <string>
+
+namespace quenda {
+namespace {
+
+struct NumberCase {
+  std::string number;
+  std::string country;
+  std::string cleaned;
+};
+void PrintTo(const NumberCase& c, std::ostream* out) { *out << c.number << " in " << c.country; }
+
+class CleanNumber : public testing::TestWithParam<NumberCase> {};
+
+TEST_P(CleanNumber, IsInDiallingForm) {
+  EXPECT_EQ(clean_number(GetParam().number, GetParam().country), GetParam().cleaned);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Numbers, CleanNumber,
+    testing::Values(NumberCase{"+49 (0)30 / 123-45", "0049", "03012345"},
+                    NumberCase{"+1 212 555", "0049", "001212555"},
+                    NumberCase{"00493012345", "0049", "03012345"},
+                    NumberCase{"004930004912", "0049", "03012"},  // every occurrence goes
+                    NumberCase{"0300049", "0049", "0300049"},     // none when none is in front
+                    NumberCase{"(+49) 30", "0049", "04930"},      // "(00" loses its "(0"
+                    NumberCase{"030/12.34,5", "", "03012345"},
+                    NumberCase{"[030]\"*#=?\\1", "0049", "0301"},
+                    NumberCase{"12345678", "0049", "012345678"}, NumberCase{"", "0049", "0"},
+                    NumberCase{"+49", "0049", "0"}, NumberCase{"0800 PIZZA", "0049", "0800PIZZA"}));
+
+TEST(AddAreaCode, CompletesShortLocalNumbersOnly) {
+  EXPECT_EQ(add_area_code("123456", "030"), "030123456");
+  EXPECT_EQ(add_area_code("12345678", "030"), "03012345678");
+  EXPECT_EQ(add_area_code("123456789", "030"), "123456789");
+  EXPECT_EQ(add_area_code("0301234", "030"), "0301234");
+}
+
+TEST(OwnCodes, CompleteNeedsTwoZerosAcceptableOne) {
+  EXPECT_TRUE(own_codes_complete("0049", "030"));
+  EXPECT_FALSE(own_codes_complete("049", "030"));
+  EXPECT_TRUE(own_codes_acceptable("049", "030"));
+  for (const auto* const area : {"30", "03", "0", ""}) {
+    EXPECT_FALSE(own_codes_complete("0049", area)) << area;
+    EXPECT_FALSE(own_codes_acceptable("0049", area)) << area;
+  }
+  EXPECT_FALSE(own_codes_acceptable("49", "030"));
+  EXPECT_FALSE(own_codes_acceptable("00", "030"));
+}
+
+}  // namespace
+}  // namespace quenda

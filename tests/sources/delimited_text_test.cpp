@@ -1,0 +1,204 @@
+#include "sources/delimited_text.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "support/fault.h"
+
+namespace quenda {
+namespace {
+
+const OnStep kNoStep = [](std::size_t, std::size_t) {};
+
+std::vector<std::string> records_of(std::string text, char delimiter = ';') {
+  remove_doubled_quotes(text);
+  const RecordTable table = build_records(text, delimiter, kNoStep);
+  std::vector<std::string> records;
+  for (std::size_t i = 0; i < table.size(); ++i) records.emplace_back(table[i]);
+  return records;
+}
+
+struct CleanCase {
+  const char* name;
+  std::string text;
+  std::vector<std::string> records;
+};
+void PrintTo(const CleanCase& c, std::ostream* out) { *out << c.name; }
+
+class BuildRecords : public testing::TestWithParam<CleanCase> {};
+
+TEST_P(BuildRecords, GivesTheRecords) {
+  EXPECT_EQ(records_of(GetParam().text), GetParam().records);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Texts, BuildRecords,
+    testing::Values(
+        CleanCase{"closed last line leaves a lone delimiter",
+                  "a;b;c\r\n1;2;3\r\n",
+                  {"a;b;c", "1;2;3", ";"}},
+        CleanCase{"open last line gets a surplus delimiter", "a;b\r\n1;2", {"a;b", "1;2;"}},
+        CleanCase{"no line end at all", "a;b;c", {"a;b;c;"}}, CleanCase{"empty text", "", {""}},
+        CleanCase{"only doubled quotes", "\"\"", {""}},
+        CleanCase{
+            "quoted delimiter and line break", "x;\"b;c\r\nd\";y\r\n", {"x;\"b|c  d\";y", ";"}},
+        CleanCase{"first field cut by its delimiter",
+                  "\"Meier; Hans\";1\r\n",
+                  {"\"Meier| Hans\";1", ";"}},
+        CleanCase{"quoted last field keeps its line end",
+                  "1;\"a;b\"\r\n2;\"c\"\r\n",
+                  {"1;\"a|b\"", "2;\"c\"", ";"}},
+        CleanCase{
+            "escaped quotes vanish", "1;\"He said \"\"hi\"\"\";2\r\n", {"1;\"He said hi\";2", ";"}},
+        CleanCase{"empty quoted field", "1;\"\";2\r\n", {"1;;2", ";"}},
+        CleanCase{
+            "quote never closed swallows the rest", "1;\"a;b\r\nc;d\r\n", {"1;\"a|b  c|d  |"}},
+        CleanCase{"LF line ends make one record", "a;b\n1;2\n", {"a;b1;2;"}},
+        CleanCase{"CR line ends make one record", "a;b\r1;2", {"a;b\r1;2;"}},
+        CleanCase{"lone LF beside CR LF", "a\n;b\r\n1;2\r\n", {"a;b", "1;2", ";"}},
+        CleanCase{
+            "CR before CR LF stays, LF after it goes", "a;b\r\r\n\n1;2\r\n", {"a;b\r", "1;2", ";"}},
+        CleanCase{"line break right before a closing quote", "1;\"a\n\";2\r\n", {"1;\"a\";2", ";"}},
+        CleanCase{"delimiter right before a closing quote opens anew",
+                  "1;\"a;\";2;3\r\n4;5\r\n",
+                  {"1;\"a|\"|2|3  4|5  |"}},
+        CleanCase{"NUL bytes", std::string("a\0b;c\r\n", 7), {std::string("a\0b;c", 5), ";"}}));
+
+TEST(BuildRecords, TellsItsStepsUpToTheEnd) {
+  std::size_t last = 0;
+  std::size_t steps = 0;
+  const std::string text(200'000, 'x');
+  build_records(text + ";", ';', [&](std::size_t done, std::size_t total) {
+    EXPECT_GT(done, last);
+    EXPECT_LE(done, total);
+    last = done;
+    ++steps;
+  });
+  EXPECT_GE(steps, 3U);
+}
+
+/// The cleaning rule told once more, character by character with a growing output text: what the
+/// quick builder has to agree with.
+std::vector<std::string> slow_records(const std::string& text, char delimiter) {
+  std::string out;
+  bool in_quotes = false;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    std::string taken(1, text[i]);
+    if (text[i] == delimiter && i + 1 < text.size() && text[i + 1] == '"') {
+      taken = {delimiter, '"'};
+      ++i;
+      in_quotes = true;
+    }
+    if (i + 1 < text.size() && text[i + 1] == '"') {
+      taken = std::string(1, text[i]);
+      in_quotes = false;
+    }
+    if (in_quotes) {
+      if (taken == "\r" || taken == "\n") taken = " ";
+      if (taken == std::string(1, delimiter)) taken = "|";
+      out += taken;
+      continue;
+    }
+    out += taken;
+    if (out.ends_with("\r\n")) {
+      out += delimiter;
+    } else if (out.ends_with('\n')) {
+      out.pop_back();
+    }
+  }
+  std::vector<std::string> records = {""};
+  if (out.empty()) return records;
+  for (std::size_t start = 0; start <= out.size();) {
+    const std::size_t end = std::min(out.find(delimiter, start), out.size());
+    std::string field = out.substr(start, end - start);
+    start = end + 1;
+    if (const auto at = field.find("\r\n"); at != std::string::npos) {
+      records.back() += field.erase(at, 2);
+      records.emplace_back();
+    } else {
+      const bool cut = field.starts_with('"') && !field.ends_with('"');
+      records.back() += field + (cut ? '|' : delimiter);
+    }
+  }
+  return records;
+}
+
+TEST(BuildRecords, AgreesWithTheSlowRuleOnRandomTexts) {
+  constexpr std::string_view kLetters = "ab;;,\"\"\r\n\r\n|\n x";
+  unsigned seed = 20140302;
+  for (int round = 0; round < 20'000; ++round) {
+    std::string text;
+    for (unsigned length = round % 23; length > 0; --length) {
+      seed = seed * 1664525U + 1013904223U;
+      text += kLetters[(seed >> 16U) % kLetters.size()];
+    }
+    remove_doubled_quotes(text);
+    ASSERT_EQ(records_of(text), slow_records(text, ';')) << testing::PrintToString(text);
+  }
+}
+
+TEST(Delimiter, IsTheOneThatOccursMoreOftenThanEachOther) {
+  EXPECT_EQ(choose_delimiter(count_delimiters("a;b;c,d")), 0);
+  EXPECT_EQ(choose_delimiter(count_delimiters("a,b,c;d")), 1);
+  EXPECT_EQ(choose_delimiter(count_delimiters("a\tb\tc;d")), 2);
+  EXPECT_EQ(choose_delimiter(count_delimiters("a;b\tc")), -1) << "a tie is not broken";
+  EXPECT_EQ(choose_delimiter(count_delimiters("")), -1);
+}
+
+TEST(Delimiter, HasToOccurAsOftenAsTheFileHasLineBreaks) {
+  EXPECT_TRUE(delimiter_acceptable(count_delimiters("a;b\r\nc\r\nd;e"), 0));
+  EXPECT_FALSE(delimiter_acceptable(count_delimiters("a;b\r\nc\r\nd\r\n"), 0));
+  EXPECT_TRUE(delimiter_acceptable(count_delimiters("a;b\nc\nd\n"), 0)) << "LF is no line break";
+}
+
+TEST(SplitLines, SplitsAtCrLfOnly) {
+  const auto lines = split_lines(std::make_shared<std::string>("a\nb\r\n\r\nc\r\n"));
+  ASSERT_EQ(lines.size(), 4U);
+  EXPECT_EQ(lines[0], "a\nb");
+  EXPECT_EQ(lines[1], "");
+  EXPECT_EQ(lines[2], "c");
+  EXPECT_EQ(lines[3], "");
+  EXPECT_TRUE(split_lines(std::make_shared<std::string>("a\nb\rc")).empty());
+}
+
+TEST(PadRecords, FillsShortRecordsAndLeavesLongOnes) {
+  RecordTable table = build_records("h1;h2;h3\r\n1\r\n1;2;3;4\r\n", ';', kNoStep);
+  pad_records(table, ';', kNoStep);
+  EXPECT_EQ(table.padded_text(1, ';'), "1;;");
+  EXPECT_EQ(table.padded_text(2, ';'), "1;2;3;4");
+  RecordFields fields;
+  fields.split(table, 1, ';', 2);
+  EXPECT_EQ(fields[0], "1");
+  EXPECT_EQ(fields[2], "");
+  EXPECT_THROW(static_cast<void>(fields[3]), RuntimeFault);
+}
+
+TEST(PadRecords, OverflowsBeyond32767DelimitersAndKeepsWhatWasPadded) {
+  const std::string wide(32768, ';');
+  RecordTable table = build_records("h;i\r\n1\r\n" + wide + "\r\n2\r\n", ';', kNoStep);
+  try {
+    pad_records(table, ';', kNoStep);
+    FAIL() << "no overflow";
+  } catch (const RuntimeFault& fault) {
+    EXPECT_EQ(fault.number(), kFaultOverflow);
+  }
+  EXPECT_EQ(table.padded_text(1, ';'), "1;");
+  EXPECT_EQ(table.padded_text(3, ';'), "2") << "records after the fault are not padded";
+}
+
+TEST(ShownFields, LoseQuotesAndRegainDelimiters) {
+  EXPECT_EQ(shown_fields("\"a|b\",c,", ','), (std::vector<std::string>{"a,b", "c", ""}));
+}
+
+TEST(IspyLog, IsKnownByTheEndOfItsPath) {
+  EXPECT_TRUE(is_ispy_log("C:\\Logs\\ISPY.LOG"));
+  EXPECT_FALSE(is_ispy_log("C:\\Logs\\ispy.log.bak"));
+  EXPECT_FALSE(is_ispy_log("C:\\ispy.log.old\\ispy.log")) << "the first occurrence decides";
+}
+
+}  // namespace
+}  // namespace quenda

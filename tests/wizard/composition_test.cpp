@@ -1,0 +1,106 @@
+#include "wizard/composition.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "book/number_cleaning.h"
+#include "sources/delimited_text.h"
+#include "support/fault.h"
+
+namespace quenda {
+namespace {
+
+using Texts = std::vector<std::string>;
+using Order = std::vector<std::size_t>;
+
+class Compose : public testing::Test {
+ protected:
+  Compose() {
+    composition_.columns.names = {0, 1};
+    composition_.columns.numbers = {2, 3};
+    composition_.columns.addresses = {{{4, 5, 6}, {7}}};
+    composition_.address_order = {0, 1, 2};
+  }
+  [[nodiscard]] Texts lines(const std::string& record) const {
+    const RecordTable table = build_records(record + "\r\n", ';', [](auto, auto) {});
+    LineComposer composer(composition_, ';',
+                          [](std::string_view number) { return clean_number(number, "0049"); });
+    TextRows rows;
+    composer.compose(table, 0, rows);
+    Texts result;
+    for (std::size_t i = 0; i < rows.size(); ++i) result.emplace_back(rows[i]);
+    return result;
+  }
+  Composition composition_;
+};
+
+constexpr auto kRecord =
+    "Meier;\"Hans\";+49 (0)30 / 123-45;0171 99;Hauptstr. 1;12345;Berlin;Am Ring 2";
+
+TEST_F(Compose, OneLinePerNumberWithItsSuffixAndItsAddress) {
+  composition_.suffixes = {"", "mobil", ""};
+  composition_.bindings = {Binding::kAddress1, Binding::kAddress2, Binding::kNone};
+  composition_.address_order = {2, 0, 1};
+  EXPECT_EQ(lines(kRecord), (Texts{"Meier Hans;03012345;Berlin Hauptstr. 1 12345",
+                                   "Meier Hans mobil;017199;Am Ring 2"}));
+}
+
+TEST_F(Compose, UnboundRowsHaveNoAddress) {
+  EXPECT_EQ(lines("Meier;Hans;;0171 99;a;b;c;d"), Texts{"Meier Hans;017199;"});
+}
+
+TEST_F(Compose, FlipsTheName) {
+  composition_.flip_name = true;
+  EXPECT_EQ(lines("Meier;Hans;030;;a;b;c;d"), Texts{"Hans Meier;030;"});
+}
+
+TEST_F(Compose, KeepsTheBlankOfAnEmptyPartInside) {
+  composition_.columns.names = {0};
+  composition_.suffixes[0] = "mobil";
+  composition_.bindings[0] = Binding::kAddress1;
+  EXPECT_EQ(lines("Meier;;030;;Hauptstr. 1;;Berlin;"),
+            Texts{"Meier  mobil;030;Hauptstr. 1  Berlin"});
+}
+
+TEST_F(Compose, LeavesOutWhatIsNoNumber) {
+  EXPECT_TRUE(lines("Name;Vorname;Telefon;Mobil;a;b;c;d").empty());
+}
+
+TEST_F(Compose, RecordWithoutDelimiterHasNoLines) { EXPECT_TRUE(lines("Meier").empty()); }
+
+TEST_F(Compose, MissingColumnIsAFault) {
+  EXPECT_THROW(lines("Meier;Hans;030"), RuntimeFault);
+  composition_.columns.numbers = {2};
+  EXPECT_EQ(lines("Meier;Hans;030"), Texts{"Meier Hans;030;"}) << "unbound columns are not needed";
+}
+
+TEST(AddressOrder, ComesFromThePositionAndTheNumberOfParts) {
+  EXPECT_EQ(address_order("a/b/c", 2), (Order{1, 2, 0}));
+  EXPECT_EQ(address_order("a/b/c", 3), (Order{1, 0, 2}));
+  EXPECT_EQ(address_order("a/b", 1), (Order{1, 0}));
+  EXPECT_EQ(address_order("a", 0), (Order{0, 1, 2}));
+  EXPECT_THROW(address_order("a/b", 2), RuntimeFault);
+}
+
+TEST(AddressOrder, NamesListEveryOrderAndKeepSlashesOutOfNames) {
+  EXPECT_EQ(address_order_names({"Straße/Nr", "Ort"}), (Texts{"Straße-Nr/Ort", "Ort/Straße-Nr"}));
+  const Texts names = address_order_names({"a", "b", "c"});
+  ASSERT_EQ(names.size(), 6U);
+  for (int i = 0; i < 6; ++i) {
+    const auto order = address_order(names[static_cast<std::size_t>(i)], i);
+    EXPECT_EQ(names[static_cast<std::size_t>(i)],
+              std::string(1, "abc"[order[0]]) + "/" + "abc"[order[1]] + "/" + "abc"[order[2]]);
+  }
+  EXPECT_TRUE(address_order_names({}).empty());
+}
+
+TEST(AddressPreview, LeavesNoStraySlashes) {
+  EXPECT_EQ(address_preview({"Straße", "Ort"}, {1, 0}), "Ort/Straße");
+  EXPECT_EQ(address_preview({"Straße", "", "Ort"}, {0, 1, 2}), "Straße/Ort");
+  EXPECT_EQ(address_preview({"Ort"}, {1, 0, 2}), "Ort");
+}
+
+}  // namespace
+}  // namespace quenda
