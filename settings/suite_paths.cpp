@@ -1,0 +1,84 @@
+#include "settings/suite_paths.h"
+
+#include "platform/files.h"
+#include "platform/system.h"
+#include "settings/modAPI_INI.h"
+#include "settings/suite_specs.h"
+#include "support/conversions.h"
+#include "support/procedure.h"
+#include "support/text.h"
+
+namespace quenda {
+namespace {
+
+constexpr std::string_view kPathsFile = "\\Quendapaths.ini";
+constexpr std::string_view kSection = "Paths";
+
+}  // namespace
+
+std::string SuitePaths::book_file() const { return concat(book_folder, "Quendabook.txt"); }
+
+std::string choose_data_root(const DataRootChoice& choice) {
+  std::string_view root = choice.setting;
+  if (root.ends_with('\\')) root.remove_suffix(1);
+  if (root.empty()) root = "0";
+  if (root == "0") {
+    const bool inside_programs =
+        !choice.program_files.empty() &&
+        choice.program_folder.find(choice.program_files) != std::string_view::npos;
+    root = inside_programs && choice.protects_program_folders ? choice.common_folder
+                                                              : choice.program_folder;
+  } else if (is_numeric(root)) {
+    root = choice.common_folder;
+  }
+  if (root.ends_with('\\')) root.remove_suffix(1);
+  return std::string(root);
+}
+
+std::string choose_book_folder(std::string_view setting, std::string_view data_root) {
+  if (setting.empty() || is_numeric(setting)) return concat(data_root, "\\data\\");
+  return concat(setting, setting.ends_with('\\') ? "" : "\\");
+}
+
+bool LoadSavePaths(clsErrorHandling& errors, modAPI_INI& ini, const Files& files,
+                   const System& system, SuitePaths& paths, SuiteSpecs& specs) {
+  return procedure_with_own_report(
+      errors, "suite_paths.LoadSavePaths", {},
+      [&](Statement& at) {
+        at(1);
+        LoadSpecs(errors, ini, files, paths.program_folder, specs);
+        at(2);
+        paths.common_folder = concat(system.special_folder(kCommonApplicationData), "\\Quenda");
+        DataRootChoice choice;
+        choice.setting = "1";
+        choice.program_folder = paths.program_folder;
+        choice.common_folder = paths.common_folder;
+        at(3);
+        const std::string file = concat(paths.program_folder, kPathsFile);
+        std::string root_setting = "1";
+        std::string book_setting;
+        std::string program_files;
+        if (files.exists(file)) {
+          at(4);
+          paths.book_refresh = ini.GetSettBool(kSection, "BookRefresh", false, file);
+          at(5);
+          root_setting = ini.GetSettStr(kSection, "ProgramData", "1", file, false, false);
+          program_files = system.special_folder(kProgramFiles);
+          choice.setting = root_setting;
+          choice.program_files = program_files;
+          choice.protects_program_folders = system.protects_program_folders();
+          at(6);
+          book_setting = ini.GetSettStr(kSection, "BookPath", "", file, false, false);
+        }
+        at(7);
+        paths.data_root = choose_data_root(choice);
+        paths.book_folder = choose_book_folder(book_setting, paths.data_root);
+      },
+      [&](const RuntimeFault& /*fault*/, int statement) {
+        errors.show(
+            concat("Error in Function \"LoadSavePaths\" at Line ", std::to_string(statement)),
+            MessageStyle::kCritical, "");
+      });
+}
+
+}  // namespace quenda
