@@ -1,0 +1,77 @@
+#include "platform/win32/dialogs_win32.h"
+
+#include <commdlg.h>
+
+#include <string>
+
+#include "platform/form.h"
+#include "platform/win32/com_support.h"
+#include "platform/win32/events_win32.h"
+#include "platform/win32/text_win32.h"
+
+namespace quenda {
+namespace {
+
+constexpr DWORD kLongestPath = 32768;
+/// The command by which the file list of the dialog changes to the view with size and date.
+constexpr WPARAM kDetailsView = 0x702C;
+
+/// Descriptions and patterns as the dialog wants them: each ended by NUL, one more at the end.
+std::wstring filter_text(const std::vector<FileFilter>& filters) {
+  std::wstring text;
+  for (const FileFilter& filter : filters) {
+    text += wide(filter.description);
+    text += L'\0';
+    text += wide(filter.pattern);
+    text += L'\0';
+  }
+  text += L'\0';
+  return text;
+}
+
+/// Shows the files with size and date, by which users tell exports apart.
+UINT_PTR CALLBACK show_details(HWND page, UINT message, WPARAM /*wparam*/, LPARAM lparam) noexcept {
+  if (message != WM_NOTIFY) return 0;
+  if (from_lparam<NMHDR>(lparam)->code != CDN_FOLDERCHANGE) return 0;
+  const HWND view = FindWindowExW(GetParent(page), nullptr, L"SHELLDLL_DefView", nullptr);
+  if (view != nullptr) SendMessageW(view, WM_COMMAND, kDetailsView, 0);
+  return 0;
+}
+
+}  // namespace
+
+MessageAnswer Win32Dialogs::message_box(std::string_view text, MessageStyle style,
+                                        std::string_view title) {
+  loop_.show_changes();
+  const HWND active = GetActiveWindow();
+  const UINT modal = active == nullptr ? MB_TASKMODAL | MB_SETFOREGROUND : MB_APPLMODAL;
+  const int answer = MessageBoxW(active, wide(text).c_str(), wide(title).c_str(),
+                                 static_cast<UINT>(style) | modal);
+  loop_.rethrow();
+  return static_cast<MessageAnswer>(answer);
+}
+
+std::string Win32Dialogs::open_file(Form& owner, const std::vector<FileFilter>& filters) {
+  loop_.show_changes();
+  const ApartmentScope apartment;
+  const std::wstring filter = filter_text(filters);
+  std::wstring path(kLongestPath, L'\0');
+  OPENFILENAMEW dialog{};
+  dialog.lStructSize = sizeof dialog;
+  dialog.hwndOwner = window_of(owner);
+  dialog.lpstrFilter = filters.empty() ? nullptr : filter.c_str();
+  dialog.lpstrFile = path.data();
+  dialog.nMaxFile = kLongestPath;
+  dialog.Flags = OFN_EXPLORER | OFN_ENABLEHOOK | OFN_ENABLESIZING | OFN_FILEMUSTEXIST |
+                 OFN_PATHMUSTEXIST | OFN_HIDEREADONLY | OFN_NOCHANGEDIR;
+  dialog.lpfnHook = &show_details;
+  const bool chosen = GetOpenFileNameW(&dialog) != 0;
+  loop_.rethrow();
+  if (!chosen) return {};
+  path.resize(path.find(L'\0'));
+  if (auto named = exact_1252(path)) return *named;
+  if (owner.on_unusable_path) owner.on_unusable_path(nearest_1252(path));
+  return {};
+}
+
+}  // namespace quenda

@@ -1,0 +1,88 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/form.h"
+#include "platform/win32/handles.h"
+#include "platform/win32/layout.h"
+#include "platform/win32/look.h"
+#include "platform/win32/message_loop.h"
+#include "platform/win32/native_control.h"
+
+namespace quenda {
+
+/// The native window of one form, with the windows of its controls. It is a dialog window of the
+/// system, so moving by Tab, arrow keys and Alt letters, Enter and Escape work as users know them.
+class FormWindow : public ControlPeer, public LoopClient {
+ public:
+  /// Makes the window, hidden. With an owner it is a dialog over it.
+  FormWindow(MessageLoop& loop, Form& form, HWND owner);
+  FormWindow(const FormWindow&) = delete;
+  FormWindow& operator=(const FormWindow&) = delete;
+  ~FormWindow() override;
+
+  void show();
+  [[nodiscard]] HWND window() const { return window_.get(); }
+  [[nodiscard]] Form& form() const { return form_; }
+  [[nodiscard]] MessageLoop& loop() const { return loop_; }
+  [[nodiscard]] int dpi() const { return dpi_; }
+  [[nodiscard]] Growth growth() const { return growth_; }
+  [[nodiscard]] const Fonts& fonts() const { return *fonts_; }
+  /// Gives the control the focus as soon as it can take it.
+  void want_focus(NativeControl& control) { wanted_ = &control; }
+
+  void refresh(Aspect aspect) override;
+  bool translate(MSG& message) override;
+  void show_changes() override;
+  void settle(bool idle) override;
+
+ private:
+  static INT_PTR CALLBACK procedure(HWND window, UINT message, WPARAM wparam,
+                                    LPARAM lparam) noexcept;
+  void create_controls(HWND parent, const Control* frame);
+  [[nodiscard]] NativeControl* peer_of(const Control* control) const;
+  [[nodiscard]] NativeControl* peer_of(int id) const;
+
+  INT_PTR on_message(UINT message, WPARAM wparam, LPARAM lparam);
+  INT_PTR answer(LRESULT result) const;
+  void on_command(UINT code, int id, HWND control);
+  static INT_PTR color(WPARAM dc, HWND control);
+  void on_dpi(int dpi, const RECT& place);
+  void on_size();
+  void on_move();
+  void on_drop(WPARAM drop);
+  void limit_size(MINMAXINFO& limits) const;
+  void close();
+
+  void use_dpi(int dpi);
+  void place_window();
+  [[nodiscard]] SIZE border() const;
+  /// As designed, without what the user has added.
+  [[nodiscard]] SIZE inner_size() const;
+  [[nodiscard]] SIZE outer_size(Growth growth) const;
+  void show_pointer() const;
+  [[nodiscard]] bool focus_is_lost() const;
+  void give_focus(NativeControl& control);
+  void give_wanted_focus();
+  void find_focus(bool idle);
+
+  MessageLoop& loop_;
+  Form& form_;
+  HWND owner_;
+  int dpi_ = 96;
+  Growth growth_;
+  std::optional<Fonts> fonts_;
+  Icon big_icon_;
+  Icon small_icon_;
+  std::vector<std::unique_ptr<NativeControl>> controls_;
+  NativeControl* wanted_ = nullptr;
+  bool refuge_ = false;
+  bool ready_ = false;
+  bool showing_ = false;
+  WindowHandle window_;
+};
+
+}  // namespace quenda

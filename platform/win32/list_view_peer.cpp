@@ -1,0 +1,182 @@
+#include "platform/win32/list_view_peer.h"
+
+#include <algorithm>
+#include <string>
+
+#include "platform/win32/form_window.h"
+#include "platform/win32/text_win32.h"
+#include "support/text.h"
+
+namespace quenda {
+namespace {
+
+class NativeListView : public PeerOf<ListView> {
+ public:
+  using PeerOf::PeerOf;
+
+  LRESULT on_notify(NMHDR& notice) override {
+    const LPARAM lparam = as_lparam(&notice);
+    switch (notice.code) {
+      case LVN_GETDISPINFOW:
+        give_text(from_lparam<NMLVDISPINFOW>(lparam)->item);
+        return 0;
+      case LVN_ODFINDITEMW:
+        return find(*from_lparam<NMLVFINDITEMW>(lparam));
+      case LVN_ITEMCHANGED:
+      case LVN_ODSTATECHANGED:
+        if (!muted()) typed().take_user_select(shown_selection());
+        return 0;
+      case LVN_KEYDOWN:
+        typed().take_user_key_down(
+            static_cast<std::int16_t>(from_lparam<NMLVKEYDOWN>(lparam)->wVKey));
+        return 0;
+      case NM_DBLCLK:
+        if (from_lparam<NMITEMACTIVATE>(lparam)->iItem >= 0) typed().take_user_double_click();
+        return 0;
+      case NM_CUSTOMDRAW:
+        return draw(*from_lparam<NMLVCUSTOMDRAW>(lparam));
+      default:
+        return 0;
+    }
+  }
+
+  void apply_font() override {
+    NativeControl::apply_font();
+    refresh(Aspect::kColumns);
+  }
+
+ protected:
+  [[nodiscard]] WindowSpec spec() const override {
+    return {WC_LISTVIEWW, true,
+            LVS_REPORT | LVS_OWNERDATA | LVS_SINGLESEL | LVS_SHOWSELALWAYS | LVS_NOSORTHEADER,
+            WS_EX_CLIENTEDGE};
+  }
+
+  void prepare() override {
+    constexpr DWORD kStyles = LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER | LVS_EX_LABELTIP;
+    send(LVM_SETEXTENDEDLISTVIEWSTYLE, kStyles, kStyles);
+  }
+
+  void show(Aspect aspect) override {
+    switch (aspect) {
+      case Aspect::kColumns:
+        show_columns();
+        break;
+      case Aspect::kRows:
+        send(LVM_SETITEMCOUNT, typed().count(), LVSICF_NOSCROLL);
+        InvalidateRect(window(), nullptr, FALSE);
+        show_selection();
+        break;
+      case Aspect::kIndex:
+        show_selection();
+        break;
+      default:
+        break;
+    }
+  }
+
+  /// Enter belongs to a list that listens to keys, not to the form's default button.
+  bool on_message(UINT message, WPARAM& /*wparam*/, LPARAM lparam, LRESULT& result) override {
+    const auto* const key = from_lparam<MSG>(lparam);
+    if (message != WM_GETDLGCODE || key == nullptr || key->wParam != VK_RETURN) return false;
+    if (!typed().on_key_down) return false;
+    result = DLGC_WANTALLKEYS;
+    return true;
+  }
+
+ private:
+  void give_text(LVITEMW& item) const {
+    if ((item.mask & LVIF_TEXT) == 0 || item.cchTextMax <= 0) return;
+    const auto row = static_cast<std::size_t>(item.iItem);
+    const auto column = static_cast<std::size_t>(item.iSubItem);
+    item.pszText[0] = L'\0';
+    if (row >= typed().count() || column >= typed().columns().size()) return;
+    const std::string text = typed().cell(row, column);
+    const auto room = static_cast<std::size_t>(item.cchTextMax) - 1;
+    const std::wstring shown = wide(std::string_view(text).substr(0, room));
+    *std::copy(shown.begin(), shown.end(), item.pszText) = L'\0';
+  }
+
+  /// The next row whose first cell begins with the letters typed into the list, -1 for none.
+  [[nodiscard]] LRESULT find(const NMLVFINDITEMW& sought) const {
+    if ((sought.lvfi.flags & LVFI_STRING) == 0 || typed().columns().empty()) return -1;
+    const std::string start = nearest_1252(sought.lvfi.psz);
+    const std::size_t count = typed().count();
+    for (std::size_t i = 0; i < count; ++i) {
+      const std::size_t row = (static_cast<std::size_t>(std::max(sought.iStart, 0)) + i) % count;
+      const std::string text = typed().cell(row, 0);
+      if (equal_ignoring_case(std::string_view(text).substr(0, start.size()), start)) {
+        return static_cast<LRESULT>(row);
+      }
+    }
+    return -1;
+  }
+
+  [[nodiscard]] LRESULT draw(NMLVCUSTOMDRAW& drawn) const {
+    switch (drawn.nmcd.dwDrawStage) {
+      case CDDS_PREPAINT:
+        return CDRF_NOTIFYITEMDRAW;
+      case CDDS_ITEMPREPAINT:
+        return CDRF_NOTIFYSUBITEMDRAW;
+      case CDDS_ITEMPREPAINT | CDDS_SUBITEM: {
+        const auto column = static_cast<std::size_t>(drawn.iSubItem);
+        if (column >= typed().columns().size()) return CDRF_DODEFAULT;
+        const ColumnKind kind = typed().columns()[column].kind;
+        drawn.clrTextBk = column_color(kind);
+        const bool tinted = kind != ColumnKind::kNone && !high_contrast();
+        drawn.clrText = tinted ? RGB(0, 0, 0) : GetSysColor(COLOR_WINDOWTEXT);
+        return CDRF_DODEFAULT;
+      }
+      default:
+        return CDRF_DODEFAULT;
+    }
+  }
+
+  [[nodiscard]] int shown_selection() const {
+    return static_cast<int>(send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED));
+  }
+
+  void show_columns() {
+    const auto header = from_lparam<HWND__>(send(LVM_GETHEADER));
+    const auto& columns = typed().columns();
+    auto shown = static_cast<std::size_t>(SendMessageW(header, HDM_GETITEMCOUNT, 0, 0));
+    while (shown > columns.size()) send(LVM_DELETECOLUMN, --shown);
+    widths_.resize(columns.size());
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+      std::wstring heading(column_mark(columns[i].kind));
+      heading += wide(columns[i].heading);
+      LVCOLUMNW column{};
+      column.mask = LVCF_TEXT | LVCF_SUBITEM;
+      column.cx = pixels_of(columns[i].width, form().dpi());
+      // A width that the user has dragged stays until the control asks for another.
+      if (i >= shown || widths_[i] != column.cx) column.mask |= LVCF_WIDTH;
+      widths_[i] = column.cx;
+      column.iSubItem = static_cast<int>(i);
+      column.pszText = heading.data();
+      send(i < shown ? LVM_SETCOLUMNW : LVM_INSERTCOLUMNW, i, as_lparam(&column));
+    }
+    InvalidateRect(window(), nullptr, TRUE);
+  }
+
+  void show_selection() {
+    const int wanted = typed().selected();
+    if (shown_selection() == wanted) return;
+    LVITEMW item{};
+    item.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
+    send(LVM_SETITEMSTATE, static_cast<WPARAM>(-1), as_lparam(&item));
+    if (wanted < 0) return;
+    item.state = item.stateMask;
+    send(LVM_SETITEMSTATE, static_cast<WPARAM>(wanted), as_lparam(&item));
+    send(LVM_ENSUREVISIBLE, static_cast<WPARAM>(wanted), FALSE);
+  }
+
+  std::vector<int> widths_;  // in pixels, as last asked for
+};
+
+}  // namespace
+
+std::unique_ptr<NativeControl> make_list_view(FormWindow& form, ListView& list) {
+  return std::make_unique<NativeListView>(form, list);
+}
+
+}  // namespace quenda

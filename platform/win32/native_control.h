@@ -1,0 +1,113 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "platform/control.h"
+#include "platform/win32/handles.h"
+#include "platform/win32/layout.h"
+
+namespace quenda {
+
+class FormWindow;
+
+/// The native window of one control. What changes in the control is only noted; the form window
+/// has it shown, all at once, before the next input is handled or when long work yields, so that
+/// filling a list row by row costs one update. What it does to its own window is muted: the notices
+/// that follow from it are not the user's doing.
+class NativeControl : public ControlPeer {
+ public:
+  NativeControl(FormWindow& form, Control& control) : form_(form), control_(control) {}
+  NativeControl(const NativeControl&) = delete;
+  NativeControl& operator=(const NativeControl&) = delete;
+  ~NativeControl() override;
+
+  /// Keeps notices from being taken for the user's doing for as long as it lives.
+  class Mute {
+   public:
+    explicit Mute(NativeControl& control) : control_(control), before_(control.muted_) {
+      control_.muted_ = true;
+    }
+    Mute(const Mute&) = delete;
+    Mute& operator=(const Mute&) = delete;
+    ~Mute() { control_.muted_ = before_; }
+
+   private:
+    NativeControl& control_;
+    bool before_;
+  };
+
+  void refresh(Aspect aspect) override;
+  /// Shows everything that has been noted.
+  void show_changes();
+  /// Notes everything, as for a window that has just been made.
+  void note_all();
+
+  [[nodiscard]] Control& control() const { return control_; }
+  [[nodiscard]] HWND window() const { return window_; }
+  /// Makes the native window inside its parent.
+  void create(HWND parent, int id);
+  /// Moves the window to where the control lies at the form's DPI and size.
+  virtual void place();
+  /// The font, after the DPI or the user's settings changed.
+  virtual void apply_font();
+
+  /// A notice of the window to its parent: the code of WM_COMMAND.
+  virtual void on_command(UINT /*code*/) {}
+  virtual LRESULT on_notify(NMHDR& /*notice*/) { return 0; }
+
+  /// The native control of a window; null for a window that is none.
+  static NativeControl* of(HWND window);
+
+ protected:
+  struct WindowSpec {
+    const wchar_t* window_class;
+    bool takes_input;
+    DWORD style;
+    DWORD extended = 0;
+  };
+
+  [[nodiscard]] virtual WindowSpec spec() const = 0;
+  /// Runs once after the window has been made.
+  virtual void prepare() {}
+  /// Shows one changed aspect that the kind of control has beyond the common ones.
+  virtual void show(Aspect /*aspect*/) {}
+  /// Sees every message of the window; true when it has been dealt with.
+  virtual bool on_message(UINT /*message*/, WPARAM& /*wparam*/, LPARAM /*lparam*/,
+                          LRESULT& /*result*/) {
+    return false;
+  }
+
+  [[nodiscard]] FormWindow& form() const { return form_; }
+  [[nodiscard]] bool muted() const { return muted_; }
+  LRESULT send(UINT message, WPARAM wparam = 0, LPARAM lparam = 0) const {
+    return SendMessageW(window_, message, wparam, lparam);
+  }
+  void set_window_text(std::string_view text) const;
+
+ private:
+  void show_common(Aspect aspect);
+  static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam,
+                                    UINT_PTR id, DWORD_PTR self) noexcept;
+
+  FormWindow& form_;
+  Control& control_;
+  HWND window_ = nullptr;
+  unsigned noted_ = 0;
+  bool muted_ = false;
+};
+
+/// The control of a peer, as its own kind.
+template <class T>
+class PeerOf : public NativeControl {
+ public:
+  PeerOf(FormWindow& form, T& control) : NativeControl(form, control), typed_(control) {}
+
+ protected:
+  [[nodiscard]] T& typed() const { return typed_; }
+
+ private:
+  T& typed_;
+};
+
+}  // namespace quenda

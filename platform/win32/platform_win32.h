@@ -1,0 +1,36 @@
+#pragma once
+
+#include "platform/services.h"
+#include "platform/win32/automation_com.h"
+#include "platform/win32/clock_win32.h"
+#include "platform/win32/dde_server.h"
+#include "platform/win32/dialogs_win32.h"
+#include "platform/win32/events_win32.h"
+#include "platform/win32/files_win32.h"
+#include "platform/win32/message_loop.h"
+#include "platform/win32/system_win32.h"
+
+namespace quenda {
+
+/// Everything that the windowed tool needs from the system.
+class Win32Platform {
+ public:
+  Win32Platform() : link_(loop_, system_.executable_name()) {}
+
+  [[nodiscard]] Services services() {
+    return {files_, clock_, events_, dialogs_, system_, link_, automation_};
+  }
+  [[nodiscard]] Win32Events& events() { return events_; }
+
+ private:
+  MessageLoop loop_;
+  Win32Files files_;
+  Win32Clock clock_;
+  Win32Events events_{loop_};
+  Win32Dialogs dialogs_{loop_};
+  Win32System system_;
+  DdeServer link_;
+  ComAutomation automation_{[this] { loop_.yield(); }};
+};
+
+}  // namespace quenda
