@@ -39,6 +39,7 @@ build() {
   shift
   if command -v ccache >/dev/null; then
     export CMAKE_C_COMPILER_LAUNCHER=ccache CMAKE_CXX_COMPILER_LAUNCHER=ccache
+    export CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
   fi
   mkdir -p "$root/build"
   local log=$root/build/$preset.log
