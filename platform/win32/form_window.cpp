@@ -186,10 +186,18 @@ bool FormWindow::focus_is_lost() const {
 
 void FormWindow::give_focus(NativeControl& control) {
   const NativeControl::Mute mute(control);
-  SendMessageW(window(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control.window()),  // NOLINT
-               TRUE);
+  move_focus(control.window());
   // The system selects the whole text of a field; a field that selects for itself knows better.
   if (control.control().on_got_focus) control.refresh(Aspect::kSelection);
+}
+
+/// By the message that also moves the mark of the button that Enter presses. A label leads to the
+/// field behind it.
+void FormWindow::move_focus(HWND control) {
+  const bool label = (SendMessageW(control, WM_GETDLGCODE, 0, 0) & DLGC_STATIC) != 0;
+  const HWND to = label ? GetNextDlgTabItem(window(), control, FALSE) : control;
+  if (to == nullptr) return;
+  SendMessageW(window(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(to), TRUE);  // NOLINT
 }
 
 void FormWindow::give_wanted_focus() {
@@ -214,8 +222,7 @@ void FormWindow::find_focus(bool idle) {
   give_wanted_focus();
   if (!focus_is_lost()) return;
   const HWND first = GetNextDlgTabItem(window(), nullptr, FALSE);
-  if (first != nullptr)
-    SendMessageW(window(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(first), TRUE);
+  if (first != nullptr) move_focus(first);
 }
 
 void FormWindow::settle(bool idle) {
@@ -223,6 +230,12 @@ void FormWindow::settle(bool idle) {
   give_wanted_focus();
   if (idle) wanted_ = nullptr;
   if (focus_is_lost() || (idle && refuge_)) find_focus(idle);
+  // A button that got the focus back when the window did is not yet the one that Enter presses.
+  const HWND focus = GetFocus();
+  if (idle && IsChild(window(), focus) != 0 &&
+      (SendMessageW(focus, WM_GETDLGCODE, 0, 0) & DLGC_UNDEFPUSHBUTTON) != 0) {
+    move_focus(focus);
+  }
   show_changes();
 }
 

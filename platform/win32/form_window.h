@@ -66,6 +66,7 @@ class FormWindow : public ControlPeer, public LoopClient {
   void show_pointer() const;
   [[nodiscard]] bool focus_is_lost() const;
   void give_focus(NativeControl& control);
+  void move_focus(HWND control);
   void give_wanted_focus();
   void find_focus(bool idle);
 
