@@ -21,8 +21,8 @@ void run(quenda::Win32Platform& platform) {
 
 }  // namespace
 
-int WINAPI wWinMain(HINSTANCE /*instance*/, HINSTANCE /*previous*/, LPWSTR /*command_line*/,
-                    int /*show*/) {
+int WINAPI WinMain(HINSTANCE /*instance*/, HINSTANCE /*previous*/, LPSTR /*command_line*/,
+                   int /*show*/) {
   quenda::Win32Platform platform;
   run(platform);
   return 0;
