@@ -130,7 +130,7 @@ std::vector<std::string> slow_records(const std::string& text, char delimiter) {
 TEST(BuildRecords, AgreesWithTheSlowRuleOnRandomTexts) {
   constexpr std::string_view kLetters = "ab;;,\"\"\r\n\r\n|\n x";
   unsigned seed = 20140302;
-  for (int round = 0; round < 20'000; ++round) {
+  for (unsigned round = 0; round < 20'000; ++round) {
     std::string text;
     for (unsigned length = round % 23; length > 0; --length) {
       seed = seed * 1664525U + 1013904223U;

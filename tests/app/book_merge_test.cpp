@@ -1,0 +1,152 @@
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "app/fImportItemEdit.h"
+#include "app/fImportMsg.h"
+#include "support/literal_1252.h"
+#include "tests/shared/wizard_fixture.h"
+
+// The last page: entries edited and deleted, and what becomes of the book.
+namespace quenda {
+namespace {
+
+constexpr std::string_view kOldLine = "Alt;030123456;x;0;5;0;Ort;;[vcd(card)vcd]\r\n";
+
+class LastPage : public WizardTest {
+ protected:
+  /// Brings "Neu;030123456" and "Huber;0897654321" to the last page.
+  void enter(bool linked = true) {
+    start(linked);
+    take_file("Name;Nummer\r\nNeu;030123456\r\nHuber;0897654321\r\n");
+    forward();
+    select(0, {"Name"});
+    select(1, {"Nummer"});
+    for (int i = 0; i < 3; ++i) forward();
+    ASSERT_EQ(form->wizard.CurrentPage, 4);
+  }
+  static std::string line(std::string_view name, std::string_view number) {
+    return std::string(name) + ";" + std::string(number) + ";0;0;0;0;;;[vcd()vcd]\r\n";
+  }
+};
+
+TEST_F(LastPage, NothingNewLeavesTheBookAlone) {
+  machine.files.put(kBookPath, line("NEU", "030123456") + line("huber", "0897654321"));
+  enter();
+  finish();
+  EXPECT_EQ(machine.host_link.texts, (Texts{"ON", "nodata", "cancel"}));
+  EXPECT_EQ(machine.files.writes(kBookPath), 0);
+}
+
+TEST_F(LastPage, MissingBookIsCreated) {
+  machine.files.remove(kBookPath);
+  enter();
+  finish();
+  EXPECT_EQ(book(), line("Neu", "030123456") + line("Huber", "0897654321"));
+}
+
+TEST_F(LastPage, AsksAboutADoubleAndRefusesToBeClosedWithoutAnAnswer) {
+  machine.files.put(kBookPath, kOldLine);
+  enter();
+  machine.events.on_modal = [&](Form& shown) {
+    auto& dialog = dynamic_cast<fImportMsg&>(shown);
+    EXPECT_TRUE(dialog.labMsgNumber.caption().ends_with(": 030123456"));
+    EXPECT_EQ(dialog.labMsgIn.caption(), "Alt  Ort");
+    EXPECT_EQ(dialog.labMsgNew.caption(), "Neu  ");
+    EXPECT_FALSE(dialog.unload(CloseReason::kCloseBox));
+    dialog.optAsk(1).take_user_click();
+    dialog.cmdMsg(1).take_user_click();
+  };
+  finish();
+  EXPECT_TRUE(form->optAsk(1).chosen()) << "the answer for all becomes the option";
+  EXPECT_EQ(book(), "Neu;030123456;x;0;5;0;;;[vcd()vcd]\r\n" + line("Huber", "0897654321"));
+}
+
+TEST_F(LastPage, DoublesInsideTheBookCountAgainstNewEntries) {
+  // Three lines, of which two are doubles: with two new entries no more are kept than were read.
+  machine.files.put(kBookPath, line("A", "1") + line("a", "1") + line("A", "1"));
+  enter();
+  finish();
+  EXPECT_EQ(machine.host_link.texts, (Texts{"ON", "nodata", "cancel"}));
+  EXPECT_EQ(machine.files.writes(kBookPath), 0);
+}
+
+TEST_F(LastPage, FaultyBookLineStopsTheImportBeforeAnythingIsWritten) {
+  machine.files.put("C:\\Quenda\\Quendaspec.ini", "[Debug]\r\nTraceMode=1\r\n");
+  machine.files.put(kBookPath, std::string(kOldLine) + "Kurz;0305\r\n");
+  enter();
+  forward();
+  EXPECT_EQ(last_box(), "Es ist ein Fehler aufgetreten!\r\nsiehe Datei: \\log\\error.log");
+  EXPECT_EQ(machine.files.writes(kBookPath), 0);
+  EXPECT_EQ(machine.host_link.texts, Texts{"ON"});
+  EXPECT_NE(app->errors.last_report().find("Params(S:Kurz;0305)"), std::string::npos)
+      << app->errors.last_report();
+  EXPECT_EQ(form->pointer(), Pointer::kDefault);
+  // Once the book is mended, the same entries can be imported.
+  machine.files.put(kBookPath, kOldLine);
+  form->optAsk(2).take_user_click();
+  back();
+  finish();
+  EXPECT_EQ(book(), std::string(kOldLine) + line("Huber", "0897654321"));
+}
+
+TEST_F(LastPage, BookThatCannotBeWrittenIsReported) {
+  for (const int fault : {kFaultPermissionDenied, kFaultPathAccess, kFaultDiskFull}) {
+    machine.files.refuse_writing(kBookPath, fault);
+    enter();
+    forward();
+    EXPECT_EQ(last_box(), "Es ist ein Fehler aufgetreten!\r\nsiehe Datei: \\log\\error.log");
+    EXPECT_EQ(machine.host_link.texts.back(), "ON");
+  }
+}
+
+TEST_F(LastPage, WithoutALinkTheUserIsTold) {
+  enter(false);
+  finish();
+  EXPECT_EQ(last_box(),
+            u8"Es besteht keine DDE-Verbindung zu Quenda!\r\nNach dem Import ist es "
+            u8"erforderlich das Telefonbuch durch \"Aktualisieren\" (F5) neu "
+            u8"einzulesen!"_de);
+  EXPECT_EQ(machine.host_link.texts, Texts{"data"});
+}
+
+TEST_F(LastPage, EditedEntryIsCleanedAndKeepsItsPlace) {
+  enter();
+  machine.events.on_modal = [&](Form& shown) {
+    auto& dialog = dynamic_cast<fImportItemEdit&>(shown);
+    EXPECT_EQ(dialog.txtName.text(), "Neu");
+    dialog.txtNumber.set_focus();
+    EXPECT_EQ(dialog.txtNumber.selection_length(), 3) << "as long as the name";
+    dialog.txtNumber.type("+ 1");
+    EXPECT_EQ(dialog.txtNumber.text(), "0301234561");
+    dialog.txtNumber.take_user_text("+49301234");
+    dialog.txtName.set_text("");
+    dialog.txtName.type("A;B");
+    dialog.cmdEdit(0).take_user_click();
+  };
+  form->lstImpFinal.take_user_select(0);
+  form->lstImpFinal.take_user_double_click();
+  EXPECT_EQ(rows(), (Texts{"A,B|0301234|", "Huber|0897654321|"}));
+  machine.events.on_modal = [](Form& shown) {
+    auto& dialog = dynamic_cast<fImportItemEdit&>(shown);
+    dialog.txtName.set_text("verworfen");
+    dialog.cmdEdit(1).take_user_click();
+  };
+  form->cmdEditItems.take_user_click();
+  EXPECT_EQ(rows()[0], "A,B|0301234|");
+}
+
+TEST_F(LastPage, DeletingTheLastRowDisablesTheImport) {
+  enter();
+  form->lstImpFinal.take_user_select(1);
+  form->lstImpFinal.take_user_key_down(46);
+  EXPECT_EQ(rows(), Texts{"Neu|030123456|"});
+  EXPECT_EQ(form->lstImpFinal.selected(), 0) << "the neighbour is selected";
+  EXPECT_EQ(form->StatusBar.panel(3), u8"1 gültige Einträge"_de);
+  form->cmdDel.take_user_click();
+  EXPECT_FALSE(form->cmdDel.enabled());
+  EXPECT_FALSE(form->cmdFor.enabled());
+}
+
+}  // namespace
+}  // namespace quenda

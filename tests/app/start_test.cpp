@@ -1,0 +1,145 @@
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "support/literal_1252.h"
+#include "tests/shared/wizard_fixture.h"
+
+// Start, host link, shutdown, and the controls that belong to no page.
+namespace quenda {
+namespace {
+
+class Start : public WizardTest {};
+
+TEST_F(Start, SecondInstanceEndsSilently) {
+  machine.system.previous = true;
+  EXPECT_THROW(start(), EndProgram);
+  EXPECT_TRUE(machine.dialogs.boxes.empty());
+}
+
+TEST_F(Start, WithoutTheSwitchSaysWhereToStartFromAndEnds) {
+  machine.system.arguments = "/I --help";
+  EXPECT_THROW(start(), EndProgram);
+  EXPECT_EQ(last_box(),
+            u8"Ein Direktaufruf dieses Tools ist nicht vorgesehen!\r\nDer Aufruf "
+            u8"erfolgt über den Menüeintrag \"Import\" im Quenda-Telefonbuch!"_de);
+  EXPECT_EQ(machine.dialogs.boxes.back().title, "Quenda - Import");
+  EXPECT_EQ(machine.files.writes(kSettingsPath), 0);
+  machine.system.arguments = "x/ix";
+  EXPECT_NO_THROW(start());
+}
+
+TEST_F(Start, ShowsTheFirstPageWithTheDefaults) {
+  start(false);
+  EXPECT_EQ(form->caption(), "Quenda - Import");
+  EXPECT_EQ(form->txtStateCode.text(), "0049");
+  EXPECT_EQ(form->txtOVW.text(), "030");
+  EXPECT_EQ(form->cmbLimiter.items(), (Texts{"Semikolon", "Komma", "Tabulator"}));
+  EXPECT_TRUE(form->frmImp(0).visible());
+  EXPECT_TRUE(form->optAsk(0).chosen());
+  EXPECT_TRUE(form->chkNameLen.ticked());
+  std::string ticks;
+  for (const auto& box : form->chkImport) ticks += box->ticked() ? '1' : '0';
+  EXPECT_EQ(ticks, "10010010000");
+  EXPECT_TRUE(form->chkAdr(1).ticked());
+  EXPECT_TRUE(form->chkAdr(4).ticked());
+  EXPECT_EQ(form->place().left, 500);
+  EXPECT_EQ(form->StatusBar.panel(2), "Suche Outlook");
+  EXPECT_TRUE(form->tmOLcheck.enabled());
+}
+
+TEST_F(Start, WildSettingsAreBoundAndMissingOnesSkipped) {
+  machine.files.put(kSettingsPath,
+                    "[Dimensions]\r\nImportTop=-5\r\nImportLeft=70000\r\n"
+                    "[Import]\r\nAsk=7\r\nLen=0\r\nOlNumber=0x1\r\nOlAdress=000000000001\r\n");
+  start();
+  EXPECT_TRUE(form->optAsk(2).chosen());
+  EXPECT_FALSE(form->chkNameLen.ticked());
+  EXPECT_EQ(form->place().top, 0);
+  EXPECT_EQ(form->place().left, 70000);
+  EXPECT_FALSE(form->chkImport(1).ticked());
+  EXPECT_TRUE(form->chkImport(3).ticked());
+  EXPECT_FALSE(form->chkAdr(1).ticked());
+  EXPECT_TRUE(form->chkAdr(17).ticked()) << "position 12 feeds box 17, there is no box 12";
+}
+
+TEST_F(Start, LinkEventsChangeTheStateAndTheThirdPanelOnly) {
+  start(false);
+  machine.host_link.events.opened();
+  EXPECT_TRUE(form->wizard.link_open);
+  EXPECT_EQ(form->StatusBar.panel(3), "Telefonbuch DDE-Verbindung: aktiv");
+  machine.host_link.events.closed();
+  EXPECT_FALSE(form->wizard.link_open);
+  EXPECT_EQ(form->StatusBar.panel(3), "Telefonbuch DDE-Verbindung: beendet");
+  machine.host_link.events.failed();
+  EXPECT_EQ(form->StatusBar.panel(3), "Telefonbuch DDE-Verbindung: abgebrochen");
+  EXPECT_EQ(form->txtDDE.text(), "ON");
+  EXPECT_EQ(machine.host_link.topic, "book");
+  EXPECT_EQ(machine.host_link.item, "txtDDE");
+}
+
+TEST_F(Start, ClosingSavesThePositionAndTellsTheHost) {
+  start();
+  form->take_user_position(1200, 900);
+  EXPECT_THROW(form->unload(CloseReason::kCloseBox), EndProgram);
+  EXPECT_EQ(machine.host_link.texts, (Texts{"ON", "cancel"}));
+  EXPECT_EQ(machine.files.content(kSettingsPath),
+            "[Dimensions]\r\nImportTop=900\r\nImportLeft=1200\r\n");
+}
+
+TEST_F(Start, CaptionsComeFromTheLanguageFile) {
+  machine.files.put("C:\\Quenda\\data\\Quenda.ini", "[General]\r\nLanguage=en\r\nmyVWO=30\r\n");
+  machine.files.put("C:\\Quenda\\base\\language_en.ini",
+                    "[Data]\r\nButton_Next=Next\r\nImport_Title=Import contacts\r\n");
+  start();
+  EXPECT_EQ(form->cmdFor.caption(), "Next");
+  EXPECT_EQ(form->caption(), "Quenda - Import contacts");
+  EXPECT_EQ(form->cmbLimiter.items()[0], "Semikolon") << "these three are never translated";
+}
+
+TEST_F(Start, BoxesOfARowExcludeEachOther) {
+  start();
+  form->txtAdres(0).set_text("eins");
+  form->txtAdres(1).set_text("zwei");
+  form->chk2(0).set_ticked(true);
+  EXPECT_EQ(form->txtAdresBind(1).text(), "eins");
+  form->chk2(1).set_ticked(true);
+  EXPECT_FALSE(form->chk2(0).ticked());
+  EXPECT_EQ(form->txtAdresBind(1).text(), "zwei");
+  form->chk2(1).set_ticked(false);
+  EXPECT_EQ(form->txtAdresBind(1).text(), "");
+}
+
+TEST_F(Start, LockedElementsFollowTheirTicksWhenUnlocked) {
+  start();
+  form->LockElements(true);
+  EXPECT_FALSE(form->chkImport(1).enabled());
+  EXPECT_FALSE(form->cmdHelp.enabled());
+  form->LockElements(false);
+  EXPECT_TRUE(form->chkImport(2).enabled());
+  EXPECT_FALSE(form->chkAdr(2).enabled()) << "not ticked";
+  EXPECT_TRUE(form->chkAdr(17).enabled()) << "follows box 7";
+  EXPECT_FALSE(form->chkAdr(18).enabled());
+}
+
+TEST_F(Start, HelpOpensThePageOfTheImport) {
+  start();
+  form->cmdHelp.take_user_click();
+  ASSERT_EQ(machine.system.opened.size(), 1U);
+  EXPECT_TRUE(machine.system.opened[0].ends_with(".example/index.php?id=800&cnt=1#imp"));
+}
+
+TEST_F(Start, TraceNamesEveryProcedure) {
+  machine.files.put("C:\\Quenda\\Quendaspec.ini", "[Debug]\r\nTraceMode=1\r\n");
+  machine.files.add_folder("C:\\Quenda\\log");
+  start();
+  form.reset();
+  app.reset();
+  const std::string trace = machine.files.content("C:\\Quenda\\log\\trace.log");
+  EXPECT_NE(trace.find("2014/03/02  17:05:09  IMP v1.17  fMain.Form_Load 01\r\n"),
+            std::string::npos);
+  EXPECT_NE(trace.find("fMain.ShowSite 01(B:0)\r\n"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace quenda
