@@ -179,7 +179,6 @@ bool FormWindow::translate(MSG& message) {
 }
 
 bool FormWindow::focus_is_lost() const {
-  if (GetActiveWindow() != window()) return false;
   const HWND focus = GetFocus();
   return focus == nullptr || focus == window() || !takes_input(focus, window());
 }
@@ -200,36 +199,51 @@ void FormWindow::move_focus(HWND control) {
   SendMessageW(window(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(to), TRUE);  // NOLINT
 }
 
-void FormWindow::give_wanted_focus() {
-  if (wanted_ == nullptr || !takes_input(wanted_->window(), window())) return;
+/// Without selecting a field's text and without making a button the one that Enter presses.
+void FormWindow::lend_focus(NativeControl& control) {
+  const NativeControl::Mute mute(control);
+  SetFocus(control.window());
+}
+
+bool FormWindow::give_wanted_focus() {
+  if (wanted_ == nullptr || !takes_input(wanted_->window(), window())) return false;
   give_focus(*std::exchange(wanted_, nullptr));
   refuge_ = false;
+  return true;
 }
 
 /// Keys go nowhere while the control that had the focus is hidden or disabled. Inside long work the
-/// button that stops it takes them; afterwards the first control of the page does.
+/// button that stops it takes them. Afterwards the field in which the user was typing gets the
+/// focus back, or the first control of a new page takes it.
 void FormWindow::find_focus(bool idle) {
   if (!idle) {
     const Control* const stop = form_.cancel_button;
     if (stop == nullptr || !stop->reachable()) return;
-    give_focus(*peer_of(stop));
+    back_to_ = focused_;
+    lend_focus(*peer_of(stop));
     refuge_ = true;
     return;
   }
   refuge_ = false;
+  const bool new_page = std::exchange(page_is_new_, false);
+  NativeControl* const back_to = std::exchange(back_to_, nullptr);
+  if (!new_page && back_to != nullptr && back_to->control().parent() != nullptr &&
+      takes_input(back_to->window(), window())) {
+    lend_focus(*back_to);
+    return;
+  }
   if (form_.on_got_focus) form_.on_got_focus();
   show_changes();
-  give_wanted_focus();
-  if (!focus_is_lost()) return;
+  if (give_wanted_focus()) return;
   const HWND first = GetNextDlgTabItem(window(), nullptr, FALSE);
   if (first != nullptr) move_focus(first);
 }
 
 void FormWindow::settle(bool idle) {
-  if (!ready_ || !form_.loaded()) return;
+  if (!ready_ || !form_.loaded() || GetActiveWindow() != window()) return;
   give_wanted_focus();
   if (idle) wanted_ = nullptr;
-  if (focus_is_lost() || (idle && refuge_)) find_focus(idle);
+  if (focus_is_lost() || (idle && (refuge_ || page_is_new_))) find_focus(idle);
   // A button that got the focus back when the window did is not yet the one that Enter presses.
   const HWND focus = GetFocus();
   if (idle && IsChild(window(), focus) != 0 &&

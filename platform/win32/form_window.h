@@ -33,6 +33,10 @@ class FormWindow : public ControlPeer, public LoopClient {
   [[nodiscard]] const Fonts& fonts() const { return *fonts_; }
   /// Gives the control the focus as soon as it can take it.
   void want_focus(NativeControl& control) { wanted_ = &control; }
+  /// The control has the focus now.
+  void took_focus(NativeControl& control) { focused_ = &control; }
+  /// A frame has come into view: the focus goes to it when the work at hand is done.
+  void page_shown() { page_is_new_ = ready_; }
 
   void refresh(Aspect aspect) override;
   bool translate(MSG& message) override;
@@ -66,8 +70,9 @@ class FormWindow : public ControlPeer, public LoopClient {
   void show_pointer() const;
   [[nodiscard]] bool focus_is_lost() const;
   void give_focus(NativeControl& control);
+  static void lend_focus(NativeControl& control);
   void move_focus(HWND control);
-  void give_wanted_focus();
+  bool give_wanted_focus();
   void find_focus(bool idle);
 
   MessageLoop& loop_;
@@ -80,7 +85,10 @@ class FormWindow : public ControlPeer, public LoopClient {
   Icon small_icon_;
   std::vector<std::unique_ptr<NativeControl>> controls_;
   NativeControl* wanted_ = nullptr;
+  NativeControl* focused_ = nullptr;
+  NativeControl* back_to_ = nullptr;
   bool refuge_ = false;
+  bool page_is_new_ = false;
   bool ready_ = false;
   bool showing_ = false;
   WindowHandle window_;

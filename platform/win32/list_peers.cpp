@@ -16,14 +16,7 @@ class NativeListBox : public PeerOf<ListBox> {
   using PeerOf::PeerOf;
 
   void on_command(UINT code) override {
-    if (code != LBN_SELCHANGE || muted()) return;
-    for (int i = 0; i < typed().count(); ++i) {
-      const bool selected = shows_selected(i);
-      if (selected == typed().selected(i)) continue;
-      typed().take_user_selection(i, selected);
-      // The control can have refused: it is the one to say what is selected.
-      refresh(Aspect::kSelection);
-    }
+    if (code == LBN_SELCHANGE && !muted()) take_selection();
   }
 
  protected:
@@ -38,7 +31,30 @@ class NativeListBox : public PeerOf<ListBox> {
     if (aspect == Aspect::kItems || aspect == Aspect::kSelection) show_selection();
   }
 
+  bool on_message(UINT message, WPARAM& /*wparam*/, LPARAM /*lparam*/,
+                  LRESULT& /*result*/) override {
+    if (message == WM_KEYDOWN || message == WM_CHAR) {
+      // Not every system gives notice of a choice made by the space bar.
+      PostMessageW(window(), kLookAgain, 0, 0);
+    }
+    if (message != kLookAgain) return false;
+    take_selection();
+    return true;
+  }
+
  private:
+  static constexpr UINT kLookAgain = WM_APP + 1;
+
+  void take_selection() {
+    for (int i = 0; i < typed().count(); ++i) {
+      const bool selected = shows_selected(i);
+      if (selected == typed().selected(i)) continue;
+      typed().take_user_selection(i, selected);
+      // The control can have refused: it is the one to say what is selected.
+      refresh(Aspect::kSelection);
+    }
+  }
+
   [[nodiscard]] bool shows_selected(int position) const {
     return send(LB_GETSEL, static_cast<WPARAM>(position)) > 0;
   }

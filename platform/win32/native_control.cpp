@@ -132,8 +132,9 @@ LRESULT CALLBACK NativeControl::procedure(HWND window, UINT message, WPARAM wpar
       Answer{});
   if (answer.taken) return answer.result;
   const LRESULT result = DefSubclassProc(window, message, wparam, lparam);
-  if (message == WM_SETFOCUS && !native.muted_) {
-    loop.at_edge([&] { native.control_.take_user_focus(); });
+  if (message == WM_SETFOCUS) {
+    native.form_.took_focus(native);
+    if (!native.muted_) loop.at_edge([&] { native.control_.take_user_focus(); });
   }
   return result;
 }
