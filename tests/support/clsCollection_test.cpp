@@ -1,0 +1,107 @@
+#include "support/clsCollection.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+
+namespace quenda {
+namespace {
+
+TEST(Queue, TellsHowItFills) {
+  clsCollection queue;
+  std::string events;
+  queue.QueueTimerStart = [&] { events += 't'; };
+  queue.QueueAdded = [&] { events += 'a'; };
+  queue.Queue_InfoDealy(2);
+  for (const auto* text : {"1", "2", "3"}) EXPECT_TRUE(queue.Queue_Add(text));
+  EXPECT_EQ(events, "tta");
+  EXPECT_EQ(queue.Queue_ViewLast(), "1");
+  EXPECT_EQ(queue.Queue_ReadLast(), "1");
+  EXPECT_EQ(queue.Queue_GetByIndex(2), "3");
+  EXPECT_EQ(queue.Count(), 2);
+}
+
+TEST(Queue, KeepsTheNewestUpToItsLimit) {
+  clsCollection queue;
+  queue.Queue_Limit(3);
+  for (int i = 1; i <= 5; ++i) queue.Queue_Add(std::to_string(i));
+  EXPECT_EQ(queue.Count(), 3);
+  EXPECT_EQ(queue.Queue_ReadLast(), "3");
+  EXPECT_EQ(std::get<std::string>(queue.ItemByKey("Key5")), "5");
+}
+
+TEST(Queue, RefusesThe10001stText) {
+  clsCollection queue;
+  bool full = false;
+  queue.QueueFull = [&] { full = true; };
+  for (int i = 0; i < 10000; ++i) ASSERT_TRUE(queue.Queue_Add("x"));
+  EXPECT_FALSE(full);
+  EXPECT_FALSE(queue.Queue_Add("late"));
+  EXPECT_TRUE(full);
+  EXPECT_EQ(queue.Count(), 10000);
+}
+
+TEST(Queue, IsEmptyWithoutAWord) {
+  clsCollection queue;
+  queue.QueueAdded = [] { FAIL(); };
+  EXPECT_EQ(queue.Queue_ReadLast(), "");
+  EXPECT_EQ(queue.Queue_ViewLast(), "");
+  EXPECT_FALSE(queue.RemoveFirst());
+}
+
+TEST(Queue, CountsItsKeysOnAfterClear) {
+  clsCollection queue;
+  queue.Queue_Add("one");
+  queue.Clear();
+  queue.Queue_Add("two");
+  bool found = true;
+  queue.GetItemByKey("Key1", found);
+  EXPECT_FALSE(found);
+  queue.GetItemByKey("Key2", found);
+  EXPECT_TRUE(found);
+}
+
+TEST(Collection, HasUniqueKeysAndKeyValueTexts) {
+  clsCollection items;
+  EXPECT_TRUE(items.AddByKeyValue("name", std::string("name=Erika")));
+  EXPECT_FALSE(items.AddByKeyValue("name", std::string("name=Hans")));
+  EXPECT_TRUE(items.AddByINIData("city", "Bonn"));
+  EXPECT_EQ(items.ItemByKeyValue("name", "-"), "Erika");
+  EXPECT_EQ(items.ItemByKeyValue("none", "-"), "-");
+  EXPECT_EQ(items.GetItemByIndexByKeyValue(2), "Bonn");
+  items.ChangeByKeyValue("name", "Hans");
+  EXPECT_EQ(items.GetItemByIndexByKeyValue(2), "Hans");
+  EXPECT_EQ(items.Count(), 2);
+}
+
+TEST(Collection, RemovesByKeyPositionAndFront) {
+  clsCollection items;
+  for (const auto* key : {"a", "b", "c", "d"}) items.AddByKeyValue(key, std::string(key));
+  EXPECT_FALSE(items.RemoveByIndex("x"));
+  EXPECT_FALSE(items.RemoveByIndex("5"));
+  EXPECT_TRUE(items.RemoveByIndex("2"));
+  EXPECT_TRUE(items.RemoveByKeyName("c"));
+  EXPECT_FALSE(items.RemoveByKeyName("c"));
+  EXPECT_TRUE(items.RemoveFirst());
+  EXPECT_EQ(items.Queue_GetByIndex(1), "d");
+  EXPECT_TRUE(items.AddByKeyValue("a", std::string("again")));
+}
+
+TEST(Collection, ChangesKeysAndClonesValuesWithoutThem) {
+  clsCollection items;
+  const auto object = std::make_shared<int>(5);
+  items.AddByKeyValue("old", CollectionObject(object));
+  items.ChangeKey("old", "new");
+  EXPECT_EQ(std::get<CollectionObject>(items.ItemByKey("new")), object);
+  items.ChangeKey("none", "x");
+  const clsCollection copy = items.Clone();
+  EXPECT_EQ(copy.Count(), 1);
+  bool found = true;
+  copy.GetItemByKey("new", found);
+  EXPECT_FALSE(found);
+  EXPECT_EQ(std::get<std::string>(copy.GetItemByIndex(9)), "");
+}
+
+}  // namespace
+}  // namespace quenda

@@ -1,0 +1,86 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "platform/form.h"
+#include "support/modAPI_FileOpenDlg.h"
+#include "support/modPrivateDummy.h"
+#include "support/progress_percent.h"
+#include "support/shell.h"
+#include "tests/shared/error_service.h"
+
+namespace quenda {
+namespace {
+
+using testing::ElementsAre;
+
+const FilterTexts kTexts = {"Alle Dateien", "Bilder"};
+const FileFilter kAll = {"Alle Dateien", "*.*"};
+
+TEST(FileFilters, EndWithAllFiles) {
+  ErrorService service;
+  const auto filters = [&](std::string_view key) {
+    return modAPI_FileOpenDlg::fFilter(service.errors, key, kTexts);
+  };
+  EXPECT_THAT(filters("all"), ElementsAre(kAll));
+  EXPECT_THAT(filters("unknown"), ElementsAre(kAll));
+  EXPECT_THAT(filters("ispy"), ElementsAre(FileFilter{"ISpy log", "ISpy.log"}, kAll));
+  EXPECT_THAT(filters("pics"), ElementsAre(FileFilter{"Bilder (jpg, bmp, gif, png, ico)",
+                                                      "*.jpg;*.bmp;*.gif;*.png;*.ico"},
+                                           kAll));
+  EXPECT_EQ(filters("html").size(), 4U);
+}
+
+TEST(FileOpenDialog, ReturnsTheChosenPathOrNothing) {
+  ErrorService service;
+  FakeDialogs dialogs;
+  Form form("fMain");
+  dialogs.paths = {"C:\\kontakte.csv"};
+  const auto open = [&] {
+    return modAPI_FileOpenDlg::FileOpenDialog(service.errors, dialogs, form, "all", kTexts);
+  };
+  EXPECT_EQ(open(), "C:\\kontakte.csv");
+  EXPECT_EQ(open(), "");
+}
+
+TEST(MsgBoxForward, NamesTheProgramWhereNoTitleIsGiven) {
+  ErrorService service;
+  FakeDialogs dialogs;
+  FakeSystem system;
+  dialogs.answers = {MessageAnswer::kNo};
+  EXPECT_EQ(modPrivateDummy::MsgBoxForward(service.errors, dialogs, system, "?",
+                                           MessageStyle::kQuestionYesNo, ""),
+            MessageAnswer::kNo);
+  EXPECT_EQ(dialogs.boxes[0].title, "Quenda - Import");
+  EXPECT_EQ(modPrivateDummy::message_title("Titel", "Import"), "Titel");
+}
+
+TEST(ShellEx, TurnsCodesIntoTextsAndTracesFailures) {
+  ErrorService service;
+  service.environment.trace_mode = true;
+  FakeSystem system;
+  const auto result = [&](int code) {
+    system.shell_result = code;
+    return modImport::ShellEx(service.errors, system, nullptr, "Open", "a.txt", "", "");
+  };
+  EXPECT_EQ(result(33), "");
+  EXPECT_EQ(result(32), "DLL not found");
+  EXPECT_EQ(result(0), "Unknown error");
+  EXPECT_EQ(result(4), "Unknown error");
+  EXPECT_EQ(result(-1), "Unknown error");
+  for (int i = 0; i < 44; ++i) service.errors.LogDebug_Trace("fill", {});
+  EXPECT_THAT(service.files.content("D:\\log\\trace.log"),
+              testing::HasSubstr("Import_ShellEx 01(S:Open, S:a.txt, S:, S:)"));
+}
+
+TEST(ProgressPercent, RoundsClampsAndNeverDividesByNothing) {
+  EXPECT_EQ(progress_percent(1, 0, 3), 33);
+  EXPECT_EQ(progress_percent(2, 0, 3), 67);
+  EXPECT_EQ(progress_percent(0, 1, 100), 1);
+  EXPECT_EQ(progress_percent(500, 1, 100), 100);
+  EXPECT_EQ(progress_percent(5, 0, 0), 100);
+  EXPECT_EQ(progress_percent(5, 0, -3), 100);
+  EXPECT_EQ(progress_percent(3000000000, 0, 4000000000), 75);
+}
+
+}  // namespace
+}  // namespace quenda

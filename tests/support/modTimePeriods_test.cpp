@@ -1,0 +1,85 @@
+#include "support/modTimePeriods.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "support/date_text.h"
+#include "tests/shared/error_service.h"
+
+namespace quenda {
+namespace {
+
+struct Fixture : ErrorService {
+  FakeSystem system;
+  modTimePeriods periods{errors, clock, system};
+};
+
+TEST(GetFormatedDateByString, HasThreeFormsAndHandsTheSeparatorBack) {
+  Fixture f;
+  std::string slash = "/";
+  EXPECT_EQ(f.periods.GetFormatedDateByString("", slash, true, true), "2014/03/02");
+  std::string separator;
+  EXPECT_EQ(f.periods.GetFormatedDateByString("24.12.1970", separator, false, true), "24.12.");
+  EXPECT_EQ(separator, ".");
+  EXPECT_EQ(f.periods.GetFormatedDateByString("1.2.2003", separator, false, false), "01.02.2003");
+  EXPECT_EQ(f.periods.GetFormatedTimeNow(), "17:05:09");
+}
+
+TEST(GetLimiter, IsFoundOnce) {
+  Fixture f;
+  f.system.today = "no date";
+  EXPECT_EQ(f.periods.GetLimiter(), "");
+  f.system.today = "3-2-2014";
+  EXPECT_EQ(f.periods.GetLimiter(), "-");
+  f.system.today = "3/2/2014";
+  EXPECT_EQ(f.periods.GetLimiter(), "-");
+}
+
+TEST(CDateNew, ReadsLooseTexts) {
+  struct Case {
+    std::string_view date;
+    std::string_view time;
+    LocalTime moment;
+  };
+  const LocalTime none;
+  const Case cases[] = {
+      {"02.03.2014", "", {2014, 3, 2, 0, 0, 0}},
+      {"2.3.14", " 7:05 ", {2014, 3, 2, 7, 5, 0}},
+      {"2014.03.02", "", {2014, 3, 2, 0, 0, 0}},
+      {"2014/3/2", "17.05.09", {2014, 3, 2, 17, 5, 9}},
+      {"Geb. 12.03.1970", "", {1970, 3, 12, 0, 0, 0}},
+      {"29.02.2012", "", {2012, 2, 29, 0, 0, 0}},
+      {"29.02.2013", "", none},
+      {"31.04.2014", "", none},
+      {"1.2.3.4", "", none},
+      {"x12.03.1970x", "", none},
+      {"02.03.2014", "24:00", none},
+      {"", "17:05", {1899, 12, 30, 17, 5, 0}},
+      {"", "", none},
+      {"nothing", "", none},
+  };
+  for (const Case& c : cases) {
+    Fixture f;
+    EXPECT_EQ(f.periods.CDateNew(c.date, c.time), c.moment) << c.date << " " << c.time;
+    EXPECT_TRUE(f.reports.empty());
+  }
+}
+
+TEST(CDateNew, PutsShortYearsIntoTwoCenturies) {
+  EXPECT_EQ(date_value("1.1.29")->year, 2029);
+  EXPECT_EQ(date_value("1.1.30")->year, 1930);
+}
+
+TEST(DateClean, LosesOnlyWhatStandsBeforeTheDate) {
+  Fixture f;
+  EXPECT_EQ(f.periods.DateClean("Geb. 12.03.1970"), "12.03.1970");
+  EXPECT_EQ(f.periods.DateClean(" am 12.03.1970 (Mo) "), "12.03.1970 (Mo)");
+  EXPECT_EQ(f.periods.DateClean("x12.03.1970x"), "12.03.1970x");
+  EXPECT_EQ(f.periods.DateClean("12.03.1970"), "");
+  EXPECT_EQ(f.periods.DateClean("12.03.1970 (Mo)"), "");
+  EXPECT_EQ(f.periods.DateClean("none"), "");
+}
+
+}  // namespace
+}  // namespace quenda
