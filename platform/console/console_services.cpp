@@ -17,10 +17,8 @@ std::string ConsoleDialogs::open_file(Form& /*owner*/, const std::vector<FileFil
 }
 
 void ConsoleEvents::yield() {
-  // Loops call this for every record: asking the clock each time would cost more than the records.
-  constexpr unsigned kCallsPerLook = 64;
   constexpr std::uint64_t kMilliseconds = 50;
-  if (!on_progress || ++calls_ % kCallsPerLook != 0) return;
+  if (!on_progress) return;
   const std::uint64_t now = clock_.milliseconds();
   if (now - last_progress_ < kMilliseconds) return;
   last_progress_ = now;
@@ -29,6 +27,10 @@ void ConsoleEvents::yield() {
 
 void ConsoleEvents::show_modal(Form& form, Form& owner) {
   if (on_modal) on_modal(form, owner);
+}
+
+void ConsoleLink::set_text(std::string_view text) {
+  if (text == "data" || text == "nodata") result_ = text;
 }
 
 void ProgressLine::show(std::string_view activity, int percent) {

@@ -64,19 +64,26 @@ class ConsoleEvents final : public Events {
  private:
   const Clock& clock_;
   std::uint64_t last_progress_ = 0;
-  unsigned calls_ = 0;
 };
 
-/// For runs that no phone book listens to.
-class NoHostLink final : public HostLink {
+/// For runs that no phone book listens to: remembers what it would have been told of the book.
+class ConsoleLink final : public HostLink {
  public:
   void offer(std::string_view /*topic*/, std::string_view /*item*/,
              HostLinkEvents /*events*/) override {}
-  void set_text(std::string_view /*text*/) override {}
+  /// The closing of the form makes "nodata" a "cancel", so the texts about the book are kept.
+  void set_text(std::string_view text) override;
   void shut_down() noexcept override {}
+
+  /// "data" after the book was written, "nodata" when there was nothing to write, else empty.
+  [[nodiscard]] const std::string& result() const { return result_; }
+
+ private:
+  std::string result_;
 };
 
-/// The system as it is, except that the suite lies in a folder of the user's choice.
+/// The system as it is, except that the suite lies in a folder of the user's choice and that the
+/// program counts as started by the phone book.
 class SuiteSystem final : public System {
  public:
   SuiteSystem(System& system, std::string program_folder)
@@ -86,7 +93,7 @@ class SuiteSystem final : public System {
   }
   [[nodiscard]] std::string program_folder() const override { return program_folder_; }
   [[nodiscard]] std::string executable_name() const override { return system_.executable_name(); }
-  [[nodiscard]] std::string command_line() const override { return system_.command_line(); }
+  [[nodiscard]] std::string command_line() const override { return "/i"; }
   [[nodiscard]] bool previous_instance() const override { return false; }
   [[nodiscard]] bool protects_program_folders() const override {
     return system_.protects_program_folders();
