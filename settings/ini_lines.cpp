@@ -34,6 +34,7 @@ bool IniLines::next(IniLine& line) {
     if (text.empty()) continue;
     line = IniLine();
     line.start = start;
+    line.end = end;
     line.text_end = static_cast<std::size_t>(text.data() - text_.data()) + text.size();
     const auto closing = text.front() == '[' ? text.rfind(']') : text.npos;
     if (closing != text.npos) {

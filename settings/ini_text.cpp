@@ -148,7 +148,7 @@ std::string replace_ini_value(std::string_view content, std::string_view section
       found = found || inside;
     } else if (inside && small_letters(line.name) == key_wanted) {
       key_line = concat(line.name, "=", editable(value));
-      text.replace(line.start, line.text_end - line.start, key_line);
+      text.replace(line.start, line.end - line.start, key_line);
       return stored_ini(text, encoding);
     }
     if (inside) last_end = line.text_end;

@@ -21,6 +21,7 @@ struct ErrorService {
 
   ErrorService() {
     environment.main_folder = "D:";
+    for (const auto* folder : {"D:", "D:\\log", "D:\\data"}) files.add_folder(folder);
     errors.on_report = [this](std::string_view procedure, const RuntimeFault& fault,
                               std::string_view /*parameters*/) {
       reports.emplace_back(procedure, fault.number());

@@ -111,6 +111,7 @@ TEST(ErrorReport, ThatFailsItselfShowsABoxAndStops) {
 
 TEST(TraceLog, WritesBatchesOf51AndTheRestAtTheEnd) {
   FakeFiles files;
+  files.add_folder("D:\\log");
   FakeClock clock;
   ErrorEnvironment environment{.main_folder = "D:", .trace_mode = true};
   {
