@@ -1,6 +1,8 @@
 #include "support/characters.h"
 
+#include <algorithm>
 #include <array>
+#include <vector>
 
 #include "support/text.h"
 #include "support/view_index.h"
@@ -34,14 +36,18 @@ std::string replace_each(std::string_view text, std::string_view characters,
     for (const char c : characters) result = replace_all(result, {&c, 1}, replacement);
     return result;
   }
-  std::size_t at = result.find_first_of(characters);
-  if (at == result.npos) return result;
+  std::array<bool, 256> listed{};
+  for (const char c : characters) listed[static_cast<unsigned char>(c)] = true;
+  const auto is_listed = [&](char c) { return listed[static_cast<unsigned char>(c)]; };
+  const auto first = std::find_if(result.begin(), result.end(), is_listed);
+  if (first == result.end()) return result;
+  std::size_t at = static_cast<std::size_t>(first - result.begin());
   result.resize(at);
   for (; at < text.size(); ++at) {
-    if (characters.find(text[at]) == characters.npos) {
-      result += text[at];
-    } else {
+    if (is_listed(text[at])) {
       result += replacement;
+    } else {
+      result += text[at];
     }
   }
   return result;
@@ -87,10 +93,16 @@ std::int16_t filter_key(std::int16_t code, std::string_view mode) {
 }
 
 void remove_repeated_lines(TextRows& lines) {
+  constexpr std::size_t kAhead = 12;
+  std::vector<std::uint64_t> hashes(lines.size());
+  for (std::size_t i = 0; i < hashes.size(); ++i) hashes[i] = hash_of(lines[i]);
   ViewIndex kept(lines.size());
   const auto kept_line = [&](std::uint32_t row) { return lines[row]; };
+  std::size_t at = 0;
   lines.keep_rows([&](std::string_view line, std::size_t position) {
-    return !line.empty() && kept.find_or_add(line, static_cast<std::uint32_t>(position),
+    if (at + kAhead < hashes.size()) kept.announce(hashes[at + kAhead]);
+    const std::uint64_t hash = hashes[at++];
+    return !line.empty() && kept.find_or_add(line, hash, static_cast<std::uint32_t>(position),
                                              kept_line) == ViewIndex::kNone;
   });
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <initializer_list>
 #include <optional>
@@ -44,6 +45,20 @@ bool next_part(std::string_view& rest, std::string_view separator, std::string_v
 
 /// How often the character stands in the text.
 std::size_t count_of(std::string_view text, char character);
+
+/// A set of characters that is quick to ask.
+class CharacterSet {
+ public:
+  constexpr explicit CharacterSet(std::string_view characters) {
+    for (const char c : characters) members_[static_cast<unsigned char>(c)] = true;
+  }
+  [[nodiscard]] constexpr bool contains(char c) const {
+    return members_[static_cast<unsigned char>(c)];
+  }
+
+ private:
+  std::array<bool, 256> members_{};
+};
 
 /// Whether a character is one of the digits 0 to 9.
 constexpr bool is_digit(char c) { return c >= '0' && c <= '9'; }

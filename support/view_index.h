@@ -45,13 +45,28 @@ class ViewIndex {
   /// `key_of(row)` gives the text of a stored row.
   template <class KeyOf>
   std::uint32_t find_or_add(std::string_view key, std::uint32_t row, KeyOf key_of) {
+    return find_or_add(key, hash_of(key), row, key_of);
+  }
+  /// The same for a key whose hash is known.
+  template <class KeyOf>
+  std::uint32_t find_or_add(std::string_view key, std::uint64_t hash, std::uint32_t row,
+                            KeyOf key_of) {
     if (2 * (used_ + 1) > slots_.size()) resize(2 * used_ + 2);
-    const std::uint64_t hash = hash_of(key);
     Slot& slot = slots_[position(key, hash, key_of)];
     if (slot.row != kNone) return slot.row;
     slot = {static_cast<std::uint32_t>(hash), row};
     ++used_;
     return kNone;
+  }
+
+  /// Announces a look-up that comes soon. In a large index nearly every look-up waits for memory;
+  /// announced some ten look-ups ahead, the waiting times overlap.
+  void announce(std::uint64_t hash) const {
+#ifdef __GNUC__
+    __builtin_prefetch(&slots_[static_cast<std::uint32_t>(hash) & (slots_.size() - 1)], 1);
+#else
+    (void)hash;
+#endif
   }
 
   /// The row stored under the key, kNone when there is none.
