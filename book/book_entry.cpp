@@ -1,7 +1,9 @@
 #include "book/book_entry.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
+#include <initializer_list>
 
 #include "support/conversions.h"
 #include "support/fault.h"
@@ -39,6 +41,16 @@ std::string_view card_data(std::string_view line) {
 
 std::string_view flag_text(bool flag) { return flag ? "-1" : "0"; }
 
+/// Adds the pieces with one growth of the text.
+void append_pieces(std::string& text, std::initializer_list<std::string_view> pieces) {
+  std::size_t size = 0;
+  for (const std::string_view piece : pieces) size += piece.size();
+  if (text.capacity() - text.size() < size) text.reserve(2 * (text.size() + size));
+  text.resize(text.size() + size);
+  char* to = text.data() + text.size() - size;
+  for (const std::string_view piece : pieces) to = std::copy(piece.begin(), piece.end(), to);
+}
+
 }  // namespace
 
 BookEntry read_book_line(std::string_view line) {
@@ -60,17 +72,9 @@ void append_book_line(std::string& text, const BookEntry& entry) {
   std::array<char, 8> digits{};
   const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), entry.Count).ptr;
   const std::string_view count(digits.data(), static_cast<std::size_t>(end - digits.data()));
-  for (const std::string_view field : {entry.Name, entry.Number, entry.Tag, flag_text(entry.Flag1),
-                                       count, flag_text(entry.Flag2)}) {
-    text += field;
-    text += ';';
-  }
-  text += entry.Address;
-  text += ";;";
-  text += kCardOpen;
-  text += entry.CardData;
-  text += kCardClose;
-  text += kCrLf;
+  append_pieces(text, {entry.Name, ";", entry.Number, ";", entry.Tag, ";", flag_text(entry.Flag1),
+                       ";", count, ";", flag_text(entry.Flag2), ";", entry.Address, ";;", kCardOpen,
+                       entry.CardData, kCardClose, kCrLf});
 }
 
 }  // namespace quenda

@@ -29,6 +29,10 @@ BookChange compose_book(std::string_view old_text, const std::vector<BookEntry>&
     line.clear();
     append_book_line(line, entry);
     const std::string_view old_rest = old_text.substr(change.keep);
+    if (old_rest.starts_with(line)) {
+      change.keep += line.size();
+      continue;
+    }
     const auto differs =
         std::mismatch(line.begin(), line.end(), old_rest.begin(), old_rest.end()).first;
     change.keep += static_cast<std::uint64_t>(differs - line.begin());

@@ -21,7 +21,9 @@ std::string_view next_field(std::string_view& line) {
   return field;
 }
 
+/// The field as the list shows it; in the buffer only where a character has to change.
 std::string_view shown(std::string_view field, std::string& buffer) {
+  if (field.find('|') == field.npos) return trim(field);
   buffer = field;
   std::replace(buffer.begin(), buffer.end(), '|', ',');
   return trim(buffer);

@@ -63,6 +63,7 @@ void fMain::merge_into_book(std::string& book_text, std::string_view& line) {
 
 void fMain::read_book(std::string_view text, std::vector<BookEntry>& entries,
                       std::string_view& line) {
+  entries.reserve(count_of(text, '\n') + 1 + lstImpFinal.count());
   BookLines lines(text);
   std::size_t characters = 0;
   while (lines.next(line)) {

@@ -1,5 +1,6 @@
 #include "book/merge.h"
 
+#include <array>
 #include <cstdint>
 
 #include "support/text.h"
@@ -14,6 +15,40 @@ bool same_contact(const BookEntry& a, const BookEntry& b) {
 
 std::string in_words(const BookEntry& entry) { return concat(entry.Name, "  ", entry.Address); }
 
+/// The hashes of the numbers from the first entry on, some entries ahead of their use: by the time
+/// an entry is looked up, the memory of its look-up has been fetched.
+class HashesAhead {
+ public:
+  HashesAhead(const std::vector<BookEntry>& entries, const ViewIndex& index)
+      : entries_(entries), index_(index) {
+    while (read_ < kAhead) read();
+  }
+
+  std::uint64_t next() {
+    const std::uint64_t hash = hashes_[used_++ % kAhead];
+    read();
+    return hash;
+  }
+
+ private:
+  static constexpr std::size_t kAhead = 12;
+
+  void read() {
+    if (read_ < entries_.size()) {
+      const std::uint64_t hash = hash_of(entries_[read_].Number);
+      hashes_[read_ % kAhead] = hash;
+      index_.announce(hash);
+    }
+    ++read_;
+  }
+
+  const std::vector<BookEntry>& entries_;
+  const ViewIndex& index_;
+  std::array<std::uint64_t, kAhead> hashes_{};
+  std::size_t read_ = 0;
+  std::size_t used_ = 0;
+};
+
 }  // namespace
 
 std::size_t remove_double_entries(std::vector<BookEntry>& entries, const MergeState& state,
@@ -22,17 +57,19 @@ std::size_t remove_double_entries(std::vector<BookEntry>& entries, const MergeSt
   const std::size_t total = entries.size();
   const auto number_of = [&](std::uint32_t row) { return entries[row].Number; };
   ViewIndex by_number(total);
+  HashesAhead hashes(entries, by_number);
   std::size_t kept = 0;
   // The list is packed in place: what is kept never overtakes what is read.
   const auto keep = [&](const BookEntry& entry) { entries[kept++] = entry; };
   for (std::size_t i = 0; i < total; ++i) {
     on_step(i + 1, total);
     BookEntry fresh = entries[i];
+    const std::uint64_t hash = hashes.next();
     if (fresh.Number.empty()) continue;
     // The entry goes to its place before its number is looked up, where the index finds its text.
     entries[kept] = fresh;
     const auto next = static_cast<std::uint32_t>(kept);
-    const std::uint32_t found = by_number.find_or_add(fresh.Number, next, number_of);
+    const std::uint32_t found = by_number.find_or_add(fresh.Number, hash, next, number_of);
     if (found == ViewIndex::kNone) {
       keep(fresh);
       continue;

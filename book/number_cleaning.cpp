@@ -1,6 +1,5 @@
 #include "book/number_cleaning.h"
 
-#include "support/characters.h"
 #include "support/text.h"
 
 namespace quenda {
@@ -10,17 +9,26 @@ constexpr std::size_t kLongestLocalNumber = 8;
 constexpr std::size_t kShortestCode = 3;
 
 /// The characters that numbers are written with and that no number keeps.
-constexpr std::string_view kPunctuation = " -()/\\,.[]\"\"+=?*#";
+constexpr CharacterSet kPunctuation(" -()/\\,.[]\"\"+=?*#");
 
 }  // namespace
 
 std::string clean_number(std::string_view number, std::string_view own_country_code) {
-  // "+" becomes "00" before the bracket rule and before the stripping, which would drop it.
-  std::string result = number.find_first_of("+(") == number.npos
-                           ? std::string(number)
-                           : replace_all(replace_all(number, "+", "00"), "(0", "");
-  result = strip_characters(result, kPunctuation, "");
-  if (result.starts_with(own_country_code)) result = replace_all(result, own_country_code, "");
+  // "+" becomes "00" before the bracket rule looks for "(0", and before the punctuation goes, of
+  // which it would be a part.
+  std::string dialled;
+  if (number.find('+') != number.npos) number = dialled = replace_all(number, "+", "00");
+  std::string result;
+  for (std::size_t i = 0; i < number.size(); ++i) {
+    if (number[i] == '(' && i + 1 < number.size() && number[i + 1] == '0') {
+      ++i;
+    } else if (!kPunctuation.contains(number[i])) {
+      result += number[i];
+    }
+  }
+  if (!own_country_code.empty() && result.starts_with(own_country_code)) {
+    result = replace_all(result, own_country_code, "");
+  }
   if (!result.starts_with('0')) result.insert(0, 1, '0');
   return result;
 }

@@ -20,6 +20,8 @@ class RecordTable {
 
   [[nodiscard]] std::size_t size() const { return starts_.empty() ? 0 : starts_.size() - 1; }
   [[nodiscard]] bool empty() const { return size() == 0; }
+  /// Bytes of all records together.
+  [[nodiscard]] std::size_t bytes() const { return starts_.empty() ? 0 : starts_.back(); }
   /// The record as it stands in the text, without what padding added. Fault 9 beyond the end.
   [[nodiscard]] std::string_view operator[](std::size_t record) const;
 

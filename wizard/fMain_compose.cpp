@@ -155,6 +155,7 @@ bool fMain::Scramble() {
     LineComposer composer(composition(), source.Delimiter.front(),
                           [this](std::string_view number) { return fCleanNumbers(number); });
     const std::size_t count = source.ImportRows.size();
+    entry_lines_.reserve(count, source.ImportRows.bytes());
     for (std::size_t record = 0; record < count; ++record) {
       composer.compose(source.ImportRows, record, entry_lines_);
       step(record + 1, count);
