@@ -16,7 +16,7 @@ constexpr const char* kExamples = R"text(Beispiele:
     quenda-import --suite /opt/quenda --file kontakte.csv --existing keep --quiet
   Spalten angeben und nur zeigen, was eingelesen würde:
     quenda-import --suite . --file kontakte.csv --name Vorname --name Nachname \
-      --number Mobil --number "Telefon privat" --suffix "1= (mobil)" --dry-run
+      --number Mobil --number "Telefon privat" --suffix "1=(mobil)" --dry-run
   Ein Anrufprotokoll von ISpy:
     quenda-import --suite . --file logs/ispy.log --existing keep
 
