@@ -91,7 +91,9 @@ class NativeCheckBox : public PeerOf<CheckBox> {
   }
 
  protected:
-  [[nodiscard]] WindowSpec spec() const override { return {WC_BUTTONW, true, BS_CHECKBOX}; }
+  [[nodiscard]] WindowSpec spec() const override {
+    return {WC_BUTTONW, true, BS_CHECKBOX | BS_MULTILINE};
+  }
   void show(Aspect aspect) override {
     if (aspect == Aspect::kCaption) set_window_text(typed().caption());
     if (aspect == Aspect::kValue) send(BM_SETCHECK, typed().ticked() ? BST_CHECKED : BST_UNCHECKED);
@@ -108,7 +110,9 @@ class NativeOptionButton : public PeerOf<OptionButton> {
   }
 
  protected:
-  [[nodiscard]] WindowSpec spec() const override { return {WC_BUTTONW, true, BS_AUTORADIOBUTTON}; }
+  [[nodiscard]] WindowSpec spec() const override {
+    return {WC_BUTTONW, true, BS_AUTORADIOBUTTON | BS_MULTILINE};
+  }
   void show(Aspect aspect) override {
     if (aspect == Aspect::kCaption) set_window_text(typed().caption());
     if (aspect != Aspect::kValue) return;

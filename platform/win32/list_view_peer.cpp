@@ -23,8 +23,7 @@ class NativeListView : public PeerOf<ListView> {
       case LVN_ODFINDITEMW:
         return find(*from_lparam<NMLVFINDITEMW>(lparam));
       case LVN_ITEMCHANGED:
-      case LVN_ODSTATECHANGED:
-        if (!muted()) typed().take_user_select(shown_selection());
+        take_change(*from_lparam<NMLISTVIEW>(lparam));
         return 0;
       case LVN_KEYDOWN:
         typed().take_user_key_down(
@@ -132,8 +131,18 @@ class NativeListView : public PeerOf<ListView> {
     }
   }
 
-  [[nodiscard]] int shown_selection() const {
-    return static_cast<int>(send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED));
+  /// The list is never asked which row is selected: it would look through all of them.
+  void take_change(const NMLISTVIEW& change) {
+    const bool was = (change.uOldState & LVIS_SELECTED) != 0;
+    const bool is = (change.uNewState & LVIS_SELECTED) != 0;
+    if (was == is) return;
+    const bool this_row = change.iItem == -1 || change.iItem == shown_row_;
+    if (is) {
+      shown_row_ = change.iItem;
+    } else if (this_row) {
+      shown_row_ = -1;
+    }
+    if (!muted()) typed().take_user_select(shown_row_);
   }
 
   void show_columns() {
@@ -160,16 +169,20 @@ class NativeListView : public PeerOf<ListView> {
 
   void show_selection() {
     const int wanted = typed().selected();
-    if (shown_selection() == wanted) return;
+    if (shown_row_ == wanted) return;
     LVITEMW item{};
     item.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
-    send(LVM_SETITEMSTATE, static_cast<WPARAM>(-1), as_lparam(&item));
+    if (shown_row_ >= 0) {
+      send(LVM_SETITEMSTATE, static_cast<WPARAM>(shown_row_), as_lparam(&item));
+    }
+    shown_row_ = wanted;
     if (wanted < 0) return;
     item.state = item.stateMask;
     send(LVM_SETITEMSTATE, static_cast<WPARAM>(wanted), as_lparam(&item));
     send(LVM_ENSUREVISIBLE, static_cast<WPARAM>(wanted), FALSE);
   }
 
+  int shown_row_ = -1;
   std::vector<int> widths_;  // in pixels, as last asked for
 };
 

@@ -1,0 +1,179 @@
+// The host link with real hosts: each runs in a thread of its own with its own message loop, as
+// the phone book does in its process.
+#include "platform/win32/dde_server.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <functional>
+#include <mutex>
+#include <thread>
+
+#include "platform/win32/handles.h"
+#include "platform/win32/text_win32.h"
+
+namespace quenda {
+namespace {
+
+using testing::ElementsAre;
+
+/// What a host has heard, in its order.
+class Heard {
+ public:
+  void add(std::string text) {
+    const std::lock_guard lock(mutex_);
+    texts_.push_back(std::move(text));
+  }
+  std::vector<std::string> all() {
+    const std::lock_guard lock(mutex_);
+    return texts_;
+  }
+
+ private:
+  std::mutex mutex_;
+  std::vector<std::string> texts_;
+};
+
+thread_local Heard* heard_here = nullptr;
+
+HDDEDATA CALLBACK host_callback(UINT type, UINT format, HCONV, HSZ, HSZ, HDDEDATA data, ULONG_PTR,
+                                ULONG_PTR) {
+  if (type == XTYP_DISCONNECT) heard_here->add("(end)");
+  if (type != XTYP_ADVDATA) return nullptr;
+  wchar_t units[40] = {};
+  DdeGetData(data, from_lparam<BYTE>(as_lparam(units)), sizeof units - 2, 0);
+  heard_here->add(format == CF_TEXT ? std::string(from_lparam<char>(as_lparam(units)))
+                                    : nearest_1252(units));
+  return from_lparam<HDDEDATA__>(DDE_FACK);
+}
+
+/// A phone book that connects, watches the item, and listens until told to leave.
+class Host {
+ public:
+  Host(MessageLoop& tool, std::string topic, UINT format)
+      : tool_(tool), thread_([=, this] { run(topic, format); }) {}
+  ~Host() { leave(); }
+  Host(const Host&) = delete;
+  Host& operator=(const Host&) = delete;
+
+  /// The tool goes on meanwhile, since it has to agree to the end.
+  void leave() {
+    stop_ = true;
+    while (!gone_) {
+      tool_.pump();
+      Sleep(1);
+    }
+    if (thread_.joinable()) thread_.join();
+  }
+  std::vector<std::string> heard() { return heard_.all(); }
+  [[nodiscard]] bool refused() const { return refused_; }
+
+ private:
+  void run(const std::string& topic, UINT format) {
+    heard_here = &heard_;
+    DWORD instance = 0;
+    DdeInitializeW(&instance, &host_callback, APPCMD_CLIENTONLY, 0);
+    const auto name = [&](std::string_view text) {
+      return DdeCreateStringHandleW(instance, wide(text).c_str(), CP_WINUNICODE);
+    };
+    const HCONV link = DdeConnect(instance, name("Import"), name(topic), nullptr);
+    refused_ = link == nullptr;
+    if (!refused_) {
+      DdeClientTransaction(nullptr, 0, link, name("txtDDE"), format, XTYP_ADVSTART, 3000, nullptr);
+    }
+    while (!stop_ && !refused_) {
+      MSG message{};
+      while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != 0) DispatchMessageW(&message);
+      Sleep(1);
+    }
+    if (!refused_) DdeDisconnect(link);
+    DdeUninitialize(instance);
+    gone_ = true;
+  }
+
+  MessageLoop& tool_;
+  Heard heard_;
+  std::atomic<bool> stop_ = false;
+  std::atomic<bool> gone_ = false;
+  std::atomic<bool> refused_ = false;
+  std::thread thread_;
+};
+
+class DdeServerTest : public testing::Test {
+ protected:
+  DdeServerTest() {
+    server_.offer("book", "txtDDE",
+                  {[this] {
+                     ++opened_;
+                     server_.set_text("ON");
+                   },
+                   [this] { ++closed_; }, [this] { ++failed_; }});
+  }
+
+  /// Handles messages until the condition holds, for so many milliseconds at most.
+  bool becomes(const std::function<bool()>& condition, ULONGLONG patience = 3000) {
+    const ULONGLONG end = GetTickCount64() + patience;
+    while (!condition() && GetTickCount64() < end) {
+      loop_.pump();
+      Sleep(1);
+    }
+    return condition();
+  }
+  bool hears(Host& host, const std::string& text) {
+    return becomes([&] {
+      const auto all = host.heard();
+      return !all.empty() && all.back() == text;
+    });
+  }
+
+  MessageLoop loop_;
+  DdeServer server_{loop_, "Import"};
+  int opened_ = 0;
+  int closed_ = 0;
+  int failed_ = 0;
+};
+
+TEST_F(DdeServerTest, EveryHostHearsEachTextOnceInEitherForm) {
+  Host first(loop_, "book", CF_TEXT);
+  ASSERT_TRUE(hears(first, "ON"));
+  Host second(loop_, "BOOK", CF_UNICODETEXT);
+  ASSERT_TRUE(hears(second, "ON"));
+  server_.set_text("data");
+  EXPECT_TRUE(hears(first, "data") && hears(second, "data"));
+  EXPECT_THAT(first.heard(), ElementsAre("ON", "data"));
+  EXPECT_THAT(second.heard(), ElementsAre("ON", "data"));
+  EXPECT_EQ(opened_, 2);
+}
+
+TEST_F(DdeServerTest, TheLinkIsClosedWhenTheLastHostHasLeft) {
+  Host first(loop_, "book", CF_TEXT);
+  Host second(loop_, "book", CF_TEXT);
+  ASSERT_TRUE(hears(first, "ON") && hears(second, "ON"));
+  first.leave();
+  EXPECT_FALSE(becomes([&] { return closed_ > 0; }, 300)) << "one still listens";
+  second.leave();
+  EXPECT_TRUE(becomes([&] { return closed_ == 1; }));
+  EXPECT_EQ(failed_, 0);
+}
+
+TEST_F(DdeServerTest, AnotherTopicIsRefused) {
+  Host stranger(loop_, "journal", CF_TEXT);
+  EXPECT_TRUE(becomes([&] { return stranger.refused(); }));
+  EXPECT_EQ(opened_, 0);
+}
+
+TEST_F(DdeServerTest, TheLastTextArrivesBeforeTheEndAndTheEndIsQuick) {
+  Host host(loop_, "book", CF_TEXT);
+  ASSERT_TRUE(hears(host, "ON"));
+  const ULONGLONG begin = GetTickCount64();
+  server_.set_text("cancel");
+  server_.shut_down();
+  EXPECT_LT(GetTickCount64() - begin, 1000U);
+  ASSERT_GE(host.heard().size(), 2U);
+  EXPECT_EQ(host.heard()[1], "cancel");
+  EXPECT_EQ(closed_, 0) << "nobody listens to events any more";
+}
+
+}  // namespace
+}  // namespace quenda
