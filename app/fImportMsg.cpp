@@ -11,9 +11,9 @@ namespace {
 
 constexpr DesignEntry kDesign[] = {
     {"labMsgNumber", -1, "", -1, {240, 210, 6720, 255}, -1, "Import_Label_ItemExistWithNumber"},
-    {"labIn", -1, "", -1, {240, 630, 1500, 255}, -1, "Import_Option_RetainDataSet"},
+    {"labIn", -1, "", -1, {240, 630, 6720, 255}, -1, "Import_Option_RetainDataSet"},
     {"labMsgIn", -1, "", -1, {240, 870, 6720, 480}, -1, ""},
-    {"labNew", -1, "", -1, {240, 1380, 1500, 255}, -1, "Import_Label_Contacts"},
+    {"labNew", -1, "", -1, {240, 1380, 6720, 255}, -1, "Import_Option_NewDataSet"},
     {"labMsgNew", -1, "", -1, {240, 1620, 6720, 480}, -1, ""},
     {"optAsk", 0, "", -1, {240, 2220, 6720, 300}, 0, "Import_Option_AskAgain"},
     {"optAsk", 1, "", -1, {240, 2550, 6720, 300}, 1, "Import_Option_ApplyAll"},

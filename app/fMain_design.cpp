@@ -51,10 +51,10 @@ constexpr DesignEntry kSourcePage[] = {
     {"cmbLimiter", -1, "frmImp", 0, {2520, 885, 2400, 345}, 5, ""},
     {"labLimError", -1, "frmImp", 0, {5100, 930, 5340, 255}, -1, "Import_Label_DetectFail"},
     {"cmdIspy", -1, "frmImp", 0, {0, 1740, 2340, 390}, 6, "Import_Button_ImportISpy"},
-    {"labIspy", -1, "frmImp", 0, {2520, 1695, 7920, 540}, -1, "Import_Label_IspyFormat"},
+    {"labIspy", -1, "frmImp", 0, {2520, 1695, 7920, 660}, -1, "Multiline_Import"},
     {"cmdOutlook", -1, "frmImp", 0, {0, 2640, 2340, 390}, 7, "Import_Button_ImportOutlook"},
     {"labOLver", -1, "frmImp", 0, {2520, 2715, 7920, 255}, -1, ""},
-    {"labOLhint", -1, "frmImp", 0, {2520, 3000, 7920, 540}, -1, "Multiline_Import"},
+    {"labOLhint", -1, "frmImp", 0, {2520, 3000, 7920, 540}, -1, "Import_Label_OutlookExport"},
     {"chkNameLen", -1, "frmImp", 0, {0, 4020, 7800, 300}, 8, "Import_ChkBox_NameMin3Chars"},
 };
 
@@ -163,13 +163,13 @@ constexpr NumberKindRow kNumberKindRows[] = {
     {{"ISDN", "Import_String_PhoneNumber", ""}, "Import_Text_Private"},
     {{"Import_ChkBox_ShortMainNumber", "", ""}, "Import_Text_Primary"},
     {{"Import_ChkBox_ShortMainNumber", "Import_ChkBox_ShortCommercial", ""}, "Import_Text_Firm"},
-    {{"Import_ChkBox_Other", "Import_String_PhoneNumber", ""}, "Import_Text_Alternate"},
+    {{"Import_ChkBox_Other", "", ""}, "Import_Text_Alternate"},
 };
 
 /// Names of the pages: 1 to 5, and the Outlook page.
 constexpr std::string_view kTitles[] = {
-    "Import_Label_Contacts",     "Import_Label_AddressSelect", "Import_Label_FormattingOutput",
-    "Import_Label_AddressAlloc", "Import_Label_ImportedData",  "Import_Button_ImportOutlook"};
+    "Import_Label_Contacts",         "Import_Label_OverviewData", "Import_Label_NameInfo",
+    "Import_Label_FormattingOutput", "Import_Label_ImportedData", "Import_Button_ImportOutlook"};
 
 }  // namespace
 
@@ -205,6 +205,7 @@ void fMain::design() {
   lstImpFinal.set_columns({{"", 2600}, {"", 1800}, {"", 2700}});
   txtDDE.set_visible(false);
   labLimError.set_visible(false);
+  labOLhint.set_visible(false);
   PicProgress.set_visible(false);
   default_button = &cmdFor;
   cancel_button = &cmdCancel;
@@ -238,8 +239,8 @@ void fMain::name_address_boxes() {
       const std::string address = std::to_string(box->index() + 1);
       box->set_caption(address);
       // Read aloud, "1" alone would say nothing.
-      box->set_spoken_name(
-          concat(texts.number, " ", std::to_string(row + 1), ": ", texts.address, " ", address));
+      box->set_spoken_name(concat(app_.text("Import_Label_AddressSelect"), ": ", texts.number, " ",
+                                  std::to_string(row + 1), ", ", texts.address, " ", address));
     }
   }
 }

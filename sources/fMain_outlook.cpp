@@ -19,6 +19,7 @@ void fMain::tmOLcheck_Timer() {
   procedure(app_.errors, "fMain.tmOLcheck_Timer", {}, [&] {
     tmOLcheck.set_enabled(false);
     outlook_.isOutlookInstalled(true);
+    labOLhint.set_visible(!outlook_.installed());
     cmdOutlook.set_enabled(outlook_importable() && txtImpFile.enabled());
     if (!outlook_.installed()) {
       labOLver.set_caption(texts.outlook_not_inst);
