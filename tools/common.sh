@@ -32,20 +32,25 @@ tracked() {
   printf '%s\n' "$list"
 }
 
-# Configures when that has not been done yet, and builds; output only when something fails or is
-# worth a warning. Usage: build PRESET [TARGET...]
+# Configures and builds in build/NAME; what is printed on the way is shown only when it fails.
+# Usage: build NAME PRESET [CMAKE-OPTION...] [-- TARGET...]
 build() {
-  local preset=$1
-  shift
+  local name=$1 preset=$2 options=()
+  shift 2
+  while [ $# -gt 0 ] && [ "$1" != -- ]; do
+    options+=("$1")
+    shift
+  done
+  if [ $# -gt 0 ]; then shift; fi
   if command -v ccache >/dev/null; then
     export CMAKE_C_COMPILER_LAUNCHER=ccache CMAKE_CXX_COMPILER_LAUNCHER=ccache
     export CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
   fi
   mkdir -p "$root/build"
-  local log=$root/build/$preset.log
+  local log=$root/build/$name.log
   (
     cd "$root"
-    cmake --preset "$preset" &&
-      cmake --build "build/$preset" --parallel "$jobs" ${1:+--target "$@"}
-  ) >"$log" 2>&1 || { cat "$log" >&2; die "building $preset failed"; }
+    cmake --preset "$preset" -B "build/$name" "${options[@]}" &&
+      cmake --build "build/$name" --parallel "$jobs" ${1:+--target "$@"}
+  ) >"$log" 2>&1 || { cat "$log" >&2; die "Building $name failed."; }
 }
