@@ -68,7 +68,7 @@ constexpr std::array kHeaderNumbers = {
     NumberSetting{"Import", "AddChk31", 0, 0, 1, kAddCheck<2, 0>},
     NumberSetting{"Import", "AddChk32", 0, 0, 1, kAddCheck<2, 1>},
 };
-constexpr std::array<std::string_view, kSelectionKinds> kSelectionKeys = {
+constexpr std::array<std::string_view, kHeaderKinds> kSelectionKeys = {
     "SelNames", "SelNumbers", "SelAddress1", "SelAddress2"};
 
 std::string numbered(std::string_view key, std::size_t position) {
@@ -131,9 +131,9 @@ void load_page_options(modAPI_INI& ini, ImportSettings& settings) {
 }
 
 void load_selections(modAPI_INI& ini, ImportSettings& settings) {
-  for (std::size_t kind = 0; kind < kSelectionKinds; ++kind) {
+  for (std::size_t kind = 0; kind < kHeaderKinds; ++kind) {
     settings.selection_counts[kind] = 0;
-    for (std::size_t i = 0; i < kMostSelectedOf[kind]; ++i) {
+    for (std::size_t i = 0; i < most_columns(kind); ++i) {
       skip_faults({[&] {
         std::string& text = settings.selections[kind][i];
         text = load_import_text(ini, numbered(kSelectionKeys[kind], i), "");
@@ -166,9 +166,9 @@ void save_page_options(modAPI_INI& ini, const ImportSettings& settings) {
 }
 
 void save_selections(modAPI_INI& ini, const ImportSettings& settings) {
-  for (std::size_t kind = 0; kind < kSelectionKinds; ++kind) {
+  for (std::size_t kind = 0; kind < kHeaderKinds; ++kind) {
     const auto count = static_cast<std::size_t>(settings.selection_counts[kind]);
-    for (std::size_t i = 0; i < kMostSelectedOf[kind]; ++i) {
+    for (std::size_t i = 0; i < most_columns(kind); ++i) {
       save_import_text(ini, numbered(kSelectionKeys[kind], i),
                        i < count ? settings.selections[kind][i] : std::string());
     }

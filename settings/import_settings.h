@@ -6,22 +6,11 @@
 #include <string>
 #include <string_view>
 
+#include "wizard/header_columns.h"
+
 namespace quenda {
 
 class modAPI_INI;
-
-/// The kinds of columns, in the order of the wizard's header lists.
-enum SelectionKind : std::size_t {
-  kSelNames,
-  kSelNumbers,
-  kSelAddress1,
-  kSelAddress2,
-  kSelectionKinds
-};
-
-/// Most columns of a kind that can be chosen.
-inline constexpr std::size_t kMostSelected = 3;
-inline constexpr std::array<std::size_t, kSelectionKinds> kMostSelectedOf = {2, 3, 3, 3};
 
 /// Number boxes of the Outlook page, and characters of its address text.
 inline constexpr std::size_t kOutlookNumbers = 11;
@@ -50,8 +39,8 @@ struct ImportSettings {
   std::array<std::string, kOutlookNumbers> ol_name_ext;  // saved and never read back
 
   // The header texts of the chosen columns, and how many there are.
-  std::array<std::array<std::string, kMostSelected>, kSelectionKinds> selections;
-  std::array<std::int32_t, kSelectionKinds> selection_counts{};
+  SelectionTable selections;
+  std::array<std::int32_t, kHeaderKinds> selection_counts{};
 
   // The header pages. A suffix that is not in the file keeps the text that it has here.
   std::int32_t name_flip = 0;

@@ -17,8 +17,7 @@ namespace {
 
 std::vector<std::size_t> chosen_columns(const ListBox& list, HeaderKind kind) {
   const std::vector<int> positions = list.selected_positions();
-  const std::size_t count =
-      std::min(positions.size(), static_cast<std::size_t>(kMostColumns[kind]));
+  const std::size_t count = std::min(positions.size(), most_columns(kind));
   return {positions.begin(), positions.begin() + static_cast<std::ptrdiff_t>(count)};
 }
 

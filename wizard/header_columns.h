@@ -15,6 +15,9 @@ enum HeaderKind : std::size_t { kNames, kNumbers, kAddress1, kAddress2, kHeaderK
 
 /// Most columns that can be chosen of a kind.
 inline constexpr std::array<int, kHeaderKinds> kMostColumns = {2, 3, 3, 3};
+constexpr std::size_t most_columns(std::size_t kind) {
+  return static_cast<std::size_t>(kMostColumns.at(kind));
+}
 
 inline constexpr std::size_t kSelectionSlots = 3;
 

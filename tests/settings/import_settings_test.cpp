@@ -114,8 +114,8 @@ TEST(ImportSettings, ComeBackAsTheyWereSaved) {
 TEST(ImportSettings, SavingOneColumnEmptiesTheOtherSlots) {
   Fixture f;
   f.put("[Import]\r\nSelNames1=a\r\nSelNames2=b\r\n");
-  f.settings.selections[kSelNames] = {"Name", "old", "old"};
-  f.settings.selection_counts[kSelNames] = 1;
+  f.settings.selections[kNames] = {"Name", "old", "old"};
+  f.settings.selection_counts[kNames] = 1;
   save_selections(f.ini, f.settings);
   EXPECT_THAT(f.saved(), HasSubstr("SelNames1=Name\r\nSelNames2=\r\n"));
   EXPECT_THAT(f.saved(), testing::Not(HasSubstr("SelNames3")));
@@ -126,7 +126,7 @@ TEST(ImportSettings, CountsFilledSlotsAlsoBehindEmptyOnes) {
   Fixture f;
   f.put("[Import]\r\nSelNumbers2=Tel\r\nSelNumbers3=Mobil\r\nSelNames3=x\r\n");
   load_selections(f.ini, f.settings);
-  EXPECT_THAT(f.settings.selections[kSelNumbers], ElementsAre("", "Tel", "Mobil"));
+  EXPECT_THAT(f.settings.selections[kNumbers], ElementsAre("", "Tel", "Mobil"));
   EXPECT_THAT(f.settings.selection_counts, ElementsAre(0, 2, 0, 0));
 }
 
