@@ -118,7 +118,7 @@ std::pair<std::size_t, std::string> row_value(const std::string& typed, std::str
 
 void take_columns(const Typed& typed, BatchOptions& options) {
   for (std::size_t kind = 0; kind < kHeaderKinds; ++kind) {
-    if (typed.columns[kind].size() > static_cast<std::size_t>(kMostColumns[kind])) {
+    if (typed.columns[kind].size() > most_columns(kind)) {
       throw Stop{kExitWrongUsage, concat(kColumnOptions[kind], " darf höchstens ",
                                          std::to_string(kMostColumns[kind]), "-mal stehen.")};
     }
