@@ -12,12 +12,16 @@ void ListBox::check(int position) const {
 
 const std::string& ListBox::item(int position) const {
   check(position);
-  return items_[static_cast<std::size_t>(position)];
+  return (*items_)[static_cast<std::size_t>(position)];
 }
 
 void ListBox::set_items(std::vector<std::string> items) {
+  set_items(std::make_shared<const std::vector<std::string>>(std::move(items)));
+}
+
+void ListBox::set_items(std::shared_ptr<const std::vector<std::string>> items) {
   items_ = std::move(items);
-  selected_.assign(items_.size(), false);
+  selected_.assign(items_->size(), false);
   selected_count_ = 0;
   list_index_ = -1;
   refresh(Aspect::kItems);

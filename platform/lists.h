@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -15,10 +16,12 @@ class ListBox : public Control {
   ListBox(ControlHost& host, std::string_view name, int index = -1)
       : Control(host, ControlKind::kListBox, name, index) {}
 
-  [[nodiscard]] int count() const { return static_cast<int>(items_.size()); }
+  [[nodiscard]] int count() const { return static_cast<int>(items_->size()); }
   /// Text of the entry at a position from 0; fault 381 beyond the end, as for every position here.
   [[nodiscard]] const std::string& item(int position) const;
   void set_items(std::vector<std::string> items);
+  /// The same for entries that several lists have in common, so that none copies them.
+  void set_items(std::shared_ptr<const std::vector<std::string>> items);
 
   [[nodiscard]] bool selected(int position) const;
   /// Raises Click when the entry's selection changes.
@@ -37,7 +40,8 @@ class ListBox : public Control {
   void check(int position) const;
   void store(int position, bool selected);
 
-  std::vector<std::string> items_;
+  std::shared_ptr<const std::vector<std::string>> items_ =
+      std::make_shared<const std::vector<std::string>>();
   std::vector<bool> selected_;
   int selected_count_ = 0;
   int list_index_ = -1;

@@ -74,7 +74,11 @@ bool procedure_with_message(clsErrorHandling& errors, std::string_view name, Tra
   if (errors.tracing()) errors.LogDebug_Trace(name, traced);
   return procedure_detail::trap(errors, body, [&](const RuntimeFault& fault, int statement) {
     errors.set_pending(fault, statement);
-    errors.ErrorLogWithMsgBox(name, {worked_on});
+    if (worked_on.empty()) {
+      errors.ErrorLogWithMsgBox(name, {});
+    } else {
+      errors.ErrorLogWithMsgBox(name, {worked_on});
+    }
   });
 }
 

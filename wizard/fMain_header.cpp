@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -35,7 +36,8 @@ void fMain::ImpHeader() {
 
 void fMain::fill_header_lists(const std::vector<std::string>& header) {
   const UpdateLock lock(*this);
-  for (const auto& list : lstHeader) list->set_items(header);
+  const auto shared = std::make_shared<const std::vector<std::string>>(header);
+  for (const auto& list : lstHeader) list->set_items(shared);
   std::vector<ListColumn> columns;
   columns.reserve(header.size());
   for (const std::string& heading : header) columns.push_back({.heading = heading});
