@@ -6,7 +6,8 @@ int progress_percent(std::int64_t value, std::int64_t minimum, std::int64_t maxi
   if (maximum <= 0) return 100;
   if (value < minimum) value = minimum;
   if (value > maximum) value = maximum;
-  return static_cast<int>(static_cast<double>(value) / static_cast<double>(maximum) * 100 + 0.5);
+  const double percent = static_cast<double>(value) / static_cast<double>(maximum) * 100 + 0.5;
+  return static_cast<int>(percent);
 }
 
 }  // namespace quenda

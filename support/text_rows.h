@@ -51,8 +51,7 @@ void TextRows::keep_rows(Keep keep) {
   std::size_t kept = 0;
   std::size_t written = 0;
   std::size_t start = 0;
-  for (std::size_t row = 0; row < ends_.size(); ++row) {
-    const std::size_t end = ends_[row];
+  for (const std::size_t end : ends_) {
     if (keep(std::string_view(text_.data() + start, end - start), kept)) {
       if (written != start) std::memmove(text_.data() + written, text_.data() + start, end - start);
       written += end - start;
