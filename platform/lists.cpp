@@ -16,10 +16,10 @@ const std::string& ListBox::item(int position) const {
 }
 
 void ListBox::set_items(std::vector<std::string> items) {
-  set_items(std::make_shared<const std::vector<std::string>>(std::move(items)));
+  share_items(std::make_shared<const std::vector<std::string>>(std::move(items)));
 }
 
-void ListBox::set_items(std::shared_ptr<const std::vector<std::string>> items) {
+void ListBox::share_items(std::shared_ptr<const std::vector<std::string>> items) {
   items_ = std::move(items);
   selected_.assign(items_->size(), false);
   selected_count_ = 0;

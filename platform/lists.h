@@ -21,7 +21,7 @@ class ListBox : public Control {
   [[nodiscard]] const std::string& item(int position) const;
   void set_items(std::vector<std::string> items);
   /// The same for entries that several lists have in common, so that none copies them.
-  void set_items(std::shared_ptr<const std::vector<std::string>> items);
+  void share_items(std::shared_ptr<const std::vector<std::string>> items);
 
   [[nodiscard]] bool selected(int position) const;
   /// Raises Click when the entry's selection changes.

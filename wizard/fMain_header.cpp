@@ -37,7 +37,7 @@ void fMain::ImpHeader() {
 void fMain::fill_header_lists(const std::vector<std::string>& header) {
   const UpdateLock lock(*this);
   const auto shared = std::make_shared<const std::vector<std::string>>(header);
-  for (const auto& list : lstHeader) list->set_items(shared);
+  for (const auto& list : lstHeader) list->share_items(shared);
   std::vector<ListColumn> columns;
   columns.reserve(header.size());
   for (const std::string& heading : header) columns.push_back({.heading = heading});
