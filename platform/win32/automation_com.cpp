@@ -64,18 +64,6 @@ struct ExceptionInfo {
   }
 };
 
-/// The name that type information carries, without the underscore that marks a hidden interface.
-std::string documented_name(ITypeInfo* type) {
-  Bstr name;
-  if (type == nullptr ||
-      FAILED(type->GetDocumentation(MEMBERID_NIL, name.out(), nullptr, nullptr, nullptr))) {
-    return {};
-  }
-  std::string text = name.text();
-  if (!text.empty() && text.front() == '_') text.erase(0, 1);
-  return text;
-}
-
 class ComObject : public AutomationObject {
  public:
   ComObject(std::shared_ptr<AutomationContext> context, ComPtr<IDispatch> object)
@@ -112,7 +100,6 @@ class ComObject : public AutomationObject {
 
   std::string type_name() override {
     std::string name = name_by_type_information();
-    if (name.empty()) name = name_by_class_information();
     if (name.empty()) name = name_by_class_number();
     if (name.empty()) return name;
     // Objects of one type share the identifiers of their members.
@@ -162,19 +149,37 @@ class ComObject : public AutomationObject {
     if (FAILED(result)) raise_result(result);
   }
 
+  /// The name that type information carries. The underscore marks the hidden interface of a class
+  /// of that name; other interfaces are called something else than their class.
   std::string name_by_type_information() {
+    std::string name = name_of_interface();
+    if (!name.empty() && name.front() == '_') return name.substr(1);
+    std::string class_name = name_of_class();
+    return class_name.empty() ? name : class_name;
+  }
+
+  std::string name_of_interface() {
     ComPtr<ITypeInfo> type;
     const HRESULT result = context_->patiently(
         [&] { return object_->GetTypeInfo(0, LOCALE_USER_DEFAULT, type.out()); });
-    return FAILED(result) ? std::string() : documented_name(type.get());
+    return FAILED(result) ? std::string() : documented_name(type);
   }
 
-  std::string name_by_class_information() {
+  std::string name_of_class() {
     ComPtr<IProvideClassInfo> provider;
     ComPtr<ITypeInfo> type;
     if (FAILED(object_->QueryInterface(IID_IProvideClassInfo, provider.out_void()))) return {};
     const HRESULT result = context_->patiently([&] { return provider->GetClassInfo(type.out()); });
-    return FAILED(result) ? std::string() : documented_name(type.get());
+    return FAILED(result) ? std::string() : documented_name(type);
+  }
+
+  std::string documented_name(const ComPtr<ITypeInfo>& type) {
+    if (!type) return {};
+    Bstr name;
+    const HRESULT result = context_->patiently([&] {
+      return type->GetDocumentation(MEMBERID_NIL, name.out(), nullptr, nullptr, nullptr);
+    });
+    return FAILED(result) ? std::string() : name.text();
   }
 
   /// For programs whose type information does not cross the border between processes.

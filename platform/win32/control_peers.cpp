@@ -48,7 +48,7 @@ class NativeFrame : public PeerOf<Frame> {
   }
   void show(Aspect aspect) override {
     if (aspect == Aspect::kCaption) set_window_text(typed().caption());
-    if (aspect == Aspect::kVisible && typed().visible()) form().page_shown();
+    if (aspect == Aspect::kVisible && typed().visible()) form().page_shown(*this);
   }
   bool on_message(UINT message, WPARAM& wparam, LPARAM lparam, LRESULT& result) override {
     if (message == WM_ERASEBKGND) {

@@ -88,7 +88,6 @@ FormWindow::FormWindow(MessageLoop& loop, Form& form, HWND owner)
   DragAcceptFiles(window(), form_.on_drop_file ? TRUE : FALSE);
   form_.attach(this);
   loop_.add(*this);
-  for (const auto& control : controls_) control->note_all();
   show_changes();
 }
 
@@ -118,11 +117,21 @@ void FormWindow::create_controls(HWND parent, const Control* frame) {
     }
     before = control;
     control->attach(native.get());
+    native->note_all();
     controls_.push_back(std::move(native));
-    if (control->kind() == ControlKind::kFrame) {
+    if (control->kind() == ControlKind::kFrame && control->visible()) {
       create_controls(controls_.back()->window(), control);
     }
   }
+}
+
+void FormWindow::page_shown(NativeControl& frame) {
+  const auto& all = form_.controls();
+  const bool empty = std::none_of(all.begin(), all.end(), [&](const Control* control) {
+    return control->parent() == &frame.control() && control->peer() != nullptr;
+  });
+  if (empty) create_controls(frame.window(), &frame.control());
+  page_is_new_ = ready_;
 }
 
 NativeControl* FormWindow::peer_of(const Control* control) const {
@@ -139,9 +148,9 @@ NativeControl* FormWindow::peer_of(int id) const {
 void FormWindow::show() {
   ShowWindow(window(), SW_SHOWNORMAL);
   SetForegroundWindow(window());
+  UpdateWindow(window());
   ready_ = true;
   settle(true);
-  UpdateWindow(window());
 }
 
 void FormWindow::refresh(Aspect aspect) {
@@ -163,7 +172,8 @@ void FormWindow::refresh(Aspect aspect) {
 void FormWindow::show_changes() {
   if (showing_ || !form_.redraw()) return;
   showing_ = true;
-  for (const auto& control : controls_) control->show_changes();
+  // A frame that comes into view adds controls.
+  for (std::size_t i = 0; i < controls_.size(); ++i) controls_[i]->show_changes();
   showing_ = false;
 }
 
@@ -239,8 +249,21 @@ void FormWindow::find_focus(bool idle) {
   if (first != nullptr) move_focus(first);
 }
 
+/// The service of the system that takes them is loaded for the first name, so a window comes up
+/// without waiting for it.
+void FormWindow::tell_names() {
+  names_changed_ = false;
+  if (!names_) names_ = std::make_unique<SpokenNames>();
+  for (const auto& control : controls_) {
+    const std::string& name = control->control().spoken_name();
+    if (!name.empty()) names_->set(control->window(), name);
+  }
+}
+
 void FormWindow::settle(bool idle) {
-  if (!ready_ || !form_.loaded() || GetActiveWindow() != window()) return;
+  if (!ready_ || !form_.loaded()) return;
+  if (idle && names_changed_) tell_names();
+  if (GetActiveWindow() != window()) return;
   give_wanted_focus();
   if (idle) wanted_ = nullptr;
   if (focus_is_lost() || (idle && (refuge_ || page_is_new_))) find_focus(idle);

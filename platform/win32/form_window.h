@@ -11,6 +11,7 @@
 #include "platform/win32/look.h"
 #include "platform/win32/message_loop.h"
 #include "platform/win32/native_control.h"
+#include "platform/win32/spoken_name.h"
 
 namespace quenda {
 
@@ -33,10 +34,13 @@ class FormWindow : public ControlPeer, public LoopClient {
   [[nodiscard]] const Fonts& fonts() const { return *fonts_; }
   /// Gives the control the focus as soon as it can take it.
   void want_focus(NativeControl& control) { wanted_ = &control; }
+  /// Has the spoken names told to the system, once the window is there.
+  void names_changed() { names_changed_ = true; }
   /// The control has the focus now.
   void took_focus(NativeControl& control) { focused_ = &control; }
-  /// A frame has come into view: the focus goes to it when the work at hand is done.
-  void page_shown() { page_is_new_ = ready_; }
+  /// A frame has come into view: its controls get their windows, if they have none yet, and the
+  /// focus when the work at hand is done.
+  void page_shown(NativeControl& frame);
 
   void refresh(Aspect aspect) override;
   bool translate(MSG& message) override;
@@ -46,6 +50,8 @@ class FormWindow : public ControlPeer, public LoopClient {
  private:
   static INT_PTR CALLBACK procedure(HWND window, UINT message, WPARAM wparam,
                                     LPARAM lparam) noexcept;
+  /// Windows for the controls in a frame, null for the form. Those in a hidden frame wait until it
+  /// is shown: making all of them would double the time until the window is there.
   void create_controls(HWND parent, const Control* frame);
   [[nodiscard]] NativeControl* peer_of(const Control* control) const;
   [[nodiscard]] NativeControl* peer_of(int id) const;
@@ -74,6 +80,7 @@ class FormWindow : public ControlPeer, public LoopClient {
   void move_focus(HWND control);
   bool give_wanted_focus();
   void find_focus(bool idle);
+  void tell_names();
 
   MessageLoop& loop_;
   Form& form_;
@@ -89,6 +96,8 @@ class FormWindow : public ControlPeer, public LoopClient {
   NativeControl* back_to_ = nullptr;
   bool refuge_ = false;
   bool page_is_new_ = false;
+  bool names_changed_ = false;
+  std::unique_ptr<SpokenNames> names_;
   bool ready_ = false;
   bool showing_ = false;
   WindowHandle window_;

@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "platform/win32/form_window.h"
-#include "platform/win32/spoken_name.h"
 #include "platform/win32/text_win32.h"
 #include "support/fault.h"
 
@@ -35,8 +34,13 @@ void NativeControl::create(HWND parent, int id) {
   const DWORD tab_stop = reached ? WS_TABSTOP : 0;
   const HMENU number =
       reinterpret_cast<HMENU>(static_cast<INT_PTR>(id));  // NOLINT: as the API has it
-  window_ = CreateWindowExW(made.extended, made.window_class, L"", WS_CHILD | made.style | tab_stop,
-                            0, 0, 0, 0, parent, number, GetModuleHandleW(nullptr), nullptr);
+  const DWORD shown = control_.visible() ? WS_VISIBLE : 0;
+  const DWORD locked = control_.takes_input() ? 0 : WS_DISABLED;
+  placed_ = laid_out(control_, form_.dpi(), form_.growth());
+  window_ = CreateWindowExW(made.extended, made.window_class, L"",
+                            WS_CHILD | made.style | tab_stop | shown | locked, placed_.left,
+                            placed_.top, placed_.width, placed_.height, parent, number,
+                            GetModuleHandleW(nullptr), nullptr);
   if (window_ == nullptr) raise_fault(kFaultOutOfMemory);
   SetPropW(window_, kProperty, this);
   SetWindowSubclass(window_, &NativeControl::procedure, kSubclass,
@@ -83,13 +87,17 @@ void NativeControl::show_common(Aspect aspect) {
       place();
       break;
     case Aspect::kCaption:
-      set_spoken_name(window_, control_.spoken_name());
+      if (!control_.spoken_name().empty()) form_.names_changed();
       break;
     case Aspect::kEnabled:
-      EnableWindow(window_, control_.takes_input() ? TRUE : FALSE);
+      if ((IsWindowEnabled(window_) != 0) != control_.takes_input()) {
+        EnableWindow(window_, control_.takes_input() ? TRUE : FALSE);
+      }
       break;
     case Aspect::kVisible:
-      ShowWindow(window_, control_.visible() ? SW_SHOWNA : SW_HIDE);
+      if (((GetWindowLongPtrW(window_, GWL_STYLE) & WS_VISIBLE) != 0) != control_.visible()) {
+        ShowWindow(window_, control_.visible() ? SW_SHOWNA : SW_HIDE);
+      }
       break;
     case Aspect::kColour:
       InvalidateRect(window_, nullptr, TRUE);
@@ -101,6 +109,8 @@ void NativeControl::show_common(Aspect aspect) {
 
 void NativeControl::place() {
   const Pixels to = laid_out(control_, form_.dpi(), form_.growth());
+  if (to == placed_) return;
+  placed_ = to;
   SetWindowPos(window_, nullptr, to.left, to.top, to.width, to.height,
                SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS);
 }

@@ -93,6 +93,7 @@ class NativeControl : public ControlPeer {
   FormWindow& form_;
   Control& control_;
   HWND window_ = nullptr;
+  Pixels placed_;
   unsigned noted_ = 0;
   bool muted_ = false;
 };

@@ -1,24 +1,29 @@
 #include "platform/win32/spoken_name.h"
 
-#include <initguid.h>
-// The identifiers of the accessibility service are defined here.
-#include <oleacc.h>
-
 #include "platform/win32/com_support.h"
 #include "platform/win32/text_win32.h"
+// The identifiers of the accessibility service are defined here.
+#include <initguid.h>
+#include <oleacc.h>
 
 namespace quenda {
 
-void set_spoken_name(HWND window, std::string_view name) {
-  if (name.empty()) return;
-  const ApartmentScope apartment;
-  ComPtr<IAccPropServices> service;
-  if (FAILED(CoCreateInstance(CLSID_AccPropServices, nullptr, CLSCTX_INPROC_SERVER,
-                              IID_IAccPropServices, service.out_void()))) {
-    return;
-  }
-  service->SetHwndPropStr(window, static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF, PROPID_ACC_NAME,
-                          wide(name).c_str());
+struct SpokenNames::Service {
+  ApartmentScope apartment;
+  ComPtr<IAccPropServices> properties;
+};
+
+SpokenNames::SpokenNames() : service_(std::make_unique<Service>()) {
+  CoCreateInstance(CLSID_AccPropServices, nullptr, CLSCTX_INPROC_SERVER, IID_IAccPropServices,
+                   service_->properties.out_void());
+}
+
+SpokenNames::~SpokenNames() = default;
+
+void SpokenNames::set(HWND window, std::string_view name) {
+  if (!service_->properties) return;
+  service_->properties->SetHwndPropStr(window, static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF,
+                                       PROPID_ACC_NAME, wide(name).c_str());
 }
 
 }  // namespace quenda

@@ -1,13 +1,25 @@
 #pragma once
 
+#include <memory>
 #include <string_view>
 
 #include "platform/win32/windows_headers.h"
 
 namespace quenda {
 
-/// Gives a window a name that screen readers say in place of its text; an empty name takes it back.
-/// A system without that service goes without.
-void set_spoken_name(HWND window, std::string_view name);
+/// Gives windows names that screen readers say in place of their texts. A system without that
+/// service goes without.
+class SpokenNames {
+ public:
+  SpokenNames();
+  SpokenNames(const SpokenNames&) = delete;
+  SpokenNames& operator=(const SpokenNames&) = delete;
+  ~SpokenNames();
+  void set(HWND window, std::string_view name);
+
+ private:
+  struct Service;
+  std::unique_ptr<Service> service_;
+};
 
 }  // namespace quenda
