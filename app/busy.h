@@ -4,12 +4,23 @@
 
 namespace quenda {
 
+/// The hourglass over the main form, for work that takes no input in between.
+class Hourglass {
+ public:
+  explicit Hourglass(fMain& form) : form_(form) { form_.set_pointer(Pointer::kHourglass); }
+  ~Hourglass() { form_.set_pointer(Pointer::kDefault); }
+  Hourglass(const Hourglass&) = delete;
+  Hourglass& operator=(const Hourglass&) = delete;
+
+ private:
+  fMain& form_;
+};
+
 /// Long work of the main form: hourglass, progress shown from 0, and no input but "cancel" until it
 /// is over, however it ends.
 class BusyWork {
  public:
-  explicit BusyWork(fMain& form) : form_(form) {
-    form_.set_pointer(Pointer::kHourglass);
+  explicit BusyWork(fMain& form) : form_(form), hourglass_(form) {
     form_.lock_input(true);
     form_.PicProgress.set_percent(0);
     form_.PicProgress.set_visible(true);
@@ -18,7 +29,6 @@ class BusyWork {
     form_.PicProgress.set_visible(false);
     form_.PicProgress.set_percent(0);
     form_.lock_input(false);
-    form_.set_pointer(Pointer::kDefault);
   }
   BusyWork(const BusyWork&) = delete;
   BusyWork& operator=(const BusyWork&) = delete;
@@ -30,6 +40,7 @@ class BusyWork {
 
  private:
   fMain& form_;
+  Hourglass hourglass_;
 };
 
 }  // namespace quenda

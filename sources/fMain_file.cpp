@@ -4,7 +4,6 @@
 #include "app/app.h"
 #include "app/busy.h"
 #include "app/fMain.h"
-#include "platform/events.h"
 #include "platform/files.h"
 #include "sources/delimited_text.h"
 #include "support/clsFiles.h"
@@ -54,8 +53,8 @@ void fMain::FileImport() {
   procedure(app_.errors, "fMain.FileImport", {}, [&] {
     const std::string& path = txtImpFile.text();
     if (!app_.services.files.exists(path)) return;
-    const BusyWork busy(*this);
-    app_.services.events.yield();
+    // Reading handles no events, so that nothing is lost of a path that is still being typed.
+    const Hourglass hourglass(*this);
     long count = 0;
     // The text before is given up first: two files need not fit into memory together.
     source.ImportText = std::make_shared<std::string>();
