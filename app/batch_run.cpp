@@ -51,7 +51,7 @@ class BatchRun {
   const BatchMachine& machine_;
   const BatchConsole& console_;
   int status_ = kExitRefused;
-  bool unreadable_ = false;
+  bool fault_reported_ = false;
 
   ProgressLine progress_;
   ConsoleDialogs dialogs_;
@@ -83,7 +83,7 @@ BatchRun::BatchRun(const BatchOptions& options, const BatchMachine& machine,
   app_.ini.write_protection = true;
   app_.errors.on_report = [this](std::string_view procedure, const RuntimeFault& fault,
                                  std::string_view parameters) {
-    unreadable_ = true;
+    fault_reported_ = true;
     say(concat(procedure, ": Fehler ", std::to_string(fault.number()), " ", fault.description(),
                parameters.empty() ? "" : " - ", parameters));
   };
@@ -143,9 +143,10 @@ void BatchRun::take_file() {
   if (!machine_.files.exists(options_.file)) {
     refuse(concat("Die Datei \"", options_.file, "\" gibt es nicht."));
   }
-  unreadable_ = false;
+  fault_reported_ = false;
   main_.txtImpFile.set_text(options_.file);
-  if (unreadable_) refuse(concat("Die Datei \"", options_.file, "\" kann nicht gelesen werden."));
+  if (fault_reported_)
+    refuse(concat("Die Datei \"", options_.file, "\" kann nicht gelesen werden."));
   warn_about_encoding();
   if (main_.source.IsISpyFile) return;
   if (options_.delimiter && main_.cmbLimiter.enabled()) {
@@ -172,7 +173,9 @@ void BatchRun::warn_about_encoding() {
 void BatchRun::take_outlook() {
   main_.tmOLcheck.take_tick();
   if (!main_.cmdOutlook.enabled()) refuse(main_.labOLver.caption());
+  fault_reported_ = false;
   main_.cmdOutlook.take_user_click();
+  if (fault_reported_) refuse(main_.StatusBar.panel(2));
   if (!main_.cmdFor.enabled()) refuse(concat("Outlook: ", main_.texts.data_not_found));
 }
 
@@ -237,7 +240,10 @@ void BatchRun::choose_addresses() {
 }
 
 void BatchRun::write_or_show() {
-  if (!main_.cmdFor.enabled()) refuse(u8"Die Datei enthält nichts zum Einlesen."_de);
+  if (!main_.cmdFor.enabled()) {
+    refuse(fault_reported_ ? u8"Die Einträge konnten nicht zusammengestellt werden."_de
+                           : u8"Die Datei enthält nichts zum Einlesen."_de);
+  }
   if (!options_.dry_run) {
     main_.cmdFor.take_user_click();
     return;

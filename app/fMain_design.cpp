@@ -67,7 +67,7 @@ constexpr DesignEntry kColumnPage[] = {
     {"lstHeader", 2, "frmImp", 1, {5300, 285, 2490, 2070}, 25, ""},
     {"labHeader", 3, "frmImp", 1, {7950, 0, 2490, 255}, 26, "Import_Label_ColumnsAddresses"},
     {"lstHeader", 3, "frmImp", 1, {7950, 285, 2490, 2070}, 27, ""},
-    {"labShow", -1, "frmPages", -1, {0, 2460, kPageWidth, 255}, 100, "Import_Label_OverviewData"},
+    {"labShow", -1, "frmPages", -1, {0, 2460, kPageWidth, 255}, 100, "Import_Label_PreviewData"},
     {"lstShow", -1, "frmPages", -1, {0, 2745, kPageWidth, 2655}, 101, ""},
 };
 
@@ -117,7 +117,7 @@ constexpr DesignEntry kAddressPage[] = {
 };
 
 constexpr DesignEntry kEntryPage_[] = {
-    {"labImpFinal", -1, "frmImp", 4, {0, 0, 7320, 255}, 70, "Import_Label_ImportedData"},
+    {"labImpFinal", -1, "frmImp", 4, {0, 0, 7320, 255}, 70, "Journal_Info_Items"},
     {"lstImpFinal", -1, "frmImp", 4, {0, 285, 7320, 5115}, 71, ""},
     {"cmdEditItems", -1, "frmImp", 4, {7500, 285, 2940, 390}, 72, "Menu_Edit"},
     {"cmdDel", -1, "frmImp", 4, {7500, 765, 2940, 390}, 73, "Settings_Button_Remove"},

@@ -12,6 +12,17 @@
 #include "support/text.h"
 
 namespace quenda {
+namespace {
+
+/// Whether a control is there to be changed: no label, and no field that only shows.
+bool changeable(const Control& control) {
+  if (control.kind() == ControlKind::kTextBox) {
+    return !static_cast<const TextBox&>(control).locked();
+  }
+  return control.kind() != ControlKind::kLabel;
+}
+
+}  // namespace
 
 fMain::fMain(App& app) : Form("fMain"), app_(app), outlook_(app.errors, app.services.automation) {
   design();
@@ -83,11 +94,11 @@ void fMain::Form_Unload() {
 
 void fMain::Form_GotFocus() {
   procedure(app_.errors, "fMain.Form_GotFocus", {}, [&] {
-    // The first control of the page that can be used; while the page has none, its way on.
+    // The first control of the page that the user can change; while the page has none, its way on.
     Control* first = nullptr;
     for (Control* control : controls()) {
       const bool on_page = control->parent() != nullptr && control->tab_index() >= 0;
-      if (!on_page || !control->reachable()) continue;
+      if (!on_page || !control->reachable() || !changeable(*control)) continue;
       if (first == nullptr || control->tab_index() < first->tab_index()) first = control;
     }
     if (first == nullptr && cmdFor.reachable()) first = &cmdFor;

@@ -138,7 +138,7 @@ inline constexpr std::array kLanguageKeys = {
     LanguageKey{"Import_Label_ColumnsNames", "Spalten Name"},
     LanguageKey{"Import_Label_ColumnsNumbers", "Spalten Rufnummer"},
     LanguageKey{"Import_Label_ColumnsAddresses", "Spalten Adresse"},
-    LanguageKey{"Import_Label_OverviewData", u8"Übersicht der Daten"_de},
+    LanguageKey{"Import_Label_OverviewData", "Spalten der Datei"},
     // Names and suffixes.
     LanguageKey{"Import_Label_NameInfo", "Name im Telefonbuch"},
     LanguageKey{"Import_ChkBox_FlipNames", "Vor- und Nachname tauschen"},
