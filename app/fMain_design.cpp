@@ -3,6 +3,7 @@
 #include "app/app.h"
 #include "app/design.h"
 #include "app/fMain.h"
+#include "app/main_anchors.h"
 #include "support/literal_1252.h"
 #include "support/procedure.h"
 #include "support/text.h"
@@ -17,6 +18,8 @@ constexpr int kPageWidth = 10440;
 constexpr int kPageHeight = 5400;
 
 constexpr Place kPage = {0, 0, kPageWidth, kPageHeight};
+// The preview stands below these pages.
+constexpr Place kUpperPage = {0, 0, kPageWidth, 2430};
 constexpr Place kHelpLine = {180, 420, 10260, 420};
 
 constexpr DesignEntry kFrames[] = {
@@ -30,8 +33,8 @@ constexpr DesignEntry kFrames[] = {
     {"labHelp", 6, "frmTitle", -1, kHelpLine, -1, "Import_Label_Help6"},
     {"frmPages", -1, "", -1, {120, 1020, kPageWidth, kPageHeight}, -1, ""},
     {"frmImp", 0, "frmPages", -1, kPage, -1, ""},
-    {"frmImp", 1, "frmPages", -1, kPage, -1, ""},
-    {"frmImp", 2, "frmPages", -1, kPage, -1, ""},
+    {"frmImp", 1, "frmPages", -1, kUpperPage, -1, ""},
+    {"frmImp", 2, "frmPages", -1, kUpperPage, -1, ""},
     {"frmImp", 3, "frmPages", -1, kPage, -1, ""},
     {"frmImp", 4, "frmPages", -1, kPage, -1, ""},
     {"frmImpOL", -1, "frmPages", -1, kPage, -1, ""},
@@ -194,6 +197,7 @@ void fMain::design() {
   const Place& cancel = cmdCancel.place();
   set_place({500, 500, 0, cancel.top + cancel.height + StatusBar.place().height + 60});
   set_outer_width(kWindowWidth);
+  anchor_main_controls(*this);
   labTitle.set_heading(true);
   frmTitle.set_back_color(BackColor::kWindow);
   for (TextBox* preview : {&txtHeadName, &txtHead(0), &txtHead(1), &txtHead(2), &txtAdres(0),

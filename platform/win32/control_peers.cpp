@@ -4,6 +4,7 @@
 #include <string>
 
 #include "platform/simple_controls.h"
+#include "platform/win32/access_keys.h"
 #include "platform/win32/form_window.h"
 #include "platform/win32/list_peers.h"
 #include "platform/win32/list_view_peer.h"
@@ -30,7 +31,7 @@ class NativeLabel : public PeerOf<Label> {
     return {WC_STATICW, false, SS_LEFT | prefix};
   }
   void show(Aspect aspect) override {
-    if (aspect == Aspect::kCaption) set_window_text(typed().caption());
+    if (aspect == Aspect::kCaption) set_window_text(form().keyed_caption(typed()));
   }
 };
 
@@ -47,7 +48,7 @@ class NativeFrame : public PeerOf<Frame> {
     return {WC_BUTTONW, false, BS_GROUPBOX | kParent, WS_EX_CONTROLPARENT};
   }
   void show(Aspect aspect) override {
-    if (aspect == Aspect::kCaption) set_window_text(typed().caption());
+    if (aspect == Aspect::kCaption) set_window_text(without_access_key(typed().caption()));
     if (aspect == Aspect::kVisible && typed().visible()) form().page_shown(*this);
   }
   bool on_message(UINT message, WPARAM& wparam, LPARAM lparam, LRESULT& result) override {
@@ -77,7 +78,7 @@ class NativeButton : public PeerOf<Button> {
     return {WC_BUTTONW, true, style};
   }
   void show(Aspect aspect) override {
-    if (aspect == Aspect::kCaption) set_window_text(typed().caption());
+    if (aspect == Aspect::kCaption) set_window_text(form().keyed_caption(typed()));
   }
 };
 
@@ -95,7 +96,7 @@ class NativeCheckBox : public PeerOf<CheckBox> {
     return {WC_BUTTONW, true, BS_CHECKBOX | BS_MULTILINE};
   }
   void show(Aspect aspect) override {
-    if (aspect == Aspect::kCaption) set_window_text(typed().caption());
+    if (aspect == Aspect::kCaption) set_window_text(form().keyed_caption(typed()));
     if (aspect == Aspect::kValue) send(BM_SETCHECK, typed().ticked() ? BST_CHECKED : BST_UNCHECKED);
   }
 };
@@ -114,7 +115,7 @@ class NativeOptionButton : public PeerOf<OptionButton> {
     return {WC_BUTTONW, true, BS_AUTORADIOBUTTON | BS_MULTILINE};
   }
   void show(Aspect aspect) override {
-    if (aspect == Aspect::kCaption) set_window_text(typed().caption());
+    if (aspect == Aspect::kCaption) set_window_text(form().keyed_caption(typed()));
     if (aspect != Aspect::kValue) return;
     // Telling an empty button that it is empty would take it out of the tab order.
     const bool shown = send(BM_GETCHECK) == BST_CHECKED;

@@ -4,10 +4,11 @@
 
 #include <algorithm>
 #include <array>
-#include <cstring>
+#include <utility>
 
 #include "platform/simple_controls.h"
 #include "platform/text_box.h"
+#include "platform/win32/access_keys.h"
 #include "platform/win32/control_peers.h"
 #include "platform/win32/panel_window.h"
 #include "platform/win32/text_win32.h"
@@ -17,7 +18,6 @@ namespace quenda {
 namespace {
 
 constexpr int kFirstId = 100;
-constexpr int kIconResource = 1;
 
 /// A dialog without controls, as the system wants it described: the fixed part, then menu, class
 /// and title as UTF-16 texts.
@@ -37,37 +37,6 @@ DialogTemplate dialog_template(const Form& form, bool over_owner) {
   return made;
 }
 
-/// Moves a window's place into the working area of the nearest screen: a place remembered from a
-/// screen that is gone must not hide the window.
-RECT on_screen(RECT place) {
-  MONITORINFO screen{};
-  screen.cbSize = sizeof screen;
-  if (GetMonitorInfoW(MonitorFromRect(&place, MONITOR_DEFAULTTONEAREST), &screen) == 0) {
-    return place;
-  }
-  const RECT& area = screen.rcWork;
-  OffsetRect(&place, std::min(area.right - place.right, 0L),
-             std::min(area.bottom - place.bottom, 0L));
-  OffsetRect(&place, std::max(area.left - place.left, 0L), std::max(area.top - place.top, 0L));
-  return place;
-}
-
-Icon load_icon(int width_metric, int height_metric, int dpi) {
-  const auto size = static_cast<UINT>(dpi);
-  return Icon(
-      static_cast<HICON>(LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(kIconResource),
-                                    IMAGE_ICON, GetSystemMetricsForDpi(width_metric, size),
-                                    GetSystemMetricsForDpi(height_metric, size), LR_DEFAULTCOLOR)));
-}
-
-bool takes_input(HWND window, HWND form) {
-  for (HWND at = window; at != nullptr && at != form; at = GetParent(at)) {
-    const LONG_PTR style = GetWindowLongPtrW(at, GWL_STYLE);
-    if ((style & WS_DISABLED) != 0 || (style & WS_VISIBLE) == 0) return false;
-  }
-  return true;
-}
-
 }  // namespace
 
 FormWindow::FormWindow(MessageLoop& loop, Form& form, HWND owner)
@@ -80,7 +49,7 @@ FormWindow::FormWindow(MessageLoop& loop, Form& form, HWND owner)
   place_window();
   create_controls(window(), nullptr);
   if (form_.default_button != nullptr) {
-    if (const NativeControl* usual = peer_of(form_.default_button)) {
+    if (const NativeControl* usual = peer_of(*form_.default_button)) {
       SendMessageW(window(), DM_SETDEFID, static_cast<WPARAM>(GetDlgCtrlID(usual->window())), 0);
     }
   }
@@ -131,18 +100,19 @@ void FormWindow::page_shown(NativeControl& frame) {
     return control->parent() == &frame.control() && control->peer() != nullptr;
   });
   if (empty) create_controls(frame.window(), &frame.control());
-  page_is_new_ = ready_;
+  captions_changed_ = true;
+  if (ready_) focus_.page_shown();
 }
 
-NativeControl* FormWindow::peer_of(const Control* control) const {
-  return static_cast<NativeControl*>(control->peer());
+NativeControl* FormWindow::peer_of(const Control& control) const {
+  return static_cast<NativeControl*>(control.peer());
 }
 
 NativeControl* FormWindow::peer_of(int id) const {
   const auto& all = form_.controls();
   const int position = id - kFirstId;
   if (position < 0 || position >= static_cast<int>(all.size())) return nullptr;
-  return peer_of(all[static_cast<std::size_t>(position)]);
+  return peer_of(*all[static_cast<std::size_t>(position)]);
 }
 
 void FormWindow::show() {
@@ -172,9 +142,29 @@ void FormWindow::refresh(Aspect aspect) {
 void FormWindow::show_changes() {
   if (showing_ || !form_.redraw()) return;
   showing_ = true;
+  if (std::exchange(captions_changed_, false)) give_access_keys();
   // A frame that comes into view adds controls.
   for (std::size_t i = 0; i < controls_.size(); ++i) controls_[i]->show_changes();
   showing_ = false;
+}
+
+void FormWindow::give_access_keys() {
+  const std::vector<Control*> found = keyed_controls(form_);
+  std::vector<std::string> captions;
+  captions.reserve(found.size());
+  for (const Control* control : found) captions.push_back(control->caption());
+  captions = with_access_keys(captions);
+  for (std::size_t i = 0; i < found.size(); ++i) {
+    std::string& keyed = keyed_[found[i]];
+    if (keyed == captions[i]) continue;
+    keyed = std::move(captions[i]);
+    if (NativeControl* native = peer_of(*found[i])) native->refresh(Aspect::kCaption);
+  }
+}
+
+std::string FormWindow::keyed_caption(const Control& control) const {
+  const auto found = keyed_.find(&control);
+  return found == keyed_.end() ? control.caption() : found->second;
 }
 
 bool FormWindow::translate(MSG& message) {
@@ -186,67 +176,6 @@ bool FormWindow::translate(MSG& message) {
     return true;
   }
   return IsDialogMessageW(window(), &message) != 0;
-}
-
-bool FormWindow::focus_is_lost() const {
-  const HWND focus = GetFocus();
-  return focus == nullptr || focus == window() || !takes_input(focus, window());
-}
-
-void FormWindow::give_focus(NativeControl& control) {
-  const NativeControl::Mute mute(control);
-  move_focus(control.window());
-  // The system selects the whole text of a field; a field that selects for itself knows better.
-  if (control.control().on_got_focus) control.refresh(Aspect::kSelection);
-}
-
-/// By the message that also moves the mark of the button that Enter presses. A label leads to the
-/// field behind it.
-void FormWindow::move_focus(HWND control) {
-  const bool label = (SendMessageW(control, WM_GETDLGCODE, 0, 0) & DLGC_STATIC) != 0;
-  const HWND to = label ? GetNextDlgTabItem(window(), control, FALSE) : control;
-  if (to == nullptr) return;
-  SendMessageW(window(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(to), TRUE);  // NOLINT
-}
-
-/// Without selecting a field's text and without making a button the one that Enter presses.
-void FormWindow::lend_focus(NativeControl& control) {
-  const NativeControl::Mute mute(control);
-  SetFocus(control.window());
-}
-
-bool FormWindow::give_wanted_focus() {
-  if (wanted_ == nullptr || !takes_input(wanted_->window(), window())) return false;
-  give_focus(*std::exchange(wanted_, nullptr));
-  refuge_ = false;
-  return true;
-}
-
-/// Keys go nowhere while the control that had the focus is hidden or disabled. Inside long work the
-/// button that stops it takes them. Afterwards the field in which the user was typing gets the
-/// focus back, or the first control of a new page takes it.
-void FormWindow::find_focus(bool idle) {
-  if (!idle) {
-    const Control* const stop = form_.cancel_button;
-    if (stop == nullptr || !stop->reachable()) return;
-    back_to_ = focused_;
-    lend_focus(*peer_of(stop));
-    refuge_ = true;
-    return;
-  }
-  refuge_ = false;
-  const bool new_page = std::exchange(page_is_new_, false);
-  NativeControl* const back_to = std::exchange(back_to_, nullptr);
-  if (!new_page && back_to != nullptr && back_to->control().parent() != nullptr &&
-      takes_input(back_to->window(), window())) {
-    lend_focus(*back_to);
-    return;
-  }
-  if (form_.on_got_focus) form_.on_got_focus();
-  show_changes();
-  if (give_wanted_focus()) return;
-  const HWND first = GetNextDlgTabItem(window(), nullptr, FALSE);
-  if (first != nullptr) move_focus(first);
 }
 
 /// The service of the system that takes them is loaded for the first name, so a window comes up
@@ -263,16 +192,7 @@ void FormWindow::tell_names() {
 void FormWindow::settle(bool idle) {
   if (!ready_ || !form_.loaded()) return;
   if (idle && names_changed_) tell_names();
-  if (GetActiveWindow() != window()) return;
-  give_wanted_focus();
-  if (idle) wanted_ = nullptr;
-  if (focus_is_lost() || (idle && (refuge_ || page_is_new_))) find_focus(idle);
-  // A button that got the focus back when the window did is not yet the one that Enter presses.
-  const HWND focus = GetFocus();
-  if (idle && IsChild(window(), focus) != 0 &&
-      (SendMessageW(focus, WM_GETDLGCODE, 0, 0) & DLGC_UNDEFPUSHBUTTON) != 0) {
-    move_focus(focus);
-  }
+  focus_.settle(idle);
   show_changes();
 }
 
@@ -283,104 +203,6 @@ void FormWindow::show_pointer() const {
   if (under != window() && IsChild(window(), under) == 0) return;
   SendMessageW(under, WM_SETCURSOR, reinterpret_cast<WPARAM>(under),  // NOLINT
                MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
-}
-
-void FormWindow::use_dpi(int dpi) {
-  dpi_ = dpi;
-  const std::optional<Fonts> before = std::exchange(fonts_, std::optional<Fonts>(dpi));
-  for (const auto& control : controls_) {
-    control->apply_font();
-    control->refresh(Aspect::kPlace);
-  }
-  big_icon_ = load_icon(SM_CXICON, SM_CYICON, dpi);
-  small_icon_ = load_icon(SM_CXSMICON, SM_CYSMICON, dpi);
-  SendMessageW(window(), WM_SETICON, ICON_BIG, as_lparam(big_icon_.get()));
-  SendMessageW(window(), WM_SETICON, ICON_SMALL, as_lparam(small_icon_.get()));
-}
-
-/// What the title bar and the borders take at the window's DPI.
-SIZE FormWindow::border() const {
-  RECT area{};
-  AdjustWindowRectExForDpi(&area, static_cast<DWORD>(GetWindowLongPtrW(window(), GWL_STYLE)), FALSE,
-                           static_cast<DWORD>(GetWindowLongPtrW(window(), GWL_EXSTYLE)),
-                           static_cast<UINT>(dpi_));
-  return {area.right - area.left, area.bottom - area.top};
-}
-
-SIZE FormWindow::inner_size() const {
-  const int outer = form_.outer_width();
-  const LONG width =
-      outer > 0 ? pixels_of(outer, dpi_) - border().cx : pixels_of(form_.place().width, dpi_);
-  return {width, pixels_of(form_.place().height, dpi_)};
-}
-
-SIZE FormWindow::outer_size(Growth growth) const {
-  const SIZE inner = inner_size();
-  const SIZE around = border();
-  return {inner.cx + around.cx + growth.across, inner.cy + around.cy + growth.down};
-}
-
-/// Positions are kept at the system's DPI, whatever screen the window is on, so that a remembered
-/// position leads back to the same point.
-void FormWindow::place_window() {
-  const bool was_ready = std::exchange(ready_, false);
-  const auto system = static_cast<int>(GetDpiForSystem());
-  RECT place{};
-  place.left = pixels_of(form_.place().left, system);
-  place.top = pixels_of(form_.place().top, system);
-  SetWindowPos(window(), nullptr, place.left, place.top, 0, 0,
-               SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
-  use_dpi(static_cast<int>(GetDpiForWindow(window())));
-  const SIZE size = outer_size({});
-  RECT owner{};
-  if (owner_ != nullptr && form_.place().left == 0 && form_.place().top == 0 &&
-      GetWindowRect(owner_, &owner) != 0) {
-    place.left = (owner.left + owner.right - size.cx) / 2;
-    place.top = (owner.top + owner.bottom - size.cy) / 3;
-  }
-  place.right = place.left + size.cx;
-  place.bottom = place.top + size.cy;
-  place = on_screen(place);
-  SetWindowPos(window(), nullptr, place.left, place.top, size.cx, size.cy,
-               SWP_NOZORDER | SWP_NOACTIVATE);
-  ready_ = was_ready;
-}
-
-void FormWindow::on_dpi(int dpi, const RECT& place) {
-  const Growth grown{MulDiv(growth_.across, dpi, dpi_), MulDiv(growth_.down, dpi, dpi_)};
-  use_dpi(dpi);
-  const SIZE needed = outer_size(grown);
-  SetWindowPos(window(), nullptr, place.left, place.top,
-               std::max(place.right - place.left, needed.cx),
-               std::max(place.bottom - place.top, needed.cy), SWP_NOZORDER | SWP_NOACTIVATE);
-  on_size();
-}
-
-void FormWindow::on_size() {
-  RECT area{};
-  if (IsIconic(window()) != 0 || GetClientRect(window(), &area) == 0) return;
-  growth_ = {};
-  if (form_.resizable()) {
-    const SIZE designed = inner_size();
-    growth_ = {static_cast<int>(area.right - designed.cx),
-               static_cast<int>(area.bottom - designed.cy)};
-  }
-  for (const auto& control : controls_) control->refresh(Aspect::kPlace);
-}
-
-void FormWindow::on_move() {
-  RECT place{};
-  if (!ready_ || IsIconic(window()) != 0 || IsZoomed(window()) != 0) return;
-  if (GetWindowRect(window(), &place) == 0) return;
-  const auto system = static_cast<int>(GetDpiForSystem());
-  form_.take_user_position(twips_of(static_cast<int>(place.left), system),
-                           twips_of(static_cast<int>(place.top), system));
-}
-
-void FormWindow::limit_size(MINMAXINFO& limits) const {
-  if (!form_.resizable() || !fonts_) return;
-  const SIZE least = outer_size({});
-  limits.ptMinTrackSize = {least.cx, least.cy};
 }
 
 void FormWindow::on_drop(WPARAM drop) {

@@ -1,11 +1,13 @@
 #pragma once
 
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "platform/form.h"
+#include "platform/win32/focus_keeper.h"
 #include "platform/win32/handles.h"
 #include "platform/win32/layout.h"
 #include "platform/win32/look.h"
@@ -32,12 +34,15 @@ class FormWindow : public ControlPeer, public LoopClient {
   [[nodiscard]] int dpi() const { return dpi_; }
   [[nodiscard]] Growth growth() const { return growth_; }
   [[nodiscard]] const Fonts& fonts() const { return *fonts_; }
-  /// Gives the control the focus as soon as it can take it.
-  void want_focus(NativeControl& control) { wanted_ = &control; }
+  [[nodiscard]] FocusKeeper& focus() { return focus_; }
+  /// The native control of a control that has its window.
+  [[nodiscard]] NativeControl* peer_of(const Control& control) const;
+  /// A control's caption with the letter by which Alt leads to it.
+  [[nodiscard]] std::string keyed_caption(const Control& control) const;
+  /// A caption is another or a control has come into view, so letters can have to change.
+  void captions_changed() { captions_changed_ = true; }
   /// Has the spoken names told to the system, once the window is there.
   void names_changed() { names_changed_ = true; }
-  /// The control has the focus now.
-  void took_focus(NativeControl& control) { focused_ = &control; }
   /// A frame has come into view: its controls get their windows, if they have none yet, and the
   /// focus when the work at hand is done.
   void page_shown(NativeControl& frame);
@@ -53,7 +58,6 @@ class FormWindow : public ControlPeer, public LoopClient {
   /// Windows for the controls in a frame, null for the form. Those in a hidden frame wait until it
   /// is shown: making all of them would double the time until the window is there.
   void create_controls(HWND parent, const Control* frame);
-  [[nodiscard]] NativeControl* peer_of(const Control* control) const;
   [[nodiscard]] NativeControl* peer_of(int id) const;
 
   INT_PTR on_message(UINT message, WPARAM wparam, LPARAM lparam);
@@ -74,13 +78,8 @@ class FormWindow : public ControlPeer, public LoopClient {
   [[nodiscard]] SIZE inner_size() const;
   [[nodiscard]] SIZE outer_size(Growth growth) const;
   void show_pointer() const;
-  [[nodiscard]] bool focus_is_lost() const;
-  void give_focus(NativeControl& control);
-  static void lend_focus(NativeControl& control);
-  void move_focus(HWND control);
-  bool give_wanted_focus();
-  void find_focus(bool idle);
   void tell_names();
+  void give_access_keys();
 
   MessageLoop& loop_;
   Form& form_;
@@ -91,11 +90,9 @@ class FormWindow : public ControlPeer, public LoopClient {
   Icon big_icon_;
   Icon small_icon_;
   std::vector<std::unique_ptr<NativeControl>> controls_;
-  NativeControl* wanted_ = nullptr;
-  NativeControl* focused_ = nullptr;
-  NativeControl* back_to_ = nullptr;
-  bool refuge_ = false;
-  bool page_is_new_ = false;
+  std::map<const Control*, std::string> keyed_;
+  FocusKeeper focus_{*this};
+  bool captions_changed_ = false;
   bool names_changed_ = false;
   std::unique_ptr<SpokenNames> names_;
   bool ready_ = false;

@@ -59,9 +59,10 @@ void NativeControl::refresh(Aspect aspect) {
       SetWindowPos(window_, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
       break;
     case Aspect::kFocus:
-      form_.want_focus(*this);
+      form_.focus().want(*this);
       break;
     default:
+      if (aspect == Aspect::kCaption || aspect == Aspect::kVisible) form_.captions_changed();
       noted_ |= bit(aspect);
   }
 }
@@ -143,7 +144,7 @@ LRESULT CALLBACK NativeControl::procedure(HWND window, UINT message, WPARAM wpar
   if (answer.taken) return answer.result;
   const LRESULT result = DefSubclassProc(window, message, wparam, lparam);
   if (message == WM_SETFOCUS) {
-    native.form_.took_focus(native);
+    native.form_.focus().took(native);
     if (!native.muted_) loop.at_edge([&] { native.control_.take_user_focus(); });
   }
   return result;

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/control.h"
+
+namespace quenda {
+
+/// Gives every caption a letter by which Alt leads to its control, each letter once: captions with
+/// an "&" before it, in the order given. A caption that has its "&" already keeps it. Beginnings of
+/// words are taken first; when no letter of a caption is free, or it has one character only, it
+/// stays without.
+std::vector<std::string> with_access_keys(const std::vector<std::string>& captions);
+
+/// The visible controls of a form that a letter can lead to: those with a caption of their own, and
+/// labels right before a field. The form's own buttons come first, so that their letters are the
+/// same on every page.
+std::vector<Control*> keyed_controls(const ControlHost& form);
+
+/// The caption with every "&" shown as such.
+std::string without_access_key(std::string_view caption);
+
+}  // namespace quenda

@@ -1,0 +1,53 @@
+#include "platform/win32/access_keys.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "platform/form.h"
+#include "platform/simple_controls.h"
+#include "platform/text_box.h"
+#include "support/literal_1252.h"
+
+namespace quenda {
+namespace {
+
+using testing::ElementsAre;
+
+TEST(AccessKeys, EachLetterIsGivenOnceAndBeginningsOfWordsFirst) {
+  EXPECT_THAT(with_access_keys({"Weiter", "Datei", "Datei w\xE4hlen", "Abc", "Ab"}),
+              ElementsAre("&Weiter", "&Datei", "D&atei w\xE4hlen", "A&bc", "Ab"));
+}
+
+TEST(AccessKeys, LettersThatACaptionBringsAlongAreKeptForIt) {
+  EXPECT_THAT(with_access_keys({"Weiter", "Ab&weisen", "Fisch && Co"}),
+              ElementsAre("W&eiter", "Ab&weisen", "&Fisch && Co"));
+}
+
+TEST(AccessKeys, UmlautsCountWithoutRegardToCaseAndSignsNeverDo) {
+  const std::string accept(u8"Übernehmen"_de);
+  EXPECT_THAT(with_access_keys({accept, std::string(u8"ü1"_de), "1", "2 4"}),
+              ElementsAre("&" + accept, std::string(u8"ü1"_de), "1", "2 4"));
+}
+
+TEST(AccessKeys, ButtonsOfTheFormComeFirstAndHiddenPagesNotAtAll) {
+  Form form("fTest");
+  Frame page(form, "page");
+  Frame hidden(form, "hidden");
+  Label name(form, "labName");
+  TextBox field(form, "txtName");
+  Label remark(form, "labRemark");
+  Button other(form, "cmdOther");
+  Button forward(form, "cmdFor");
+  int tab = 0;
+  for (Control* control : form.controls()) control->set_tab_index(tab++);
+  for (Control* control : {static_cast<Control*>(&name), static_cast<Control*>(&field),
+                           static_cast<Control*>(&remark)}) {
+    control->set_parent(&page);
+  }
+  other.set_parent(&hidden);
+  hidden.set_visible(false);
+  EXPECT_THAT(keyed_controls(form), ElementsAre(&forward, &name));
+}
+
+}  // namespace
+}  // namespace quenda
