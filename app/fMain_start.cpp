@@ -38,6 +38,7 @@ void fMain::Form_Load() {
     wizard.loading = true;
     Language();
     load_general_values(app_.ini, app_.settings);
+    app_.language.log_maximum = app_.settings.log_count;
     LoadWindowPosition();
     LoadPageOptions();
     load_selections(app_.ini, app_.settings);
