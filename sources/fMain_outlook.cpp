@@ -43,6 +43,9 @@ void fMain::cmdOutlook_Click() {
     cmdBack.set_enabled(true);
     ShowSite();
     show_outlook_page();
+    // A file taken before is no longer the source: its cleaning would lock the choice of source.
+    source.IsISpyFile = false;
+    source.FileChecked = false;
     source.IsOutlookSource = true;
     Import();
     cmdFor.set_enabled(lstImport.count() > 0);
@@ -57,28 +60,35 @@ void fMain::show_outlook_page() {
 }
 
 void fMain::Import() {
+  bool came_through = false;
   procedure(app_.errors, "fMain.Import", {}, [&] {
+    const BusyWork busy(*this);
+    LockElements(true);
+    StatusBar.set_panel(2, texts.items_recycle);
+    contacts_.clear();
     std::vector<OutlookContact> contacts;
-    {
-      const BusyWork busy(*this);
-      LockElements(true);
-      StatusBar.set_panel(2, texts.items_recycle);
-      outlook_.getContactsAll(contacts, [this](std::size_t done, std::size_t total) {
-        modProgress_Show(PicProgress, static_cast<std::int64_t>(done), 1,
-                         static_cast<std::int64_t>(total));
-        app_.services.events.yield();
-        return !wizard.abort;
-      });
-      contacts_ = ContactTable();
-      for (std::size_t i = 0; i < contacts.size(); ++i) {
-        add_contact(contacts_, contacts[i]);
-        step(i + 1, contacts.size());
-      }
-      LockElements(false);
+    const bool read =
+        outlook_.getContactsAll(contacts, [this](std::size_t done, std::size_t total) {
+          modProgress_Show(PicProgress, static_cast<std::int64_t>(done), 1,
+                           static_cast<std::int64_t>(total));
+          app_.services.events.yield();
+          return !wizard.abort;
+        });
+    if (!read) return;
+    for (std::size_t i = 0; i < contacts.size(); ++i) {
+      add_contact(contacts_, contacts[i]);
+      step(i + 1, contacts.size());
     }
     StatusBar.set_panel(2, concat(std::to_string(contacts.size()), " ", texts.contacts_found));
-    DataView();
+    came_through = true;
   });
+  if (!came_through) {
+    // Half of the contacts would look like all of them: the user gets none and is told.
+    contacts_.clear();
+    StatusBar.set_panel(2, concat("Outlook: ", texts.import_not_available));
+  }
+  LockElements(false);
+  DataView();
 }
 
 void fMain::DataView() {
@@ -95,6 +105,8 @@ void fMain::DataView() {
     }
     lstImport.set_table(preview_rows(contacts_, choice));
     show_counts(lstImport.count(), texts.items_for_import);
+    // Ticking a kind that has numbers opens the way on again.
+    if (frmImpOL.visible()) cmdFor.set_enabled(lstImport.count() > 0);
   });
 }
 

@@ -64,7 +64,8 @@ void modOutlook::isOutlookInstalled(bool read_count) {
       });
 }
 
-void modOutlook::getContactsAll(std::vector<OutlookContact>& contacts, const OnItem& on_item) {
+bool modOutlook::getContactsAll(std::vector<OutlookContact>& contacts, const OnItem& on_item) {
+  bool came_through = false;
   procedure(errors_, "modOutlook.getContactsAll", {}, [&] {
     if (!installed_) return;
     const auto count = static_cast<std::size_t>(contact_count_);
@@ -83,7 +84,9 @@ void modOutlook::getContactsAll(std::vector<OutlookContact>& contacts, const OnI
       if (!on_item(i + 1, count)) break;
     }
     contacts = std::move(read);
+    came_through = true;
   });
+  return came_through;
 }
 
 }  // namespace quenda

@@ -31,9 +31,9 @@ class modOutlook {
   using OnItem = std::function<bool(std::size_t done, std::size_t total)>;
 
   /// Reads every item of the contacts folder into `contacts`; items that are no contacts are
-  /// counted and leave an empty record. Without Outlook, and after a fault, `contacts` stays as it
-  /// was.
-  void getContactsAll(std::vector<OutlookContact>& contacts, const OnItem& on_item);
+  /// counted and leave an empty record. Returns whether it came through: without Outlook, and after
+  /// a fault, `contacts` stays as it was.
+  [[nodiscard]] bool getContactsAll(std::vector<OutlookContact>& contacts, const OnItem& on_item);
 
   [[nodiscard]] bool installed() const { return installed_; }
   [[nodiscard]] const std::string& major_version() const { return major_version_; }
