@@ -168,8 +168,10 @@ class ComObject : public AutomationObject {
   std::string name_of_class() {
     ComPtr<IProvideClassInfo> provider;
     ComPtr<ITypeInfo> type;
-    if (FAILED(object_->QueryInterface(IID_IProvideClassInfo, provider.out_void()))) return {};
-    const HRESULT result = context_->patiently([&] { return provider->GetClassInfo(type.out()); });
+    HRESULT result = context_->patiently(
+        [&] { return object_->QueryInterface(IID_IProvideClassInfo, provider.out_void()); });
+    if (FAILED(result)) return {};
+    result = context_->patiently([&] { return provider->GetClassInfo(type.out()); });
     return FAILED(result) ? std::string() : documented_name(type);
   }
 
