@@ -82,7 +82,6 @@ class FilesContract : public testing::Test {
   [[nodiscard]] std::string path(const std::string& name) const { return bench_.path(name); }
 };
 
-// Outside of the test templates, in which clang 14 cannot convert a literal.
 std::string german_name() { return std::string(u8"Müller €.txt"_de); }
 
 using Benches = testing::Types<FakeBench, NativeBench>;

@@ -49,7 +49,8 @@ struct ReportCase {
 };
 
 TEST(ErrorReport, IsOneLine) {
-  const std::string text13(u8"Typen unverträglich"_de);
+  constexpr std::string_view german13 = u8"Typen unverträglich"_de;
+  const std::string text13(german13);
   const ReportCase cases[] = {
       {"statement", "IMP", 13, 12, false, "", "IMP v1.17 fMain.X, Line: 12  + 13 + " + text13},
       {"short statement", "IMP", 13, 7, false, "", "IMP v1.17 fMain.X, Line:  7  + 13 + " + text13},
