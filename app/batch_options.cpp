@@ -116,12 +116,20 @@ std::pair<std::size_t, std::string> row_value(const std::string& typed, std::str
   return {static_cast<std::size_t>(typed[0] - '1'), typed.substr(2)};
 }
 
-void take_columns(const Typed& typed, BatchOptions& options) {
+void check_column_counts(const Typed& typed) {
   for (std::size_t kind = 0; kind < kHeaderKinds; ++kind) {
     if (typed.columns[kind].size() > most_columns(kind)) {
       throw Stop{kExitWrongUsage, concat(kColumnOptions[kind], " darf höchstens ",
                                          std::to_string(kMostColumns[kind]), "-mal stehen.")};
     }
+  }
+}
+
+/// Names of files and columns. What Windows-1252 lacks cannot be found, which is no wrong usage.
+void take_names(const Typed& typed, BatchOptions& options) {
+  options.suite = converted(typed.suite, kExitRefused);
+  options.file = converted(typed.file, kExitRefused);
+  for (std::size_t kind = 0; kind < kHeaderKinds; ++kind) {
     for (const std::string& text : typed.columns[kind]) {
       options.columns[kind].push_back(converted(text, kExitRefused));
     }
@@ -133,9 +141,7 @@ void take(const CLI::App& cli, const Typed& typed, BatchOptions& options) {
   if (!given("--file") && !options.outlook) {
     throw Stop{kExitWrongUsage, "Es fehlt --file oder --outlook."};
   }
-  options.suite = converted(typed.suite, kExitRefused);
-  options.file = converted(typed.file, kExitRefused);
-  take_columns(typed, options);
+  check_column_counts(typed);
   if (given("--delimiter")) {
     options.delimiter = choice(kDelimiterNames, typed.delimiter, "--delimiter");
   }
@@ -153,6 +159,7 @@ void take(const CLI::App& cli, const Typed& typed, BatchOptions& options) {
     const auto [row, value] = row_value(text, "--suffix");
     options.suffixes[row] = converted(value, kExitWrongUsage);
   }
+  take_names(typed, options);
 }
 
 }  // namespace
