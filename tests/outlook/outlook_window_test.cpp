@@ -1,0 +1,145 @@
+// The window and Outlook: what a user sees and does, and what the phone book hears.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <string_view>
+
+#include "tests/e2e/wizard_test.h"
+#include "tests/outlook/outlook_standin.h"
+
+namespace quenda {
+namespace {
+
+using testing::Each;
+using testing::ElementsAre;
+
+constexpr std::string_view kOutlook = "Outlook-Kontakte";
+constexpr std::string_view kThreeItems =
+    "version=15.0.0.4420\n"
+    "contact=FirstName=J\xC3\xB6rg|LastName=Berg|HomeTelephoneNumber=+49 30 5551234"
+    "|HomeAddressPostalCode=12345|HomeAddressCity=Berlin|HomeAddressStreet=Weg 1\\nHof 2\n"
+    "list=\n"
+    "contact=FirstName=Udo|LastName=Muster|BusinessTelephoneNumber=040 5556677"
+    "|MobileTelephoneNumber=0171 5550000\n";
+
+class OutlookWindow : public WizardTest {
+ protected:
+  void SetUp() override {
+    if (!may_register_programs()) GTEST_SKIP() << "the Outlook of this machine stays as it is";
+    suite_.set_book("");
+  }
+
+  [[nodiscard]] bool panel_becomes(int panel, std::string_view text, int seconds = 20) const {
+    return becomes([&] { return panel_of(main_, panel) == text; }, seconds);
+  }
+  [[nodiscard]] bool on_outlook_page() const {
+    return main_.shows(kOutlook) && button("Mobilfunknummer");
+  }
+  /// Presses the Outlook button as soon as Outlook has been found.
+  void open_outlook() {
+    ASSERT_TRUE(becomes([&] { return button(kOutlook) && button(kOutlook).enabled(); }, 20));
+    click(button(kOutlook));
+    EXPECT_TRUE(panel_becomes(1, "Importmode: Outlook"));
+  }
+  [[nodiscard]] Window preview() const { return main_.first(WC_LISTVIEWW); }
+};
+
+TEST_F(OutlookWindow, ContactsReachTheBookAndThePhoneBookHearsIt) {
+  const OutlookStandIn outlook(kThreeItems);
+  start_by_phone_book();
+  EXPECT_TRUE(panel_becomes(2, "3 Kontakte gefunden"));
+  EXPECT_TRUE(
+      main_.shows("Outlook\xAE"
+                  "2013  v15"));
+  open_outlook();
+  EXPECT_TRUE(panel_becomes(3, u8"3 Einträge zum Import"_de));
+  EXPECT_THAT(rows_of(preview()), ElementsAre(ElementsAre("J\xF6rg Berg privat", "+49 30 5551234",
+                                                          "12345 Berlin, Weg 1 Hof 2"),
+                                              ElementsAre("Udo Muster gesch\xE4"
+                                                          "ftlich",
+                                                          "040 5556677", ","),
+                                              ElementsAre("Udo Muster mobil", "0171 5550000", "")));
+  click(button("Mobilfunknummer"));
+  EXPECT_TRUE(becomes([&] { return row_count(preview()) == 2; }));
+  forward(Page::kEntries);
+  EXPECT_THAT(final_entries(), ElementsAre("J\xF6rg Berg privat 0305551234",
+                                           "Udo Muster gesch\xE4"
+                                           "ftlich 0405556677"));
+  click_button(kApply);
+  expect_end();
+  EXPECT_TRUE(phone_book_->hears("data"));
+  EXPECT_EQ(suite_.book(),
+            "J\xF6rg Berg privat;0305551234;0;0;0;0;12345 Berlin, Weg 1 Hof 2;;[vcd()vcd]\r\n"
+            "Udo Muster gesch\xE4"
+            "ftlich;0405556677;0;0;0;0;,;;[vcd()vcd]\r\n");
+  EXPECT_THAT(outlook.counted("live"), Each(0));
+}
+
+TEST_F(OutlookWindow, TwiceBackLeadsToTheChoiceOfSource) {
+  const OutlookStandIn outlook(kThreeItems);
+  start_alone();
+  open_outlook();
+  forward(Page::kEntries);
+  click_button(kBack);
+  EXPECT_TRUE(becomes([&] { return on_outlook_page(); }));
+  EXPECT_TRUE(button(kNext).enabled());
+  EXPECT_EQ(row_count(preview()), 3);
+  click_button(kBack);
+  expect_page(Page::kSource);
+  EXPECT_FALSE(button(kNext).enabled());
+  open_outlook();
+  EXPECT_TRUE(panel_becomes(3, u8"3 Einträge zum Import"_de));
+}
+
+TEST_F(OutlookWindow, CancelWhileReadingEndsTheToolAndLetsOutlookGo) {
+  const OutlookStandIn outlook("contacts=500\n");
+  start_by_phone_book();
+  open_outlook();
+  EXPECT_TRUE(panel_becomes(2, u8"Einträge aufbereiten"_de));
+  EXPECT_FALSE(button(kNext).enabled());
+  click(button(kCancel));
+  expect_end();
+  EXPECT_TRUE(phone_book_->hears("cancel"));
+  EXPECT_EQ(suite_.book(), "");
+  EXPECT_THAT(outlook.counted("live"), Each(0));
+}
+
+TEST_F(OutlookWindow, ADyingOutlookIsSaidAndCanBeTriedAgain) {
+  const OutlookStandIn outlook("contacts=3\ndies_at=2\n");
+  start_alone();
+  open_outlook();
+  EXPECT_TRUE(panel_becomes(2, u8"Outlook: Ein Import der Daten ist nicht möglich!"_de));
+  EXPECT_TRUE(becomes([&] { return on_outlook_page(); }));
+  EXPECT_EQ(row_count(preview()), 0);
+  EXPECT_FALSE(button(kNext).enabled());
+  click_button(kBack);
+  expect_page(Page::kSource);
+}
+
+TEST_F(OutlookWindow, ABusyOutlookDelaysOnly) {
+  const OutlookStandIn outlook("contacts=3\nbusy_from=2\nbusy_for=2000\n");
+  start_alone();
+  open_outlook();
+  EXPECT_TRUE(panel_becomes(3, u8"3 Einträge zum Import"_de));
+  EXPECT_TRUE(button(kNext).enabled());
+}
+
+TEST_F(OutlookWindow, WithoutContactsOrWithoutOutlookTheButtonStaysGrey) {
+  {
+    const OutlookStandIn outlook("version=9.0\n");
+    start_alone();
+    EXPECT_TRUE(panel_becomes(2, "0 Kontakte gefunden"));
+    EXPECT_TRUE(
+        main_.shows("Outlook\xAE"
+                    "2000  v9 Keine Daten gefunden!"));
+    EXPECT_FALSE(button(kOutlook).enabled());
+    tool_.kill();
+  }
+  start_alone();
+  EXPECT_TRUE(panel_becomes(2, "Outlook nicht installiert!"));
+  EXPECT_FALSE(button(kOutlook).enabled());
+}
+
+}  // namespace
+}  // namespace quenda
