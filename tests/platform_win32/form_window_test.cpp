@@ -1,74 +1,17 @@
-// Forms in real windows: what the user does reaches the controls, what code does reaches the
-// window, and nothing comes back as an echo.
+// What the user does reaches the controls, what code does reaches the window, and nothing comes
+// back as an echo.
 #include "platform/win32/form_window.h"
 
 #include <gtest/gtest.h>
+#include <shlobj.h>
 
-#include "platform/control_array.h"
-#include "platform/list_view.h"
-#include "platform/lists.h"
-#include "platform/simple_controls.h"
-#include "platform/text_box.h"
-#include "platform/win32/events_win32.h"
+#include <algorithm>
+
 #include "platform/win32/text_win32.h"
-#include "support/fault.h"
+#include "tests/platform_win32/form_fixture.h"
 
 namespace quenda {
 namespace {
-
-class MillionRows : public RowSource {
- public:
-  [[nodiscard]] std::size_t rows() const override { return 1'000'000; }
-  [[nodiscard]] std::string cell(std::size_t row, std::size_t column) const override {
-    return std::to_string(row) + "/" + std::to_string(column);
-  }
-};
-
-class TestForm : public Form {
- public:
-  TestForm() : Form("fTest") {
-    set_place({600, 600, 6000, 3000});
-    int tab = 0;
-    for (Control* control : controls()) {
-      control->set_place({0, 300 * tab, 1500, 300});
-      control->set_tab_index(tab++);
-    }
-    box.set_parent(&page);
-    default_button = &go;
-    cancel_button = &stop;
-  }
-
-  Frame page{*this, "frmPage"};
-  CheckBox box{*this, "chkBox"};
-  TextBox text{*this, "txtText"};
-  ListBox list{*this, "lstList"};
-  ListView view{*this, "lstView"};
-  Button go{*this, "cmdGo"};
-  Button stop{*this, "cmdStop"};
-  Timer timer{*this, "tmTimer"};
-};
-
-class FormWindowTest : public testing::Test {
- protected:
-  void show() {
-    events_.show(form_);
-    loop_.pump();
-  }
-  static HWND window(const Control& control) {
-    return static_cast<NativeControl*>(control.peer())->window();
-  }
-  static LRESULT send(const Control& control, UINT message, WPARAM wparam = 0, LPARAM lparam = 0) {
-    return SendMessageW(window(control), message, wparam, lparam);
-  }
-  void user_types(std::wstring_view keys) {
-    for (const wchar_t key : keys) send(form_.text, WM_CHAR, key);
-  }
-
-  MessageLoop loop_;
-  MillionRows rows_;
-  TestForm form_;
-  Win32Events events_{loop_};
-};
 
 TEST_F(FormWindowTest, TypedKeysPassTheFilterAndForeignOnesAreSwallowed) {
   form_.text.on_key_press = [](std::int16_t& code) {
@@ -151,83 +94,30 @@ TEST_F(FormWindowTest, AMillionRowsAreThereAtOnceAndChosenColumnsAreMarked) {
   EXPECT_STREQ(cell, L"[#] Telefon");
 }
 
-TEST_F(FormWindowTest, TheEndOfTheProgramPassesThroughNestedWork) {
-  form_.go.on_click = [&] {
-    PostMessageW(window(form_.stop), BM_CLICK, 0, 0);
-    loop_.pump();
-    ADD_FAILURE() << "work went on after the end";
-  };
-  form_.stop.on_click = [] { throw EndProgram{}; };
-  show();
-  PostMessageW(window(form_.go), BM_CLICK, 0, 0);
-  EXPECT_THROW(loop_.pump(), EndProgram);
+void drop(HWND window, const std::wstring& path) {
+  const std::size_t size = sizeof(DROPFILES) + (path.size() + 2) * sizeof(wchar_t);
+  const HGLOBAL memory = GlobalAlloc(GHND, size);
+  auto* const head = static_cast<DROPFILES*>(GlobalLock(memory));
+  head->pFiles = sizeof(DROPFILES);
+  head->fWide = TRUE;
+  std::copy(path.begin(), path.end(), from_lparam<wchar_t>(as_lparam(head + 1)));
+  GlobalUnlock(memory);
+  SendMessageW(window, WM_DROPFILES, static_cast<WPARAM>(as_lparam(memory)), 0);
 }
 
-TEST_F(FormWindowTest, LongWorkIsStoppedByEscapeThoughTheFocusedButtonIsDisabled) {
-  bool stopped = false;
-  form_.stop.on_click = [&] { stopped = true; };
-  form_.go.on_click = [&] {
-    form_.go.set_enabled(false);
-    loop_.pump();
-    EXPECT_EQ(GetFocus(), window(form_.stop));
-    PostMessageW(GetFocus(), WM_KEYDOWN, VK_ESCAPE, 0);
-    loop_.pump();
-    form_.go.set_enabled(true);
-  };
+TEST_F(FormWindowTest, ADroppedFileIsNamedOrRefusedAsUnusable) {
+  std::string dropped;
+  std::string unusable;
+  form_.on_drop_file = [&](std::string_view path) { dropped = path; };
+  form_.on_unusable_path = [&](std::string_view nearest) { unusable = nearest; };
   show();
-  SetFocus(window(form_.go));
-  send(form_.go, BM_CLICK);
-  EXPECT_TRUE(stopped);
-}
-
-TEST_F(FormWindowTest, ADialogLocksItsOwnerAndFreesItWhateverEndsIt) {
-  show();
-  const HWND owner = window_of(form_);
-  for (const bool by_end : {false, true}) {
-    TestForm dialog;
-    dialog.timer.set_interval(10);
-    dialog.timer.on_timer = [&] {
-      EXPECT_FALSE(IsWindowEnabled(owner));
-      SendMessageW(owner, WM_CLOSE, 0, 0);
-      EXPECT_TRUE(form_.loaded()) << "a window under a dialog stays open";
-      if (by_end) throw EndProgram{};
-      dialog.unload();
-    };
-    dialog.timer.set_enabled(true);
-    if (by_end) {
-      EXPECT_THROW(events_.show_modal(dialog, form_), EndProgram);
-    } else {
-      events_.show_modal(dialog, form_);
-    }
-    EXPECT_TRUE(IsWindowEnabled(owner));
-    EXPECT_EQ(dialog.text.peer(), nullptr);
-  }
-}
-
-/// A number that grows when drawing objects are left behind.
-DWORD drawing_objects() {
-  const DWORD count = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
-  if (count != 0) return count;
-  // A system that does not count gives out the lowest free handle.
-  const Brush probe(CreateSolidBrush(RGB(1, 2, 3)));
-  return LOWORD(as_lparam(probe.get()));
-}
-
-TEST_F(FormWindowTest, DialogsLeaveNothingBehind) {
-  show();
-  const auto open_and_close = [&](int times) {
-    for (int i = 0; i < times; ++i) {
-      TestForm dialog;
-      dialog.timer.set_interval(1);
-      dialog.timer.on_timer = [&] { dialog.unload(); };
-      dialog.timer.set_enabled(true);
-      events_.show_modal(dialog, form_);
-    }
-  };
-  open_and_close(3);
-  const DWORD before = drawing_objects();
-  open_and_close(30);
-  EXPECT_LE(drawing_objects(), before + 4);
+  drop(window_of(form_), L"C:\\Gr\u00FC\u00DFe.csv");
+  EXPECT_EQ(dropped,
+            "C:\\Gr\xFC\xDF"
+            "e.csv");
+  EXPECT_EQ(unusable, "");
+  drop(window_of(form_), L"C:\\\u65E5.csv");
+  EXPECT_EQ(unusable, "C:\\?.csv");
 }
 
 }  // namespace

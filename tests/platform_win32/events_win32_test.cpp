@@ -1,0 +1,92 @@
+#include "platform/win32/events_win32.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/win32/handles.h"
+#include "support/fault.h"
+#include "tests/platform_win32/form_fixture.h"
+
+namespace quenda {
+namespace {
+
+TEST_F(FormWindowTest, TheEndOfTheProgramPassesThroughNestedWork) {
+  form_.go.on_click = [&] {
+    PostMessageW(window(form_.stop), BM_CLICK, 0, 0);
+    loop_.pump();
+    ADD_FAILURE() << "work went on after the end";
+  };
+  form_.stop.on_click = [] { throw EndProgram{}; };
+  show();
+  PostMessageW(window(form_.go), BM_CLICK, 0, 0);
+  EXPECT_THROW(loop_.pump(), EndProgram);
+}
+
+TEST_F(FormWindowTest, LongWorkIsStoppedByEscapeThoughTheFocusedButtonIsDisabled) {
+  bool stopped = false;
+  form_.stop.on_click = [&] { stopped = true; };
+  form_.go.on_click = [&] {
+    form_.go.set_enabled(false);
+    loop_.pump();
+    EXPECT_EQ(GetFocus(), window(form_.stop));
+    PostMessageW(GetFocus(), WM_KEYDOWN, VK_ESCAPE, 0);
+    loop_.pump();
+    form_.go.set_enabled(true);
+  };
+  show();
+  SetFocus(window(form_.go));
+  send(form_.go, BM_CLICK);
+  EXPECT_TRUE(stopped);
+}
+
+TEST_F(FormWindowTest, ADialogLocksItsOwnerAndFreesItWhateverEndsIt) {
+  show();
+  const HWND owner = window_of(form_);
+  for (const bool by_end : {false, true}) {
+    TestForm dialog;
+    dialog.timer.set_interval(10);
+    dialog.timer.on_timer = [&] {
+      EXPECT_FALSE(IsWindowEnabled(owner));
+      SendMessageW(owner, WM_CLOSE, 0, 0);
+      EXPECT_TRUE(form_.loaded()) << "a window under a dialog stays open";
+      if (by_end) throw EndProgram{};
+      dialog.unload();
+    };
+    dialog.timer.set_enabled(true);
+    if (by_end) {
+      EXPECT_THROW(events_.show_modal(dialog, form_), EndProgram);
+    } else {
+      events_.show_modal(dialog, form_);
+    }
+    EXPECT_TRUE(IsWindowEnabled(owner));
+    EXPECT_EQ(dialog.text.peer(), nullptr);
+  }
+}
+
+/// A number that grows when drawing objects are left behind.
+DWORD drawing_objects() {
+  const DWORD count = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
+  if (count != 0) return count;
+  // A system that does not count gives out the lowest free handle.
+  const Brush probe(CreateSolidBrush(RGB(1, 2, 3)));
+  return LOWORD(as_lparam(probe.get()));
+}
+
+TEST_F(FormWindowTest, DialogsLeaveNothingBehind) {
+  show();
+  const auto open_and_close = [&](int times) {
+    for (int i = 0; i < times; ++i) {
+      TestForm dialog;
+      dialog.timer.set_interval(1);
+      dialog.timer.on_timer = [&] { dialog.unload(); };
+      dialog.timer.set_enabled(true);
+      events_.show_modal(dialog, form_);
+    }
+  };
+  open_and_close(3);
+  const DWORD before = drawing_objects();
+  open_and_close(30);
+  EXPECT_LE(drawing_objects(), before + 4);
+}
+
+}  // namespace
+}  // namespace quenda
