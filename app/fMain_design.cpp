@@ -206,7 +206,7 @@ void fMain::design() {
     preview->set_back_color(BackColor::kButtonFace);
   }
   lstImport.set_columns({{"", 2000}, {"", 1400}, {"", 3000}});
-  lstImpFinal.set_columns({{"", 2600}, {"", 1800}, {"", 2700}});
+  lstImpFinal.set_columns({{"", 2600}, {"", 1800}, {"", 2550}});
   txtDDE.set_visible(false);
   labLimError.set_visible(false);
   labOLhint.set_visible(false);
