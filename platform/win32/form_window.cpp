@@ -236,8 +236,7 @@ void FormWindow::on_command(UINT code, int id, HWND control) {
 INT_PTR FormWindow::color(WPARAM dc, HWND control) {
   const NativeControl* const native = NativeControl::of(control);
   if (native == nullptr) return FALSE;
-  const int color =
-      native->control().takes_input() ? system_color_behind(native->control()) : COLOR_3DFACE;
+  const int color = system_color_behind(native->control());
   const auto surface = reinterpret_cast<HDC>(dc);  // NOLINT: messages carry handles
   SetBkColor(surface, GetSysColor(color));
   return as_lparam(GetSysColorBrush(color));

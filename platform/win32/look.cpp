@@ -19,14 +19,19 @@ Fonts::Fonts(int dpi) {
 }
 
 int system_color_behind(const Control& control) {
-  const bool own = control.kind() != ControlKind::kLabel && control.kind() != ControlKind::kFrame &&
-                   control.kind() != ControlKind::kCheckBox &&
-                   control.kind() != ControlKind::kOptionButton;
-  for (const Control* at = &control; at != nullptr; at = at->parent()) {
-    if (at->back_color() == BackColor::kWindow) return COLOR_WINDOW;
-    if (own) break;
+  switch (control.kind()) {
+    case ControlKind::kLabel:
+    case ControlKind::kFrame:
+    case ControlKind::kCheckBox:
+    case ControlKind::kOptionButton:
+      for (const Control* at = &control; at != nullptr; at = at->parent()) {
+        if (at->back_color() == BackColor::kWindow) return COLOR_WINDOW;
+      }
+      return COLOR_3DFACE;
+    default:
+      return control.takes_input() && control.back_color() == BackColor::kWindow ? COLOR_WINDOW
+                                                                                 : COLOR_3DFACE;
   }
-  return COLOR_3DFACE;
 }
 
 COLORREF column_color(ColumnKind kind) {

@@ -14,8 +14,8 @@ struct Fonts {
   Font heading;
 };
 
-/// The background behind a control. A label or box without a colour of its own takes that of the
-/// frame it lies on.
+/// The background behind a control, a system colour. A label or box without a colour of its own
+/// takes that of the frame it lies on; a field that takes no input is grey.
 int system_color_behind(const Control& control);
 
 /// The background of a preview column chosen for something; the window colour for the others, and

@@ -35,7 +35,7 @@ void NativeControl::create(HWND parent, int id) {
   const HMENU number =
       reinterpret_cast<HMENU>(static_cast<INT_PTR>(id));  // NOLINT: as the API has it
   const DWORD shown = control_.visible() ? WS_VISIBLE : 0;
-  const DWORD locked = control_.takes_input() ? 0 : WS_DISABLED;
+  const DWORD locked = is_live() ? 0 : WS_DISABLED;
   placed_ = laid_out(control_, form_.dpi(), form_.growth());
   window_ = CreateWindowExW(made.extended, made.window_class, L"",
                             WS_CHILD | made.style | tab_stop | shown | locked, placed_.left,
@@ -91,8 +91,8 @@ void NativeControl::show_common(Aspect aspect) {
       if (!control_.spoken_name().empty()) form_.names_changed();
       break;
     case Aspect::kEnabled:
-      if ((IsWindowEnabled(window_) != 0) != control_.takes_input()) {
-        EnableWindow(window_, control_.takes_input() ? TRUE : FALSE);
+      if ((IsWindowEnabled(window_) != 0) != is_live()) {
+        EnableWindow(window_, is_live() ? TRUE : FALSE);
       }
       break;
     case Aspect::kVisible:
@@ -105,6 +105,18 @@ void NativeControl::show_common(Aspect aspect) {
       break;
     default:
       break;
+  }
+}
+
+bool NativeControl::is_live() const {
+  switch (control_.kind()) {
+    case ControlKind::kLabel:
+    case ControlKind::kFrame:
+    case ControlKind::kPicture:
+    case ControlKind::kStatusBar:
+      return control_.enabled();
+    default:
+      return control_.takes_input();
   }
 }
 

@@ -87,6 +87,9 @@ class NativeControl : public ControlPeer {
 
  private:
   void show_common(Aspect aspect);
+  /// Whether the window is to be an enabled one. What only shows something stays as it is while the
+  /// form is locked for work; greying it would make the whole window flicker.
+  [[nodiscard]] bool is_live() const;
   static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam,
                                     UINT_PTR id, DWORD_PTR self) noexcept;
 
