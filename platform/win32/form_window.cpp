@@ -104,7 +104,7 @@ void FormWindow::page_shown(NativeControl& frame) {
   if (ready_) focus_.page_shown();
 }
 
-NativeControl* FormWindow::peer_of(const Control& control) const {
+NativeControl* FormWindow::peer_of(const Control& control) {
   return static_cast<NativeControl*>(control.peer());
 }
 
@@ -120,6 +120,8 @@ void FormWindow::show() {
   SetForegroundWindow(window());
   UpdateWindow(window());
   ready_ = true;
+  // The system has chosen the first field; where the work begins is for the form to say.
+  focus_.page_shown();
   settle(true);
 }
 
@@ -143,7 +145,7 @@ void FormWindow::show_changes() {
   if (showing_ || !form_.redraw()) return;
   showing_ = true;
   if (std::exchange(captions_changed_, false)) give_access_keys();
-  // A frame that comes into view adds controls.
+  // A frame that comes into view adds controls: NOLINTNEXTLINE(modernize-loop-convert)
   for (std::size_t i = 0; i < controls_.size(); ++i) controls_[i]->show_changes();
   showing_ = false;
 }
@@ -201,12 +203,12 @@ void FormWindow::show_pointer() const {
   GetCursorPos(&at);
   const HWND under = WindowFromPoint(at);
   if (under != window() && IsChild(window(), under) == 0) return;
-  SendMessageW(under, WM_SETCURSOR, reinterpret_cast<WPARAM>(under),  // NOLINT
+  SendMessageW(under, WM_SETCURSOR, reinterpret_cast<WPARAM>(under),
                MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
 }
 
 void FormWindow::on_drop(WPARAM drop) {
-  const auto dropped = reinterpret_cast<HDROP>(drop);  // NOLINT: messages carry handles
+  const auto dropped = reinterpret_cast<HDROP>(drop);
   std::wstring path(DragQueryFileW(dropped, 0, nullptr, 0), L'\0');
   DragQueryFileW(dropped, 0, path.data(), static_cast<UINT>(path.size()) + 1);
   DragFinish(dropped);
@@ -237,7 +239,7 @@ INT_PTR FormWindow::color(WPARAM dc, HWND control) {
   const NativeControl* const native = NativeControl::of(control);
   if (native == nullptr) return FALSE;
   const int color = system_color_behind(native->control());
-  const auto surface = reinterpret_cast<HDC>(dc);  // NOLINT: messages carry handles
+  const auto surface = reinterpret_cast<HDC>(dc);
   SetBkColor(surface, GetSysColor(color));
   return as_lparam(GetSysColorBrush(color));
 }
