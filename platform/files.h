@@ -29,7 +29,8 @@ class Files {
   /// Replaces everything from byte `keep` on by `tail`, in place, and has the data on the disk when
   /// it returns. Space for a longer file is taken before anything is overwritten, so that a full
   /// disk (61) leaves the old content as it was; a shorter file is cut last. A missing file is
-  /// created. While this runs, other programs are kept from writing to the file.
+  /// created. While this runs, other programs are kept from writing to the file. Fault 5, and
+  /// nothing is changed, when the file has fewer than `keep` bytes.
   virtual void replace_tail(std::string_view path, std::uint64_t keep, std::string_view tail) = 0;
   /// Deletes the file; a missing or protected file is left without a word.
   virtual void remove(std::string_view path) noexcept = 0;

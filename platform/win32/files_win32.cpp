@@ -122,6 +122,13 @@ std::uint64_t joined(DWORD high, DWORD low) {
   return (static_cast<std::uint64_t>(high) << 32U) | low;
 }
 
+/// Refuses a read-only file before it is opened: where the user may do everything, opening it for
+/// writing would succeed.
+void check_writable(std::string_view path) {
+  const DWORD attributes = attributes_of(path).dwFileAttributes;
+  if ((attributes & FILE_ATTRIBUTE_READONLY) != 0) raise_fault(kFaultPathAccess);
+}
+
 }  // namespace
 
 int fault_of_error(unsigned long error, const wchar_t* path) {
@@ -181,20 +188,24 @@ std::string Win32Files::read(std::string_view path) const {
 }
 
 void Win32Files::write(std::string_view path, std::string_view content) {
+  check_writable(path);
   const OpenFile file(path, GENERIC_WRITE, FILE_SHARE_READ, OPEN_ALWAYS);
   file.write_at(0, content);
   file.cut_at(content.size());
 }
 
 void Win32Files::append(std::string_view path, std::string_view content) {
+  check_writable(path);
   const OpenFile file(path, GENERIC_WRITE, FILE_SHARE_READ, OPEN_ALWAYS);
   file.write_at(file.size(), content);
 }
 
 void Win32Files::replace_tail(std::string_view path, std::uint64_t keep, std::string_view tail) {
+  check_writable(path);
   const OpenFile file(path, GENERIC_WRITE, FILE_SHARE_READ, OPEN_ALWAYS);
   const std::uint64_t old_size = file.size();
-  const std::uint64_t overwritten = old_size > keep ? old_size - keep : 0;
+  if (keep > old_size) raise_fault(kFaultInvalidCall);
+  const std::uint64_t overwritten = old_size - keep;
   if (tail.size() > overwritten) {
     AddedSpace added(file, old_size);
     file.write_at(keep + overwritten, tail.substr(overwritten));
