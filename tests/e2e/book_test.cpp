@@ -1,0 +1,130 @@
+// A phone book that cannot be written, and settings that stay for the next time.
+#include <gmock/gmock.h>
+
+#include "platform/win32/text_win32.h"
+#include "tests/e2e/wizard_test.h"
+
+namespace quenda {
+namespace {
+
+using testing::Contains;
+using testing::HasSubstr;
+using testing::Not;
+using testing::SizeIs;
+
+class Book : public WizardTest {
+ protected:
+  Book() : path_(wide(suite_.path("data\\Quendabook.txt"))) { suite_.remember_columns(); }
+
+  /// Tries to write, is told about it, and finds the entries where they were.
+  void expect_refusal() {
+    const std::string before = suite_.book();
+    click_button(kApply);
+    const Window box = dialog_over(main_);
+    EXPECT_THAT(message_of(box), HasSubstr("Es ist ein Fehler aufgetreten!"));
+    confirm(box);
+    EXPECT_TRUE(becomes([&] { return main_.enabled(); }));
+    wait_until_active(main_);
+    EXPECT_EQ(suite_.book(), before);
+    EXPECT_THAT(phone_book_->heard(), Not(Contains("data")));
+    EXPECT_EQ(row_count(final_list()), 4);
+  }
+
+  /// Back and forth, and the same entries are written after all.
+  void expect_success() {
+    click_button(kBack);
+    click_button(kNext);
+    expect_end();
+    EXPECT_TRUE(phone_book_->hears("data"));
+    EXPECT_THAT(suite_.book(), HasSubstr("Berg Anna;03023125701"));
+  }
+
+  std::wstring path_;
+};
+
+TEST_F(Book, WriteProtectedBookIsReportedAndNothingIsLost) {
+  SetFileAttributesW(path_.c_str(), FILE_ATTRIBUTE_READONLY);
+  if (FileHandle(
+          CreateFileW(path_.c_str(), GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr))) {
+    GTEST_SKIP() << "this user may write everywhere";
+  }
+  start_by_phone_book();
+  go_to(Page::kEntries);
+  expect_refusal();
+  SetFileAttributesW(path_.c_str(), FILE_ATTRIBUTE_NORMAL);
+  expect_success();
+}
+
+TEST_F(Book, LockedBookIsReportedAndNothingIsLost) {
+  start_by_phone_book();
+  go_to(Page::kEntries);
+  {
+    const FileHandle lock(CreateFileW(path_.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
+                                      OPEN_EXISTING, 0, nullptr));
+    expect_refusal();
+  }
+  expect_success();
+}
+
+TEST_F(Book, NothingNewLeavesTheBookAlone) {
+  suite_.set_book("Anna Berg;03023125701;0;0;0;0;;;[vcd()vcd]\r\n");
+  suite_.write("kontakte.csv",
+               "Vorname;Nachname;Telefon;Mobil\r\nAnna;BERG;03023125701;03023125701\r\n");
+  suite_.write("data\\sett_import.ini",
+               "[Import]\r\nSelNames1=Vorname\r\nSelNames2=Nachname\r\nSelNumbers1=Telefon\r\n");
+  start_by_phone_book();
+  const std::string before = suite_.book();
+  go_to(Page::kEntries);
+  ASSERT_EQ(row_count(final_list()), 1);
+  click_button(kApply);
+  expect_end();
+  EXPECT_TRUE(phone_book_->hears("closed"));
+  EXPECT_EQ(suite_.book(), before);
+  EXPECT_THAT(phone_book_->heard(), Contains("cancel"));
+  EXPECT_THAT(phone_book_->heard(), Not(Contains("data")));
+}
+
+TEST_F(Book, TheSecondImportRemembersColumnsSuffixesAndPlace) {
+  suite_.write("data\\sett_import.ini", "");
+  start_alone();
+  type_path();
+  forward(Page::kColumns);
+  choose(main_.after("Spalten Name"), "Nachname");
+  choose(main_.after("Spalten Rufnummer"), "Telefon");
+  choose(main_.after("Spalten Adresse 2"), "Ort");
+  forward(Page::kNames);
+  fill(main_.after("Rufnummer 1", 1), "(Firma)");
+  forward(Page::kAddresses);
+  click(main_.find("Telefon").find("2"));
+  forward(Page::kEntries);
+  const Window retain = main_.find("vorhandenen Datensatz erhalten");
+  click(retain);
+  EXPECT_TRUE(becomes([&] { return retain.checked(); }));
+  SetWindowPos(main_.handle(), nullptr, 150, 90, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+  const RECT place = main_.place();
+  click_button(kApply);
+  const Window box = dialog_over(main_);
+  EXPECT_THAT(message_of(box), HasSubstr("Es besteht keine DDE-Verbindung zu Quenda!"));
+  confirm(box);
+  expect_end();
+  EXPECT_THAT(suite_.read("data\\sett_import.ini"), HasSubstr("Ask=2"));
+  EXPECT_THAT(suite_.book(), HasSubstr("Berg  (Firma);03023125701;0;0;0;0;12099 Berlin;"));
+
+  start_alone();
+  EXPECT_EQ(main_.place().left, place.left);
+  EXPECT_EQ(main_.place().top, place.top);
+  type_path();
+  forward(Page::kColumns);
+  EXPECT_THAT(selected_in(main_.after("Spalten Name")), testing::ElementsAre("Nachname"));
+  EXPECT_THAT(selected_in(main_.after("Spalten Adresse 1")), SizeIs(0));
+  EXPECT_THAT(selected_in(main_.after("Spalten Adresse 2")), testing::ElementsAre("Ort"));
+  forward(Page::kNames);
+  EXPECT_EQ(main_.after("Rufnummer 1", 1).text(), "(Firma)");
+  forward(Page::kAddresses);
+  EXPECT_TRUE(main_.find("Telefon").find("2").checked());
+  forward(Page::kEntries);
+  EXPECT_TRUE(becomes([&] { return main_.find("vorhandenen Datensatz erhalten").checked(); }));
+}
+
+}  // namespace
+}  // namespace quenda

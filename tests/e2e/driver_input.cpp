@@ -1,0 +1,127 @@
+#include "tests/e2e/driver_input.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/win32/text_win32.h"
+#include "support/text.h"
+
+namespace quenda {
+namespace {
+
+constexpr int kArrivalTime = 2;  // seconds
+constexpr int kAttempts = 4;     // an input right after a window has appeared can get lost
+
+void send_key(WORD key, WORD unit, DWORD flags) {
+  INPUT input{};
+  input.type = INPUT_KEYBOARD;
+  input.ki.wVk = key;
+  input.ki.wScan = unit;
+  input.ki.dwFlags = flags;
+  SendInput(1, &input, sizeof input);
+}
+
+void send_mouse(DWORD flags) {
+  INPUT input{};
+  input.type = INPUT_MOUSE;
+  input.mi.dwFlags = flags;
+  SendInput(1, &input, sizeof input);
+}
+
+/// Whether the thread of the control has seen the button go down: pressed controls capture the
+/// mouse, others take the focus.
+bool took_press(const Window& control, HWND focus_before) {
+  GUITHREADINFO thread{};
+  thread.cbSize = sizeof thread;
+  GetGUIThreadInfo(GetWindowThreadProcessId(control.handle(), nullptr), &thread);
+  if (thread.hwndCapture != nullptr) return true;
+  return thread.hwndFocus != focus_before &&
+         (thread.hwndFocus == control.handle() || IsChild(control.handle(), thread.hwndFocus) != 0);
+}
+
+bool press_button_at(const Window& control, POINT point) {
+  const RECT place = control.place();
+  const POINT at{place.left + point.x, place.top + point.y};
+  const auto under_mouse = [&] {
+    SetCursorPos(at.x, at.y);
+    const HWND under = WindowFromPoint(at);
+    return under == control.handle() || IsChild(control.handle(), under) != 0 ||
+           IsChild(under, control.handle()) != 0;
+  };
+  if (!becomes(under_mouse, kArrivalTime)) return false;
+  const HWND before = focus_of(control).handle();
+  // A list that has the focus already need not show the press; the caller looks at its selection.
+  if (before == control.handle() && !control.is(WC_BUTTONW)) {
+    send_mouse(MOUSEEVENTF_LEFTDOWN);
+    return true;
+  }
+  for (int attempt = 0; attempt < kAttempts; ++attempt) {
+    send_mouse(MOUSEEVENTF_LEFTDOWN);
+    if (becomes([&] { return took_press(control, before) || !control.exists(); }, 1)) return true;
+    send_mouse(MOUSEEVENTF_LEFTUP);
+  }
+  return false;
+}
+
+}  // namespace
+
+void wait_until_active(const Window& window) {
+  const auto active = [&] {
+    if (GetForegroundWindow() == window.handle()) return focus_of(window).handle() != nullptr;
+    SetForegroundWindow(window.handle());
+    return false;
+  };
+  EXPECT_TRUE(becomes(active)) << window.text() << " does not come to the front";
+}
+
+void press(Key key) {
+  send_key(static_cast<WORD>(key), 0, 0);
+  send_key(static_cast<WORD>(key), 0, KEYEVENTF_KEYUP);
+}
+
+void press_with(WORD modifier, WORD key) {
+  send_key(modifier, 0, 0);
+  send_key(key, 0, 0);
+  send_key(key, 0, KEYEVENTF_KEYUP);
+  send_key(modifier, 0, KEYEVENTF_KEYUP);
+}
+
+void type(std::string_view text) {
+  for (const wchar_t unit : wide(text)) {
+    send_key(0, static_cast<WORD>(unit), KEYEVENTF_UNICODE);
+    send_key(0, static_cast<WORD>(unit), KEYEVENTF_UNICODE | KEYEVENTF_KEYUP);
+  }
+}
+
+void fill(const Window& field, std::string_view text) {
+  if (!field.focused()) click(field);
+  EXPECT_TRUE(becomes([&] { return field.focused(); })) << "the field does not get the focus";
+  SendMessageW(field.handle(), EM_SETSEL, 0, -1);
+  if (text.empty()) {
+    press(Key::kDelete);
+  } else {
+    type(text);
+  }
+  EXPECT_TRUE(becomes([&] { return field.text() == text; })) << field.text();
+}
+
+void click(const Window& control) {
+  const RECT place = control.place();
+  click_at(control, {(place.right - place.left) / 2, (place.bottom - place.top) / 2});
+}
+
+void click_at(const Window& control, POINT point) {
+  EXPECT_TRUE(control.visible() && control.enabled()) << control.text() << " cannot be clicked";
+  EXPECT_TRUE(press_button_at(control, point)) << control.text() << " takes no click";
+  send_mouse(MOUSEEVENTF_LEFTUP);
+}
+
+void double_click_at(const Window& control, POINT point) {
+  Sleep(GetDoubleClickTime());  // a click before must not become the first of the two
+  click_at(control, point);
+  send_mouse(MOUSEEVENTF_LEFTDOWN);
+  send_mouse(MOUSEEVENTF_LEFTUP);
+}
+
+void press_alt_f4() { press_with(VK_MENU, VK_F4); }
+
+}  // namespace quenda

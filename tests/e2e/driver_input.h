@@ -1,0 +1,46 @@
+#pragma once
+
+#include <string_view>
+
+#include "tests/e2e/driver_window.h"
+
+// Keys and mouse as the system gets them from the devices. Each function ends when the tool has
+// been seen to take the input, and fails the test when it does not.
+namespace quenda {
+
+/// Keys of the keyboard that no character stands for.
+enum class Key : WORD {
+  kEnter = VK_RETURN,
+  kEscape = VK_ESCAPE,
+  kBackspace = VK_BACK,
+  kTab = VK_TAB,
+  kBlank = VK_SPACE,
+  kDelete = VK_DELETE,
+  kHome = VK_HOME,
+  kEnd = VK_END,
+  kUp = VK_UP,
+  kDown = VK_DOWN,
+  kF1 = VK_F1,
+  kF4 = VK_F4,
+};
+
+/// Waits until the window is the one that the user works in.
+void wait_until_active(const Window& window);
+
+void press(Key key);
+/// With Shift, Control or Alt (VK_SHIFT, VK_CONTROL, VK_MENU) held down.
+void press_with(WORD modifier, WORD key);
+/// Types characters into whatever has the focus.
+void type(std::string_view text);
+/// Types characters into the field, over what stands there, and waits until they stand there.
+void fill(const Window& field, std::string_view text);
+
+/// Presses the left button over the middle of a control.
+void click(const Window& control);
+/// The same at a point of the control, in pixels from its top left corner.
+void click_at(const Window& control, POINT point);
+void double_click_at(const Window& control, POINT point);
+/// Asks the active window to close, as its close box does.
+void press_alt_f4();
+
+}  // namespace quenda

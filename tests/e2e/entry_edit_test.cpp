@@ -1,0 +1,127 @@
+// The list of entries before it goes into the book.
+#include <gmock/gmock.h>
+
+#include "tests/e2e/wizard_test.h"
+
+namespace quenda {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::Not;
+
+constexpr std::string_view kEdit = "Bearbeiten";
+constexpr std::string_view kRemove = "Entfernen";
+constexpr std::string_view kSave = "Speichern";
+
+class EntryEdit : public WizardTest {
+ protected:
+  EntryEdit() { suite_.remember_columns(); }
+
+  void go_to_list() {
+    start_by_phone_book();
+    go_to(Page::kEntries);
+    select_row(final_list(), 1);
+  }
+  [[nodiscard]] TableRow row(std::size_t number) const { return rows_of(final_list())[number]; }
+  /// Waits for the dialog to go.
+  void gone(const Window& dialog) {
+    EXPECT_TRUE(becomes([&] { return !dialog.exists() && main_.enabled(); }));
+    wait_until_active(main_);
+  }
+};
+
+TEST_F(EntryEdit, AnEditedEntryKeepsItsPlaceAndIsCleaned) {
+  go_to_list();
+  double_click_at(final_list(), point_in_row(final_list(), 1));
+  const Window dialog = dialog_over(main_);
+  EXPECT_EQ(dialog.after("Name").text(), "Berg Anna (mobil)");
+  EXPECT_EQ(dialog.after("Nummer").text(), "01713920056");
+  fill(dialog.after("Name"), "Dr. Anna Berg");
+  fill(dialog.after("Adresse"), "Berlin");
+  const Window number = dialog.after("Nummer");
+  fill(number, "");
+  type("+4 30;55");
+  EXPECT_TRUE(becomes([&] { return number.text() == "43055"; })) << "digits only";
+  click(dialog.find(kSave));
+  gone(dialog);
+  EXPECT_THAT(row(1), ElementsAre("Dr. Anna Berg", "043055", "Berlin"));
+  EXPECT_EQ(selected_row(final_list()), 1);
+}
+
+TEST_F(EntryEdit, EnterAndTheButtonOpenTheEditorAndEscapeChangesNothing) {
+  go_to_list();
+  const TableRow before = row(1);
+  press(Key::kEnter);
+  Window dialog = dialog_over(main_);
+  fill(dialog.after("Name"), "Niemand");
+  press(Key::kEscape);
+  gone(dialog);
+  EXPECT_EQ(row(1), before);
+  click_button(kEdit);
+  dialog = dialog_over(main_);
+  fill(dialog.after("Name"), "Jemand");
+  press(Key::kEnter);
+  gone(dialog);
+  EXPECT_EQ(row(1)[0], "Jemand");
+}
+
+TEST_F(EntryEdit, RowsGoByKeyAndButtonAndTheLastOneTakesTheImportWithIt) {
+  go_to_list();
+  ASSERT_EQ(row_count(final_list()), 4);
+  press(Key::kDelete);
+  ASSERT_TRUE(becomes([&] { return row_count(final_list()) == 3; }));
+  EXPECT_THAT(final_entries(), Not(testing::Contains(HasSubstr("mobil"))));
+  EXPECT_TRUE(becomes([&] { return panel_of(main_, 3) == u8"3 gültige Einträge"_de; }));
+  EXPECT_EQ(selected_row(final_list()), 1) << "the next row has moved up";
+  for (int left = 2; left >= 0; --left) {
+    click_button(kRemove);
+    ASSERT_TRUE(becomes([&] { return row_count(final_list()) == left; })) << left;
+  }
+  EXPECT_TRUE(becomes([&] { return !button(kRemove).enabled(); }));
+  EXPECT_FALSE(button(kApply).enabled());
+  EXPECT_FALSE(button(kEdit).enabled());
+  EXPECT_TRUE(button(kBack).enabled());
+}
+
+class AreaCode : public WizardTest {};
+
+TEST_F(AreaCode, IsAskedForUntilItIsComplete) {
+  suite_.remember_columns();
+  suite_.write("data\\Quenda.ini", "[General]\r\nmyVWL=49\r\n");
+  start_by_phone_book();
+  go_to(Page::kAddresses);
+  click_button(kNext);
+  Window dialog = dialog_over(main_);
+  EXPECT_TRUE(dialog.shows("In den Einstellungen von Quenda ist keine Ortsvorwahl eingetragen."));
+  const Window area = dialog.after("Ortsvorwahl");
+  const Window country = dialog.after("Landesvorwahl");
+  EXPECT_TRUE(becomes([&] { return area.focused(); })) << focus_of(dialog).text();
+  struct Case {
+    std::string_view country, area;
+    bool complete;
+  };
+  for (const Case& c : {Case{"0049", "0", false},
+                        {"0049", "30", false},
+                        {"0049", "03", false},
+                        {"49", "030", false},
+                        {"0049", "030", true}}) {
+    fill(country, c.country);
+    fill(area, c.area);
+    EXPECT_TRUE(becomes([&] { return dialog.find(kApply).enabled() == c.complete; }))
+        << c.country << " " << c.area;
+  }
+  fill(area, "03");
+  press_alt_f4();
+  ASSERT_TRUE(becomes([&] { return !area.exists(); }));
+  dialog = dialog_over(main_);
+  EXPECT_EQ(dialog.after("Ortsvorwahl").text(), "0") << "closing is no way around it";
+  fill(dialog.after("Ortsvorwahl"), "0341");
+  press(Key::kEnter);
+  expect_page(Page::kEntries);
+  EXPECT_EQ(main_.after("Ortsvorwahl").text(), "0341");
+  EXPECT_EQ(row_count(final_list()), 4);
+}
+
+}  // namespace
+}  // namespace quenda

@@ -1,0 +1,156 @@
+// The window without a mouse.
+#include <gmock/gmock.h>
+
+#include <map>
+#include <set>
+
+#include "tests/e2e/wizard_test.h"
+
+namespace quenda {
+namespace {
+
+using testing::Contains;
+using testing::ElementsAre;
+
+class Keyboard : public WizardTest {
+ protected:
+  /// Presses the Alt letter of a control.
+  void alt(const Window& control) {
+    const char letter = control.alt_letter();
+    ASSERT_NE(letter, 0) << control.text() << " has no Alt letter";
+    press_with(VK_MENU, LOBYTE(VkKeyScanA(letter)));
+  }
+
+  [[nodiscard]] Window label(std::string_view text) const {
+    for (const Window& control : main_.controls()) {
+      if (control.is(WC_STATICW) && control.text() == text) return control;
+    }
+    return {};
+  }
+
+  /// By the label's Alt letter to the list, down to an entry, and the space bar.
+  void choose_by_keys(std::string_view list_label, int entry) {
+    alt(label(list_label));
+    const Window list = main_.after(list_label);
+    ASSERT_TRUE(becomes([&] { return list.focused(); })) << list_label;
+    press(Key::kHome);
+    for (int i = 0; i < entry; ++i) press(Key::kDown);
+    press(Key::kBlank);
+    const std::string wanted = entries_of(list).at(static_cast<std::size_t>(entry));
+    EXPECT_TRUE(becomes([&] {
+      const auto chosen = selected_in(list);
+      return std::find(chosen.begin(), chosen.end(), wanted) != chosen.end();
+    })) << wanted;
+  }
+
+  void tab_to(const Window& control) {
+    for (int i = 0; i < 20 && !control.focused(); ++i) {
+      const Window before = focus_of(main_);
+      press(Key::kTab);
+      ASSERT_TRUE(becomes([&] { return !before.focused(); }));
+    }
+    EXPECT_TRUE(control.focused()) << control.text();
+  }
+
+  void enter_to(Page page) {
+    ASSERT_TRUE(becomes([&] { return button(kNext) && button(kNext).enabled(); }));
+    press(Key::kEnter);
+    expect_page(page);
+  }
+
+  void expect_letters_once(std::string_view next);
+};
+
+TEST_F(Keyboard, WholeImportWithoutAMouse) {
+  start_by_phone_book();
+  EXPECT_TRUE(becomes([&] { return main_.after(u8"Datei für den Import"_de).focused(); }));
+  alt(button(kChooseFile));
+  choose_file(dialog_over(main_), suite_.contacts());
+  ASSERT_TRUE(becomes([&] { return button(kNext).enabled(); }));
+  alt(button(kNext));  // Enter would press the button that has the focus: the file again
+  expect_page(Page::kColumns);
+  EXPECT_TRUE(becomes([&] { return main_.after("Spalten Name").focused(); }));
+  choose_by_keys("Spalten Name", 0);
+  choose_by_keys("Spalten Rufnummer", 3);
+  choose_by_keys("Spalten Adresse 1", 5);
+  enter_to(Page::kNames);
+  enter_to(Page::kAddresses);
+  const Window first = main_.find("Mobil").find("1");
+  tab_to(first);
+  press(Key::kBlank);
+  EXPECT_TRUE(becomes([&] { return first.checked(); }));
+  enter_to(Page::kEntries);
+  ASSERT_EQ(row_count(final_list()), 1);
+  tab_to(button(kApply));
+  press(Key::kBlank);
+  expect_end();
+  EXPECT_TRUE(phone_book_->hears("data"));
+}
+
+/// Every button, box and labelled field of a page answers to a letter of its own.
+void Keyboard::expect_letters_once(std::string_view next) {
+  std::map<char, std::string> taken;
+  for (const Window& control : main_.controls()) {
+    const char letter = control.alt_letter();
+    if (letter == 0) continue;
+    EXPECT_TRUE(taken.emplace(letter, control.text()).second)
+        << control.text() << " and " << taken[letter];
+  }
+  for (const char digit : {'1', '2'}) taken.erase(digit);
+  EXPECT_GE(taken.size(), 4U);
+  for (const Window& control : main_.controls()) {
+    if (control.button_of_type(BS_PUSHBUTTON) || control.button_of_type(BS_DEFPUSHBUTTON)) {
+      EXPECT_NE(control.alt_letter(), 0) << control.text();
+    }
+  }
+  EXPECT_TRUE(button(next));
+}
+
+TEST_F(Keyboard, AltLettersStandOncePerPageInBothLanguages) {
+  struct Language {
+    std::string_view code, file, next, edit;
+  };
+  for (const Language& language : {Language{"", u8"Datei für den Import"_de, kNext, "Bearbeiten"},
+                                   {"en", "File to import", "Next", "Edit"}}) {
+    SCOPED_TRACE(language.code);
+    suite_.remember_columns();
+    if (!language.code.empty()) suite_.speak(language.code);
+    start_alone();
+    expect_letters_once(language.next);
+    fill(main_.after(language.file), suite_.contacts());
+    for (int page = 1; page <= 4; ++page) {
+      SCOPED_TRACE(page);
+      click_button(language.next);
+      ASSERT_TRUE(becomes([&] {
+        return page == 4 ? button(language.edit) && button(language.edit).enabled()
+                         : button(language.next) && button(language.next).enabled();
+      }));
+      if (page < 4) expect_letters_once(language.next);
+    }
+    expect_letters_once(language.edit);
+    press(Key::kEscape);
+    expect_end();
+  }
+}
+
+TEST_F(Keyboard, TabGoesThroughThePageAndThenToTheButtons) {
+  suite_.remember_columns();
+  start_alone();
+  go_to(Page::kEntries);
+  wait_until_active(main_);
+  ASSERT_TRUE(becomes([&] { return final_list().focused(); })) << "the first field of the page";
+  std::vector<std::string> walked;
+  for (int i = 0; i < 10; ++i) {
+    const Window before = focus_of(main_);
+    press(Key::kTab);
+    ASSERT_TRUE(becomes([&] { return !before.focused(); }));
+    const Window now = focus_of(main_);
+    walked.push_back(now.is(WC_EDITW) ? "field " + now.text() : now.text());
+  }
+  EXPECT_THAT(walked, ElementsAre("Bearbeiten", "Entfernen", "nachfragen", "field 0049",
+                                  "field 030", kBack, kApply, kCancel, "Hilfe", ""));
+  EXPECT_TRUE(final_list().focused()) << "and round again";
+}
+
+}  // namespace
+}  // namespace quenda

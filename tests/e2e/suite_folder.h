@@ -1,0 +1,35 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "tests/shared/temp_folder.h"
+
+namespace quenda {
+
+/// The suite in a folder of its own, with the tool, settings, a phone book and a file of contacts.
+class SuiteFolder {
+ public:
+  SuiteFolder();
+
+  /// The path of something inside, with blackslashes.
+  [[nodiscard]] std::string path(const std::string& name) const { return folder_.path(name); }
+  [[nodiscard]] std::string tool() const { return path("Import.exe"); }
+  [[nodiscard]] std::string contacts() const { return path("kontakte.csv"); }
+
+  /// The bytes of a file; empty when there is none.
+  [[nodiscard]] std::string read(const std::string& name) const;
+  void write(const std::string& name, std::string_view bytes) const;
+  [[nodiscard]] std::string book() const { return read("data\\Quendabook.txt"); }
+  void set_book(std::string_view bytes) const { write("data\\Quendabook.txt", bytes); }
+
+  /// Settings of an import before with the same columns, so that they are chosen by themselves.
+  void remember_columns() const;
+  /// Ships the language files and chooses a language.
+  void speak(std::string_view language) const;
+
+ private:
+  TempFolder folder_;
+};
+
+}  // namespace quenda
