@@ -20,11 +20,24 @@ void send_key(WORD key, WORD unit, DWORD flags) {
   SendInput(1, &input, sizeof input);
 }
 
-void send_mouse(DWORD flags) {
+/// With the place in every event: the pointer of the display follows only after a while.
+void send_mouse(DWORD flags, POINT at) {
+  constexpr LONG kWhole = 0x10000;  // the width and the height of the screen
+  const auto share = [](LONG position, int metric) {
+    const LONG size = GetSystemMetrics(metric);
+    return (position * kWhole + size / 2) / size;
+  };
   INPUT input{};
   input.type = INPUT_MOUSE;
-  input.mi.dwFlags = flags;
+  input.mi.dx = share(at.x, SM_CXSCREEN);
+  input.mi.dy = share(at.y, SM_CYSCREEN);
+  input.mi.dwFlags = flags | MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
   SendInput(1, &input, sizeof input);
+}
+
+POINT on_screen(const Window& control, POINT point) {
+  const RECT place = control.place();
+  return {place.left + point.x, place.top + point.y};
 }
 
 /// Whether the thread of the control has seen the button go down: pressed controls capture the
@@ -39,8 +52,7 @@ bool took_press(const Window& control, HWND focus_before) {
 }
 
 bool press_button_at(const Window& control, POINT point) {
-  const RECT place = control.place();
-  const POINT at{place.left + point.x, place.top + point.y};
+  const POINT at = on_screen(control, point);
   const auto under_mouse = [&] {
     SetCursorPos(at.x, at.y);
     const HWND under = WindowFromPoint(at);
@@ -51,13 +63,13 @@ bool press_button_at(const Window& control, POINT point) {
   const HWND before = focus_of(control).handle();
   // A list that has the focus already need not show the press; the caller looks at its selection.
   if (before == control.handle() && !control.is(WC_BUTTONW)) {
-    send_mouse(MOUSEEVENTF_LEFTDOWN);
+    send_mouse(MOUSEEVENTF_LEFTDOWN, at);
     return true;
   }
   for (int attempt = 0; attempt < kAttempts; ++attempt) {
-    send_mouse(MOUSEEVENTF_LEFTDOWN);
+    send_mouse(MOUSEEVENTF_LEFTDOWN, at);
     if (becomes([&] { return took_press(control, before) || !control.exists(); }, 1)) return true;
-    send_mouse(MOUSEEVENTF_LEFTUP);
+    send_mouse(MOUSEEVENTF_LEFTUP, at);
   }
   return false;
 }
@@ -111,15 +123,17 @@ void click(const Window& control) {
 
 void click_at(const Window& control, POINT point) {
   EXPECT_TRUE(control.visible() && control.enabled()) << control.text() << " cannot be clicked";
+  const POINT at = on_screen(control, point);
   EXPECT_TRUE(press_button_at(control, point)) << control.text() << " takes no click";
-  send_mouse(MOUSEEVENTF_LEFTUP);
+  send_mouse(MOUSEEVENTF_LEFTUP, at);
 }
 
 void double_click_at(const Window& control, POINT point) {
   Sleep(GetDoubleClickTime());  // a click before must not become the first of the two
+  const POINT at = on_screen(control, point);
   click_at(control, point);
-  send_mouse(MOUSEEVENTF_LEFTDOWN);
-  send_mouse(MOUSEEVENTF_LEFTUP);
+  send_mouse(MOUSEEVENTF_LEFTDOWN, at);
+  send_mouse(MOUSEEVENTF_LEFTUP, at);
 }
 
 void press_alt_f4() { press_with(VK_MENU, VK_F4); }
