@@ -48,7 +48,7 @@ class ComPtr {
     *this = ComPtr();
     return &pointer_;
   }
-  void** out_void() { return reinterpret_cast<void**>(out()); }  // NOLINT: as the API has it
+  void** out_void() { return reinterpret_cast<void**>(out()); }
 
  private:
   T* pointer_ = nullptr;

@@ -22,7 +22,7 @@ class NativeLabel : public PeerOf<Label> {
   void apply_font() override {
     if (!typed().heading()) return NativeControl::apply_font();
     const HFONT font = form().fonts().heading.get();
-    send(WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);  // NOLINT: messages carry handles
+    send(WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
   }
 
  protected:
@@ -55,7 +55,7 @@ class NativeFrame : public PeerOf<Frame> {
     if (message == WM_ERASEBKGND) {
       RECT area{};
       GetClientRect(window(), &area);
-      const auto dc = reinterpret_cast<HDC>(wparam);  // NOLINT: messages carry handles
+      auto* const dc = from_lparam<HDC__>(static_cast<LPARAM>(wparam));
       FillRect(dc, &area, GetSysColorBrush(system_color_behind(control())));
       result = 1;
       return true;

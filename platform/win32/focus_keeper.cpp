@@ -22,6 +22,8 @@ bool FocusKeeper::is_lost() const {
 
 void FocusKeeper::settle(bool idle) {
   if (GetActiveWindow() != form_.window()) return;
+  // A control under the pressed mouse button keeps the focus, or it would not be clicked.
+  if (GetCapture() != nullptr) return;
   give_wanted();
   if (idle) wanted_ = nullptr;
   if (idle && (in_refuge_ || page_is_new_ || is_lost())) find_place();
@@ -54,8 +56,7 @@ void FocusKeeper::move_to(HWND control) {
   const HWND form = form_.window();
   const bool label = (SendMessageW(control, WM_GETDLGCODE, 0, 0) & DLGC_STATIC) != 0;
   const HWND to = label ? GetNextDlgTabItem(form, control, FALSE) : control;
-  if (to != nullptr)
-    SendMessageW(form, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(to), TRUE);  // NOLINT
+  if (to != nullptr) SendMessageW(form, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(to), TRUE);
 }
 
 /// Without selecting a field's text and without making a button the one that Enter presses.
@@ -68,7 +69,7 @@ void FocusKeeper::take_refuge() {
   const Button* const stop = form_.form().cancel_button;
   if (stop == nullptr || !stop->reachable()) return;
   back_to_ = focused_;
-  lend(*form_.peer_of(*stop));
+  lend(*FormWindow::peer_of(*stop));
   in_refuge_ = true;
 }
 

@@ -208,7 +208,7 @@ void FormWindow::show_pointer() const {
 }
 
 void FormWindow::on_drop(WPARAM drop) {
-  const auto dropped = reinterpret_cast<HDROP>(drop);
+  auto* const dropped = from_lparam<HDROP__>(static_cast<LPARAM>(drop));
   std::wstring path(DragQueryFileW(dropped, 0, nullptr, 0), L'\0');
   DragQueryFileW(dropped, 0, path.data(), static_cast<UINT>(path.size()) + 1);
   DragFinish(dropped);
@@ -239,7 +239,7 @@ INT_PTR FormWindow::color(WPARAM dc, HWND control) {
   const NativeControl* const native = NativeControl::of(control);
   if (native == nullptr) return FALSE;
   const int color = system_color_behind(native->control());
-  const auto surface = reinterpret_cast<HDC>(dc);
+  auto* const surface = from_lparam<HDC__>(static_cast<LPARAM>(dc));
   SetBkColor(surface, GetSysColor(color));
   return as_lparam(GetSysColorBrush(color));
 }

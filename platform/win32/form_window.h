@@ -36,7 +36,7 @@ class FormWindow : public ControlPeer, public LoopClient {
   [[nodiscard]] const Fonts& fonts() const { return *fonts_; }
   [[nodiscard]] FocusKeeper& focus() { return focus_; }
   /// The native control of a control that has its window.
-  [[nodiscard]] NativeControl* peer_of(const Control& control) const;
+  [[nodiscard]] static NativeControl* peer_of(const Control& control);
   /// A control's caption with the letter by which Alt leads to it.
   [[nodiscard]] std::string keyed_caption(const Control& control) const;
   /// A caption is another or a control has come into view, so letters can have to change.

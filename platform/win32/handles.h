@@ -82,14 +82,12 @@ class Selected {
 };
 
 /// An address as a message parameter.
-inline LPARAM as_lparam(const void* address) {
-  return reinterpret_cast<LPARAM>(address);  // NOLINT: messages carry addresses as numbers
-}
+inline LPARAM as_lparam(const void* address) { return reinterpret_cast<LPARAM>(address); }
 
 /// The address that a message parameter carries.
 template <class T>
 T* from_lparam(LPARAM value) {
-  return reinterpret_cast<T*>(value);  // NOLINT: messages carry addresses as numbers
+  return reinterpret_cast<T*>(value);
 }
 
 }  // namespace quenda

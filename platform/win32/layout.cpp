@@ -71,9 +71,9 @@ std::vector<Control*> in_tab_order(const ControlHost& host, const Control* paren
     if (control->parent() == parent) ordered.emplace_back(tab_position(host, *control), control);
   }
   int next = kNoPosition;
-  for (auto entry = ordered.rbegin(); entry != ordered.rend(); ++entry) {
-    if (entry->first == kNoPosition) entry->first = next;
-    next = entry->first;
+  for (std::size_t i = ordered.size(); i-- > 0;) {
+    if (ordered[i].first == kNoPosition) ordered[i].first = next;
+    next = ordered[i].first;
   }
   std::stable_sort(ordered.begin(), ordered.end(),
                    [](const auto& a, const auto& b) { return a.first < b.first; });

@@ -64,6 +64,7 @@ class NativeListBox : public PeerOf<ListBox> {
     send(LB_RESETCONTENT);
     const WindowDc dc(window());
     const Selected font(dc.get(), form().fonts().plain.get());
+    constexpr WPARAM kMargin = 6;
     LONG widest = 0;
     for (int i = 0; i < typed().count(); ++i) {
       const std::wstring text = wide(typed().item(i));
@@ -72,7 +73,7 @@ class NativeListBox : public PeerOf<ListBox> {
       GetTextExtentPoint32W(dc.get(), text.c_str(), static_cast<int>(text.size()), &size);
       widest = std::max(widest, size.cx);
     }
-    send(LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(widest + pixels_of(90, form().dpi())));
+    send(LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(widest) + kMargin);
     send(WM_SETREDRAW, TRUE);
     InvalidateRect(window(), nullptr, TRUE);
   }

@@ -112,23 +112,20 @@ class NativeListView : public PeerOf<ListView> {
   }
 
   [[nodiscard]] LRESULT draw(NMLVCUSTOMDRAW& drawn) const {
-    switch (drawn.nmcd.dwDrawStage) {
-      case CDDS_PREPAINT:
-        return CDRF_NOTIFYITEMDRAW;
-      case CDDS_ITEMPREPAINT:
-        return CDRF_NOTIFYSUBITEMDRAW;
-      case CDDS_ITEMPREPAINT | CDDS_SUBITEM: {
-        const auto column = static_cast<std::size_t>(drawn.iSubItem);
-        if (column >= typed().columns().size()) return CDRF_DODEFAULT;
-        const ColumnKind kind = typed().columns()[column].kind;
-        drawn.clrTextBk = column_color(kind);
-        const bool tinted = kind != ColumnKind::kNone && !high_contrast();
-        drawn.clrText = tinted ? RGB(0, 0, 0) : GetSysColor(COLOR_WINDOWTEXT);
-        return CDRF_DODEFAULT;
-      }
-      default:
-        return CDRF_DODEFAULT;
-    }
+    const DWORD stage = drawn.nmcd.dwDrawStage;
+    // First every row is asked for, then every cell of it; both are wished for by the same value.
+    if (stage == CDDS_PREPAINT || stage == CDDS_ITEMPREPAINT) return CDRF_NOTIFYITEMDRAW;
+    if (stage == (CDDS_ITEMPREPAINT | CDDS_SUBITEM)) tint(drawn);
+    return CDRF_DODEFAULT;
+  }
+
+  void tint(NMLVCUSTOMDRAW& drawn) const {
+    const auto column = static_cast<std::size_t>(drawn.iSubItem);
+    if (column >= typed().columns().size()) return;
+    const ColumnKind kind = typed().columns()[column].kind;
+    drawn.clrTextBk = column_color(kind);
+    const bool tinted = kind != ColumnKind::kNone && !high_contrast();
+    drawn.clrText = tinted ? RGB(0, 0, 0) : GetSysColor(COLOR_WINDOWTEXT);
   }
 
   /// The list is never asked which row is selected: it would look through all of them.

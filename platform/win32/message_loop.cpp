@@ -31,13 +31,14 @@ void MessageLoop::rethrow() {
 }
 
 void MessageLoop::show_changes() {
-  // Showing a change can close a window, so no iterator is held.
-  for (std::size_t i = 0; i < clients_.size(); ++i) clients_[i]->show_changes();
+  for (LoopClient* client : clients_) client->show_changes();
 }
 
 void MessageLoop::settle(bool idle) {
   show_changes();
-  for (std::size_t i = 0; i < clients_.size(); ++i) clients_[i]->settle(idle);
+  // A copy, since a form that gets the focus can open another, which joins the clients.
+  const auto clients = clients_;
+  for (LoopClient* client : clients) client->settle(idle);
 }
 
 void MessageLoop::dispatch(MSG& message) {

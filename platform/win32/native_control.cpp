@@ -32,8 +32,7 @@ void NativeControl::create(HWND parent, int id) {
   const WindowSpec made = spec();
   const bool reached = made.takes_input && control_.tab_index() >= 0;
   const DWORD tab_stop = reached ? WS_TABSTOP : 0;
-  const HMENU number =
-      reinterpret_cast<HMENU>(static_cast<INT_PTR>(id));  // NOLINT: as the API has it
+  auto* const number = from_lparam<HMENU__>(id);
   const DWORD shown = control_.visible() ? WS_VISIBLE : 0;
   const DWORD locked = is_live() ? 0 : WS_DISABLED;
   placed_ = laid_out(control_, form_.dpi(), form_.growth());
@@ -44,7 +43,7 @@ void NativeControl::create(HWND parent, int id) {
   if (window_ == nullptr) raise_fault(kFaultOutOfMemory);
   SetPropW(window_, kProperty, this);
   SetWindowSubclass(window_, &NativeControl::procedure, kSubclass,
-                    reinterpret_cast<DWORD_PTR>(this));  // NOLINT: as the API has it
+                    reinterpret_cast<DWORD_PTR>(this));
   apply_font();
   prepare();
 }
@@ -130,7 +129,7 @@ void NativeControl::place() {
 
 void NativeControl::apply_font() {
   const HFONT font = form_.fonts().plain.get();
-  send(WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);  // NOLINT: messages carry handles
+  send(WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
 }
 
 void NativeControl::set_window_text(std::string_view text) const {

@@ -66,9 +66,7 @@ class NativeTextBox : public PeerOf<TextBox> {
   void show_text() const {
     DWORD start = 0;
     DWORD end = 0;
-    SendMessageW(window(), EM_GETSEL,
-                 reinterpret_cast<WPARAM>(&start),  // NOLINT: as the API has it
-                 as_lparam(&end));
+    SendMessageW(window(), EM_GETSEL, reinterpret_cast<WPARAM>(&start), as_lparam(&end));
     set_window_text(typed().text());
     send(EM_SETSEL, start, static_cast<LPARAM>(end));
   }

@@ -51,7 +51,7 @@ HDDEDATA CALLBACK host_callback(UINT type, UINT format, HCONV, HSZ, HSZ, HDDEDAT
 /// A phone book that connects, watches the item, and listens until told to leave.
 class Host {
  public:
-  Host(MessageLoop& tool, std::string topic, UINT format)
+  Host(MessageLoop& tool, const std::string& topic, UINT format)
       : tool_(tool), thread_([=, this] { run(topic, format); }) {}
   ~Host() { leave(); }
   Host(const Host&) = delete;
