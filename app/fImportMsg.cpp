@@ -33,6 +33,7 @@ void fImportMsg::design() {
   apply_design(*this, kDesign);
   set_place({0, 0, 7200, 3630});
   centre_over(*this, main_);
+  for (Label* shown : {&labMsgNumber, &labMsgIn, &labMsgNew}) shown->set_shows_data(true);
   optAsk(0).choose();
   default_button = &cmdMsg(0);
 }

@@ -1,6 +1,7 @@
 #include "app/app.h"
 #include "app/fMain.h"
 #include "platform/host_link.h"
+#include "support/text.h"
 
 // Which event of which control runs which procedure.
 namespace quenda {
@@ -19,6 +20,10 @@ void fMain::connect() {
     if (!txtImpFile.reachable()) return;
     txtImpFile.set_text("");
     txtImpFile.set_text(path);
+  };
+  on_unusable_path = [this](std::string_view nearest) {
+    app_.message_box(concat(nearest, kCrLf, texts.import_not_available),
+                     MessageStyle::kInformation);
   };
   txtDDE.on_change = [this] { app_.services.host_link.set_text(txtDDE.text()); };
   tmOLcheck.on_timer = [this] { tmOLcheck_Timer(); };
