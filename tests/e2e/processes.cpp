@@ -86,13 +86,24 @@ PhoneBook::PhoneBook(const std::string& tool, std::string_view options) {
 
 PhoneBook::~PhoneBook() {
   process_.kill();
+  stop_ = true;
   reader_.join();
 }
 
 void PhoneBook::read() {
+  // The end of the pipe tells nothing: programs of the system that were started on the way can hold
+  // its other end for as long as they run.
+  constexpr DWORD kPollInterval = 10;  // milliseconds
   std::array<char, 256> bytes{};
-  DWORD count = 0;
-  while (ReadFile(output_.get(), bytes.data(), bytes.size(), &count, nullptr) != 0 && count > 0) {
+  while (!stop_) {
+    DWORD waiting = 0;
+    if (PeekNamedPipe(output_.get(), nullptr, 0, nullptr, &waiting, nullptr) == 0) return;
+    if (waiting == 0) {
+      Sleep(kPollInterval);
+      continue;
+    }
+    DWORD count = 0;
+    if (ReadFile(output_.get(), bytes.data(), bytes.size(), &count, nullptr) == 0) return;
     const std::lock_guard lock(mutex_);
     printed_.append(bytes.data(), count);
   }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <mutex>
 #include <optional>
 #include <string>
@@ -52,6 +53,7 @@ class PhoneBook {
  private:
   void read();
 
+  std::atomic<bool> stop_ = false;
   std::mutex mutex_;
   std::string printed_;
   KernelHandle output_;

@@ -26,7 +26,7 @@ Options& options() {
 
 /// The words on the way through the wizard, in either language.
 struct Words {
-  std::string_view file, next, edit, apply, keep, area_code, message;
+  std::string_view file, next, edit, apply, keep, area_code;
 };
 constexpr Words kGerman = {u8"Datei für den Import"_de, "Weiter",   "Bearbeiten",
                            u8"Übernehmen"_de,           "Erhalten", "Ortsvorwahl"};
