@@ -1,0 +1,1 @@
+#include "tests/settings/modLanguage_test.cpp"  // NOLINT
