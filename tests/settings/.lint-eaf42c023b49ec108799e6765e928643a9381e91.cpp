@@ -1,1 +1,0 @@
-#include "tests/settings/modLanguage_test.cpp"  // NOLINT
