@@ -92,7 +92,7 @@ class FormWindow : public ControlPeer, public LoopClient {
   std::vector<std::unique_ptr<NativeControl>> controls_;
   std::map<const Control*, std::string> keyed_;
   FocusKeeper focus_{*this};
-  bool captions_changed_ = false;
+  bool captions_changed_ = true;
   bool names_changed_ = false;
   std::unique_ptr<SpokenNames> names_;
   bool ready_ = false;
