@@ -46,9 +46,11 @@ class NativeListView : public PeerOf<ListView> {
 
  protected:
   [[nodiscard]] WindowSpec spec() const override {
-    return {WC_LISTVIEWW, true,
-            LVS_REPORT | LVS_OWNERDATA | LVS_SINGLESEL | LVS_SHOWSELALWAYS | LVS_NOSORTHEADER,
-            WS_EX_CLIENTEDGE};
+    DWORD style = LVS_REPORT | LVS_OWNERDATA | LVS_SINGLESEL | LVS_NOSORTHEADER;
+    // Where something can be done with the selected row, it is seen from elsewhere, too; in a mere
+    // preview it would only hide the colours of the columns.
+    if (typed().on_double_click) style |= LVS_SHOWSELALWAYS;
+    return {WC_LISTVIEWW, true, style, WS_EX_CLIENTEDGE};
   }
 
   void prepare() override {
