@@ -31,6 +31,10 @@ class Graphics {
 }  // namespace
 
 bool capture(const Window& window, const std::string& path) {
+  SetCursorPos(1, 1);
+  SendMessageW(window.handle(), WM_NULL, 0, 0);
+  RedrawWindow(window.handle(), nullptr, nullptr,
+               RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN | RDW_FRAME);
   const Graphics graphics;
   const RECT place = window.place();
   const int width = static_cast<int>(place.right - place.left);

@@ -2,9 +2,6 @@
 // Usage: screenshots FOLDER [LANGUAGE [MARK]]; the mark becomes part of the file names.
 #include <gtest/gtest.h>
 
-#include <cstdio>
-#include <map>
-
 #include "platform/win32/text_win32.h"
 #include "support/text.h"
 #include "tests/e2e/capture.h"
@@ -40,12 +37,7 @@ class Screenshots : public WizardTest {
     suite_.set_book("Bergs;03023125701;2;0;5;0;Alt-Moabit 7, 10555 Berlin;;[vcd()vcd]\r\n");
   }
 
-  /// Waits until nothing is drawn any more: two pictures of the same size in a row.
-  void keep(const Window& window, std::string_view name) {
-    SetCursorPos(1, 1);
-    SendMessageW(window.handle(), WM_NULL, 0, 0);
-    RedrawWindow(window.handle(), nullptr, nullptr,
-                 RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN | RDW_FRAME);
+  static void keep(const Window& window, std::string_view name) {
     const std::string file =
         concat(options().folder, "\\", options().language, "_", options().mark, "_", name, ".png");
     EXPECT_TRUE(capture(window, file)) << file;
@@ -91,8 +83,6 @@ TEST_F(Screenshots, EveryPageAndDialog) {
   click(question.find(words_.keep));
   expect_end();
   EXPECT_TRUE(phone_book_->hears("data"));
-  for (const std::string& line : phone_book_->heard())
-    std::printf("the host heard: %s\n", line.c_str());
 }
 
 TEST_F(Screenshots, RefusedStart) {

@@ -30,10 +30,11 @@ constexpr std::string_view kRemembered =
 }  // namespace
 
 SuiteFolder::SuiteFolder() {
+  folder_ = own_.emplace().path();
   for (const char* folder : {"data", "base", "log"}) {
-    std::filesystem::create_directory(folder_.path() / folder);
+    std::filesystem::create_directory(folder_ / folder);
   }
-  std::filesystem::copy_file(QUENDA_IMPORT_EXE, folder_.path() / "Import.exe");
+  std::filesystem::copy_file(QUENDA_IMPORT_EXE, folder_ / "Import.exe");
   write("Quendapaths.ini", "[Paths]\r\nProgramData=0\r\n");
   write("Quendaspec.ini", "[Debug]\r\nTraceMode=0\r\n");
   write("data\\Quenda.ini", "[General]\r\nmyVWL=49\r\nmyVWO=30\r\n");
@@ -55,7 +56,7 @@ void SuiteFolder::remember_columns() const { write("data\\sett_import.ini", kRem
 
 void SuiteFolder::speak(std::string_view language) const {
   for (const auto& file : std::filesystem::directory_iterator(QUENDA_SOURCE_DIR "/base")) {
-    std::filesystem::copy_file(file.path(), folder_.path() / "base" / file.path().filename());
+    std::filesystem::copy_file(file.path(), folder_ / "base" / file.path().filename());
   }
   write("data\\Quenda.ini",
         concat("[General]\r\nmyVWL=49\r\nmyVWO=30\r\nLanguage=", language, "\r\n"));

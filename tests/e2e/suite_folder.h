@@ -1,5 +1,7 @@
 #pragma once
 
+#include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -7,13 +9,18 @@
 
 namespace quenda {
 
-/// The suite in a folder of its own, with the tool, settings, a phone book and a file of contacts.
+/// A suite's folder with the tool in it.
 class SuiteFolder {
  public:
+  /// A folder of its own, with settings, a phone book and a file of contacts.
   SuiteFolder();
+  /// One that is there already, and stays.
+  explicit SuiteFolder(std::filesystem::path folder) : folder_(std::move(folder)) {}
 
-  /// The path of something inside, with blackslashes.
-  [[nodiscard]] std::string path(const std::string& name) const { return folder_.path(name); }
+  /// The path of something inside, with backslashes.
+  [[nodiscard]] std::string path(const std::string& name) const {
+    return folder_.string() + "\\" + name;
+  }
   [[nodiscard]] std::string tool() const { return path("Import.exe"); }
   [[nodiscard]] std::string contacts() const { return path("kontakte.csv"); }
 
@@ -29,7 +36,8 @@ class SuiteFolder {
   void speak(std::string_view language) const;
 
  private:
-  TempFolder folder_;
+  std::optional<TempFolder> own_;
+  std::filesystem::path folder_;
 };
 
 }  // namespace quenda

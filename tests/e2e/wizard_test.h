@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -22,6 +23,8 @@ enum class Page { kSource, kColumns, kNames, kAddresses, kEntries };
 /// A suite, the tool in it, and a user before its window.
 class WizardTest : public testing::Test {
  protected:
+  WizardTest() = default;
+  explicit WizardTest(const std::filesystem::path& suite) : suite_(suite) {}
   ~WizardTest() override;
 
   /// Starts the tool by the phone book's stand-in, waits for "ON" and for the window.
