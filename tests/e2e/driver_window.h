@@ -10,7 +10,7 @@
 namespace quenda {
 
 /// Looks again and again until the condition holds; false when it still does not after the time.
-bool becomes(const std::function<bool()>& condition, int seconds = 10);
+bool becomes(const std::function<bool()>& condition, int seconds = 30);
 
 /// A window or control of the tool, seen from outside. Texts are Windows-1252.
 class Window {

@@ -10,7 +10,7 @@
 namespace quenda {
 namespace {
 
-constexpr DWORD kEndTime = 10'000;  // milliseconds
+constexpr DWORD kEndTime = 30'000;  // milliseconds
 constexpr UINT kKilled = 99;
 
 /// A pipe whose writing end programs inherit.

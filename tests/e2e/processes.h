@@ -26,7 +26,7 @@ class Process {
 
   [[nodiscard]] DWORD id() const { return id_; }
   [[nodiscard]] bool running() const;
-  /// Its exit code, once it has ended; nothing when it still runs after ten seconds.
+  /// Its exit code, once it has ended; nothing when it still runs after half a minute.
   [[nodiscard]] std::optional<DWORD> exit_code() const;
   void kill() const;
 

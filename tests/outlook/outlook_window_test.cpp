@@ -30,15 +30,17 @@ class OutlookWindow : public WizardTest {
     suite_.set_book("");
   }
 
-  [[nodiscard]] bool panel_becomes(int panel, std::string_view text, int seconds = 20) const {
-    return becomes([&] { return panel_of(main_, panel) == text; }, seconds);
+  [[nodiscard]] testing::AssertionResult panel_becomes(int panel, std::string_view text) const {
+    if (becomes([&] { return panel_of(main_, panel) == text; })) return testing::AssertionSuccess();
+    return testing::AssertionFailure()
+           << panel_of(main_, 1) << " | " << panel_of(main_, 2) << " | " << panel_of(main_, 3);
   }
   [[nodiscard]] bool on_outlook_page() const {
     return main_.shows(kOutlook) && button("Mobilfunknummer");
   }
   /// Presses the Outlook button as soon as Outlook has been found.
   void open_outlook() {
-    ASSERT_TRUE(becomes([&] { return button(kOutlook) && button(kOutlook).enabled(); }, 20));
+    ASSERT_TRUE(becomes([&] { return button(kOutlook) && button(kOutlook).enabled(); }));
     click(button(kOutlook));
     EXPECT_TRUE(panel_becomes(1, "Importmode: Outlook"));
   }
