@@ -85,5 +85,12 @@ TEST_F(OutlookBatch, ABusyOutlookIsWaitedFor) {
   EXPECT_THAT(outlook.counted("live"), Each(0));
 }
 
+TEST_F(OutlookBatch, AnOutlookThatIsJustEndingIsAskedAgain) {
+  const OutlookStandIn outlook("contacts=2\nleaves=3");
+  const ConsoleRun done = run("--dry-run");
+  EXPECT_EQ(done.exit_code, 0U) << done.output;
+  EXPECT_THAT(done.output, HasSubstr("Eva Muster1000001"));
+}
+
 }  // namespace
 }  // namespace quenda

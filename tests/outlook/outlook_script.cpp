@@ -66,6 +66,7 @@ OutlookScript read_outlook_script(std::string_view text) {
     if (key == "types" && value == "class") script.types = TypeNews::kClass;
     if (key == "types" && value == "nothing") script.types = TypeNews::kNothing;
     if (key == "refuses") script.refuses = value == "yes";
+    if (key == "leaves") script.leaves = number();
     if (key == "busy_from") script.busy_from = number();
     if (key == "busy_for") script.busy_for = number();
     if (key == "dies_at") script.dies_at = number();

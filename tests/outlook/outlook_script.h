@@ -26,6 +26,7 @@ struct OutlookScript {
   std::vector<ScriptedItem> items;
   TypeNews types = TypeNews::kInterface;
   bool refuses = false;       // no object can be created
+  std::size_t leaves = 0;     // so many creations find the program about to end
   std::size_t busy_from = 0;  // the item, from 1, after which every call is rejected for a while
   DWORD busy_for = 0;         // milliseconds
   std::size_t dies_at = 0;    // the item, from 1, instead of which the program ends
@@ -33,8 +34,8 @@ struct OutlookScript {
   std::string report;         // file that is told how it went
 };
 
-/// Keys: version, types (interface, class, nothing), refuses, busy_from, busy_for, dies_at,
-/// missing, report; `contacts=N` adds N made-up contacts, `list=` a distribution list, `contact=`
+/// Keys: version, types (interface, class, nothing), refuses, leaves, busy_from, busy_for,
+/// dies_at, missing, report; `contacts=N` adds N made-up contacts, `list=` a distribution list, `contact=`
 /// one contact with its properties as "Name=text|Name=text". "\n" in a text is a line break.
 OutlookScript read_outlook_script(std::string_view text);
 

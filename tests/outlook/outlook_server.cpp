@@ -47,6 +47,10 @@ class Outlook final : public IClassFactory {
     *result = nullptr;
     world_.counts.last_change = GetTickCount64();
     if (script_.refuses) return E_ACCESSDENIED;
+    if (script_.leaves > 0) {
+      --script_.leaves;
+      return CO_E_SERVER_STOPPING;
+    }
     auto* const made =
         new ScriptedObject(world_, L"Application",
                            {{L"Version", gives_text(script_.version)},
