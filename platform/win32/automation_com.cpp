@@ -33,9 +33,15 @@ struct AutomationContext {
   /// Makes a call, again while the program called is busy.
   template <class Call>
   HRESULT patiently(Call call) {
-    const ULONGLONG end = GetTickCount64() + kBusyLimit;
+    return repeated(call, means_busy, kBusyLimit);
+  }
+
+  /// Makes a call again for some milliseconds while its result asks for that.
+  template <class Call>
+  HRESULT repeated(Call call, bool (*again)(HRESULT), DWORD limit) {
+    const ULONGLONG end = GetTickCount64() + limit;
     HRESULT result = call();
-    while (means_busy(result) && GetTickCount64() < end) {
+    while (again(result) && GetTickCount64() < end) {
       Sleep(kBusyPause);
       if (pump) pump();
       result = call();
@@ -209,10 +215,12 @@ std::unique_ptr<AutomationObject> ComAutomation::create(std::string_view program
   ComPtr<IDispatch> object;
   const std::wstring name = wide(program_id);
   if (FAILED(CLSIDFromProgID(name.c_str(), &class_id))) raise_fault(kFaultNoComponent);
-  const HRESULT result = context_->patiently([&] {
+  const auto make = [&] {
     return CoCreateInstance(class_id, nullptr, CLSCTX_LOCAL_SERVER | CLSCTX_INPROC_SERVER,
                             IID_IDispatch, object.out_void());
-  });
+  };
+  const HRESULT result =
+      context_->repeated([&] { return context_->patiently(make); }, means_leaving, kLeavingLimit);
   if (FAILED(result) || !object) raise_fault(kFaultNoComponent);
   return std::make_unique<ComObject>(context_, std::move(object));
 }

@@ -40,4 +40,10 @@ bool means_busy(HRESULT result) {
          result == kDialogIsOpen;
 }
 
+bool means_leaving(HRESULT result) {
+  return result == CO_E_SERVER_STOPPING || result == RPC_E_DISCONNECTED ||
+         result == HRESULT_FROM_WIN32(RPC_S_SERVER_UNAVAILABLE) ||
+         result == HRESULT_FROM_WIN32(RPC_S_CALL_FAILED);
+}
+
 }  // namespace quenda

@@ -6,6 +6,9 @@ namespace quenda {
 
 /// How long a program that says it is busy is asked again, in milliseconds.
 inline constexpr DWORD kBusyLimit = 10000;
+/// How long a program that is about to end is asked for again, in milliseconds. Where one has died,
+/// the system may go on offering it, so this is not the time to be patient.
+inline constexpr DWORD kLeavingLimit = 3000;
 
 #ifdef __GNUC__
 // Interfaces of the component system have no virtual destructor; they are never deleted.
@@ -41,5 +44,8 @@ class BusyFilter final : public IMessageFilter {
 
 /// Whether a call's result means that the program called is busy.
 bool means_busy(HRESULT result);
+/// Whether the result of a creation means that the program was found while it was about to end. The
+/// next attempt starts it anew.
+bool means_leaving(HRESULT result);
 
 }  // namespace quenda
