@@ -7,8 +7,8 @@
 
 #include "platform/win32/text_win32.h"
 #include "support/text.h"
-#include "tests/e2e/capture.h"
 #include "tests/e2e/wizard_test.h"
+#include "tests/pictures/capture.h"
 
 namespace quenda {
 namespace {

@@ -1,4 +1,4 @@
-#include "tests/e2e/capture.h"
+#include "tests/pictures/capture.h"
 
 #include <objidl.h>
 // gdiplus.h needs objidl.h first.

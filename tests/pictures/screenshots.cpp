@@ -4,8 +4,9 @@
 
 #include "platform/win32/text_win32.h"
 #include "support/text.h"
-#include "tests/e2e/capture.h"
 #include "tests/e2e/wizard_test.h"
+#include "tests/outlook/outlook_standin.h"
+#include "tests/pictures/capture.h"
 
 namespace quenda {
 namespace {
@@ -23,11 +24,13 @@ Options& options() {
 
 /// The words on the way through the wizard, in either language.
 struct Words {
-  std::string_view file, next, edit, apply, keep, area_code;
+  std::string_view file, next, edit, apply, keep, area_code, outlook;
 };
 constexpr Words kGerman = {u8"Datei für den Import"_de, "Weiter",   "Bearbeiten",
-                           u8"Übernehmen"_de,           "Erhalten", "Ortsvorwahl"};
-constexpr Words kEnglish = {"File to import", "Next", "Edit", "Apply", "Keep", "Area code"};
+                           u8"Übernehmen"_de,           "Erhalten", "Ortsvorwahl",
+                           "Outlook-Kontakte"};
+constexpr Words kEnglish = {"File to import",  "Next", "Edit", "Apply", "Keep", "Area code",
+                            "Outlook contacts"};
 
 class Screenshots : public WizardTest {
  protected:
@@ -83,6 +86,25 @@ TEST_F(Screenshots, EveryPageAndDialog) {
   click(question.find(words_.keep));
   expect_end();
   EXPECT_TRUE(phone_book_->hears("data"));
+}
+
+TEST_F(Screenshots, OutlookPage) {
+  ASSERT_TRUE(may_register_programs()) << "the Outlook of this machine stays as it is";
+  const OutlookStandIn outlook(
+      "version=15.0.0.4420\n"
+      "contact=FirstName=Anna|LastName=Berg|HomeTelephoneNumber=+49 30 23125701|"
+      "MobileTelephoneNumber=0171 3920056|HomeAddressPostalCode=12099|HomeAddressCity=Berlin|"
+      "HomeAddressStreet=Wiesenweg 4\n"
+      "contact=FirstName=Cem|LastName=Kaya|HomeTelephoneNumber=030 23125702\n"
+      "contact=FirstName=Eva|LastName=Lang|BusinessTelephoneNumber=0341 5550144|"
+      "BusinessAddressPostalCode=04109|BusinessAddressCity=Leipzig|"
+      "BusinessAddressStreet=Markt 3\n");
+  start_by_phone_book();
+  click_button(words_.outlook);
+  ASSERT_TRUE(becomes([&] { return button(words_.next).enabled(); }));
+  keep(main_, "9_outlook");
+  press(Key::kEscape);
+  expect_end();
 }
 
 TEST_F(Screenshots, RefusedStart) {
