@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <numeric>
 
 #include "platform/win32/layout.h"
 #include "support/text.h"
@@ -73,6 +74,15 @@ void collect(const ControlHost& form, const Control* frame, std::vector<Control*
   }
 }
 
+std::vector<std::size_t> rare_captions_first(const std::vector<std::string>& captions) {
+  std::vector<std::size_t> positions(captions.size());
+  std::iota(positions.begin(), positions.end(), std::size_t{0});
+  std::stable_partition(positions.begin(), positions.end(), [&](std::size_t position) {
+    return std::count(captions.begin(), captions.end(), captions[position]) == 1;
+  });
+  return positions;
+}
+
 }  // namespace
 
 std::vector<std::string> with_access_keys(const std::vector<std::string>& captions) {
@@ -82,7 +92,8 @@ std::vector<std::string> with_access_keys(const std::vector<std::string>& captio
     if (own != std::string::npos) taken[folded(caption[own])] = true;
   }
   std::vector<std::string> result = captions;
-  for (std::string& caption : result) {
+  for (const std::size_t position : rare_captions_first(captions)) {
+    std::string& caption = result[position];
     if (caption.size() < 2 || own_key(caption) != std::string::npos) continue;
     std::size_t at = free_letter(caption, taken, true);
     if (at == std::string::npos) at = free_letter(caption, taken, false);

@@ -11,7 +11,7 @@ namespace quenda {
 /// Gives every caption a letter by which Alt leads to its control, each letter once: captions with
 /// an "&" before it, in the order given. A caption that has its "&" already keeps it. Beginnings of
 /// words are taken first; when no letter of a caption is free, or it has one character only, it
-/// stays without.
+/// stays without. Captions that repeat, as in the rows of a table, take what the others leave.
 std::vector<std::string> with_access_keys(const std::vector<std::string>& captions);
 
 /// The visible controls of a form that a letter can lead to: those with a caption of their own, and

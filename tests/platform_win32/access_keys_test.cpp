@@ -30,6 +30,11 @@ TEST(AccessKeys, UmlautsCountWithoutRegardToCaseAndSignsNeverDo) {
               ElementsAre("&" + accept, std::string(u8"ü1"_de), "1", "2 4"));
 }
 
+TEST(AccessKeys, CaptionsThatRepeatTakeWhatTheOthersLeave) {
+  EXPECT_THAT(with_access_keys({"Adr", "Adr", "Ad", "Ra"}),
+              ElementsAre("A&dr", "Adr", "&Ad", "&Ra"));
+}
+
 TEST(AccessKeys, ButtonsOfTheFormComeFirstAndHiddenPagesNotAtAll) {
   Form form("fTest");
   Frame page(form, "page");
