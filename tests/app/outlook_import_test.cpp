@@ -41,6 +41,7 @@ TEST_F(OutlookImport, RunsToTheBookAndBackAgain) {
   form->cmdOutlook.take_user_click();
   EXPECT_EQ(form->StatusBar.panel(1), "Importmode: Outlook");
   EXPECT_TRUE(form->frmImpOL.visible());
+  EXPECT_FALSE(form->frmImp(0).visible()) << "keys would lead to what cannot be seen";
   EXPECT_EQ(form->lstImport.count(), 3U);
   EXPECT_EQ(form->StatusBar.panel(3), u8"3 Einträge zum Import"_de);
   form->chkImport(7).take_user_click();
@@ -56,6 +57,7 @@ TEST_F(OutlookImport, RunsToTheBookAndBackAgain) {
                            "Muster Udo zuhause|0307654321|Weg 1, 12345 Berlin"}));
   back();
   EXPECT_TRUE(form->frmImpOL.visible());
+  EXPECT_FALSE(form->frmImp(0).visible());
   EXPECT_TRUE(form->cmdFor.enabled());
   EXPECT_EQ(form->cmdFor.caption(), "Weiter");
   forward();
