@@ -257,6 +257,7 @@ class fMain : public Form {
   std::array<Control*, 4> source_controls();
   void return_to_source();
   [[nodiscard]] bool outlook_importable() const;
+  void hide_pages();
   void show_outlook_page();
   void run_page_work(PageWork work);
   void enter_file_entries();

@@ -52,7 +52,9 @@ void fMain::cmdOutlook_Click() {
   });
 }
 
+/// In place of the wizard's page, not only before it: keys must not lead to what is covered.
 void fMain::show_outlook_page() {
+  hide_pages();
   frmImpOL.set_enabled(true);
   frmImpOL.set_visible(true);
   frmImpOL.bring_to_front();

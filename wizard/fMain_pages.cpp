@@ -10,15 +10,19 @@
 
 namespace quenda {
 
+void fMain::hide_pages() {
+  const auto hide = [](Frame& frame) {
+    frame.move_to(0, 0);
+    frame.set_enabled(false);
+    frame.set_visible(false);
+  };
+  for (const auto& frame : frmImp) hide(*frame);
+  hide(frmImpOL);
+}
+
 void fMain::ShowSite(bool hide_only) {
   procedure(app_.errors, "fMain.ShowSite", {hide_only}, [&] {
-    const auto hide = [](Frame& frame) {
-      frame.move_to(0, 0);
-      frame.set_enabled(false);
-      frame.set_visible(false);
-    };
-    for (const auto& frame : frmImp) hide(*frame);
-    hide(frmImpOL);
+    hide_pages();
     if (hide_only || wizard.CurrentPage > kEntryPage) return;
     if (wizard.CurrentPage < kFirstPage) wizard.CurrentPage = kFirstPage;
     Frame& page = frmImp(wizard.CurrentPage);

@@ -57,7 +57,7 @@ TEST_F(OutlookImport, RunsToTheBookAndBackAgain) {
                            "Muster Udo zuhause|0307654321|Weg 1, 12345 Berlin"}));
   back();
   EXPECT_TRUE(form->frmImpOL.visible());
-  EXPECT_FALSE(form->frmImp(0).visible());
+  EXPECT_FALSE(form->frmImp(4).visible());
   EXPECT_TRUE(form->cmdFor.enabled());
   EXPECT_EQ(form->cmdFor.caption(), "Weiter");
   forward();
