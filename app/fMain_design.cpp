@@ -140,10 +140,10 @@ constexpr DesignEntry kOutlookHead[] = {
     {"labImport", 0, "frmImpOL", -1, {0, 0, 2400, 255}, -1, "Import_Label_Contacts"},
     {"labImport", 1, "frmImpOL", -1, {2460, 0, 1500, 255}, -1, "Import_Label_NameExt"},
     {"labImport", 2, "frmImpOL", -1, {4020, 0, 1560, 255}, -1, "Import_Label_AddressAlloc"},
-    {"labPreview", -1, "frmImpOL", -1, {5700, 0, 4740, 255}, 150, "Import_Label_PreviewData"},
-    {"lstImport", -1, "frmImpOL", -1, {5700, 285, 4740, 5115}, 151, ""},
-    {"chkFlipName", -1, "frmImpOL", -1, {0, 4680, 5580, 300}, 148, "Import_ChkBox_FlipName"},
-    {"chkFlipAdress", -1, "frmImpOL", -1, {0, 5010, 5580, 300}, 149, "Import_ChkBox_FlipAddress"},
+    {"labPreview", -1, "frmImpOL", -1, {5700, 0, 4740, 255}, 162, "Import_Label_PreviewData"},
+    {"lstImport", -1, "frmImpOL", -1, {5700, 285, 4740, 5115}, 163, ""},
+    {"chkFlipName", -1, "frmImpOL", -1, {0, 4680, 5580, 300}, 160, "Import_ChkBox_FlipName"},
+    {"chkFlipAdress", -1, "frmImpOL", -1, {0, 5010, 5580, 300}, 161, "Import_ChkBox_FlipAddress"},
 };
 
 constexpr std::span<const DesignEntry> kDesign[] = {

@@ -3,7 +3,6 @@
 #include <map>
 #include <string>
 
-#include "support/text.h"
 #include "tests/shared/wizard_fixture.h"
 
 // What a keyboard user meets: the way of the Tab key through the window.
