@@ -22,13 +22,13 @@ class NativeLabel : public PeerOf<Label> {
   void apply_font() override {
     if (!typed().heading()) return NativeControl::apply_font();
     const HFONT font = form().fonts().heading.get();
-    send(WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
+    send(WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
   }
 
  protected:
   [[nodiscard]] WindowSpec spec() const override {
     const DWORD prefix = typed().shows_data() ? SS_NOPREFIX : 0;
-    return {WC_STATICW, false, SS_LEFT | prefix};
+    return {WC_STATICW, false, SS_LEFT | prefix, 0, form().keyed_caption(typed())};
   }
   void show(Aspect aspect) override {
     if (aspect == Aspect::kCaption) set_window_text(form().keyed_caption(typed()));
@@ -45,7 +45,8 @@ class NativeFrame : public PeerOf<Frame> {
   [[nodiscard]] WindowSpec spec() const override {
     constexpr DWORD kParent = WS_CLIPCHILDREN | WS_CLIPSIBLINGS;
     if (typed().caption().empty()) return {kPanelClass, false, kParent, WS_EX_CONTROLPARENT};
-    return {WC_BUTTONW, false, BS_GROUPBOX | kParent, WS_EX_CONTROLPARENT};
+    return {WC_BUTTONW, false, BS_GROUPBOX | kParent, WS_EX_CONTROLPARENT,
+            without_access_key(typed().caption())};
   }
   void show(Aspect aspect) override {
     if (aspect == Aspect::kCaption) set_window_text(without_access_key(typed().caption()));
@@ -75,7 +76,7 @@ class NativeButton : public PeerOf<Button> {
   [[nodiscard]] WindowSpec spec() const override {
     const bool usual = form().form().default_button == &typed();
     const DWORD style = usual ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON;
-    return {WC_BUTTONW, true, style};
+    return {WC_BUTTONW, true, style, 0, form().keyed_caption(typed())};
   }
   void show(Aspect aspect) override {
     if (aspect == Aspect::kCaption) set_window_text(form().keyed_caption(typed()));
@@ -93,7 +94,7 @@ class NativeCheckBox : public PeerOf<CheckBox> {
 
  protected:
   [[nodiscard]] WindowSpec spec() const override {
-    return {WC_BUTTONW, true, BS_CHECKBOX | BS_MULTILINE};
+    return {WC_BUTTONW, true, BS_CHECKBOX | BS_MULTILINE, 0, form().keyed_caption(typed())};
   }
   void show(Aspect aspect) override {
     if (aspect == Aspect::kCaption) set_window_text(form().keyed_caption(typed()));
@@ -112,7 +113,8 @@ class NativeOptionButton : public PeerOf<OptionButton> {
 
  protected:
   [[nodiscard]] WindowSpec spec() const override {
-    return {WC_BUTTONW, true, BS_AUTORADIOBUTTON | BS_MULTILINE};
+    return {WC_BUTTONW, true, BS_AUTORADIOBUTTON | BS_MULTILINE, 0,
+            form().keyed_caption(typed())};
   }
   void show(Aspect aspect) override {
     if (aspect == Aspect::kCaption) set_window_text(form().keyed_caption(typed()));

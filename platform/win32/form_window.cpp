@@ -47,6 +47,7 @@ FormWindow::FormWindow(MessageLoop& loop, Form& form, HWND owner)
                                            &FormWindow::procedure, as_lparam(this)));
   if (!window_) raise_fault(kFaultOutOfMemory);
   place_window();
+  give_access_keys();
   create_controls(window(), nullptr);
   if (form_.default_button != nullptr) {
     if (const NativeControl* usual = peer_of(*form_.default_button)) {
@@ -71,19 +72,14 @@ FormWindow::~FormWindow() {
 
 void FormWindow::create_controls(HWND parent, const Control* frame) {
   const auto& all = form_.controls();
-  bool in_group = false;
   const Control* before = nullptr;
   for (Control* control : in_tab_order(form_, frame)) {
     auto native = make_native_control(*this, *control);
     const auto position = std::find(all.begin(), all.end(), control) - all.begin();
-    native->create(parent, kFirstId + static_cast<int>(position));
     // Arrow keys go round among the options of one array.
-    in_group = before != nullptr && control->kind() == ControlKind::kOptionButton &&
-               before->kind() == control->kind() && before->name() == control->name();
-    if (!in_group) {
-      const LONG_PTR style = GetWindowLongPtrW(native->window(), GWL_STYLE);
-      SetWindowLongPtrW(native->window(), GWL_STYLE, style | WS_GROUP);
-    }
+    const bool in_group = before != nullptr && control->kind() == ControlKind::kOptionButton &&
+                          before->kind() == control->kind() && before->name() == control->name();
+    native->create(parent, kFirstId + static_cast<int>(position), !in_group);
     before = control;
     control->attach(native.get());
     native->note_all();
@@ -106,6 +102,11 @@ void FormWindow::page_shown(NativeControl& frame) {
 
 NativeControl* FormWindow::peer_of(const Control& control) {
   return static_cast<NativeControl*>(control.peer());
+}
+
+NativeControl* FormWindow::peer_of(HWND window) const {
+  NativeControl* const native = peer_of(GetDlgCtrlID(window));
+  return native != nullptr && native->window() == window ? native : nullptr;
 }
 
 NativeControl* FormWindow::peer_of(int id) const {
@@ -225,7 +226,7 @@ void FormWindow::close() {
 }
 
 void FormWindow::on_command(UINT code, int id, HWND control) {
-  if (NativeControl* native = NativeControl::of(control)) return native->on_command(code);
+  if (NativeControl* native = peer_of(control)) return native->on_command(code);
   if (id == IDCANCEL) {
     if (form_.cancel_button != nullptr) form_.cancel_button->take_user_click();
   } else if (id == IDOK) {
@@ -235,8 +236,8 @@ void FormWindow::on_command(UINT code, int id, HWND control) {
   }
 }
 
-INT_PTR FormWindow::color(WPARAM dc, HWND control) {
-  const NativeControl* const native = NativeControl::of(control);
+INT_PTR FormWindow::color(WPARAM dc, HWND control) const {
+  const NativeControl* const native = peer_of(control);
   if (native == nullptr) return FALSE;
   const int color = system_color_behind(native->control());
   auto* const surface = from_lparam<HDC__>(static_cast<LPARAM>(dc));
@@ -256,7 +257,7 @@ INT_PTR FormWindow::on_message(UINT message, WPARAM wparam, LPARAM lparam) {
       return TRUE;
     case WM_NOTIFY: {
       auto& notice = *from_lparam<NMHDR>(lparam);
-      NativeControl* const native = NativeControl::of(notice.hwndFrom);
+      NativeControl* const native = peer_of(notice.hwndFrom);
       return native == nullptr ? FALSE : answer(native->on_notify(notice));
     }
     case WM_CTLCOLOREDIT:

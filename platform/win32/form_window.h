@@ -59,11 +59,13 @@ class FormWindow : public ControlPeer, public LoopClient {
   /// is shown: making all of them would double the time until the window is there.
   void create_controls(HWND parent, const Control* frame);
   [[nodiscard]] NativeControl* peer_of(int id) const;
+  /// That of a window; null for a window that is no control of this form.
+  [[nodiscard]] NativeControl* peer_of(HWND window) const;
 
   INT_PTR on_message(UINT message, WPARAM wparam, LPARAM lparam);
   INT_PTR answer(LRESULT result) const;
   void on_command(UINT code, int id, HWND control);
-  static INT_PTR color(WPARAM dc, HWND control);
+  [[nodiscard]] INT_PTR color(WPARAM dc, HWND control) const;
   void on_dpi(int dpi, const RECT& place);
   void on_size();
   void on_move();

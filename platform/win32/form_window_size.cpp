@@ -41,6 +41,7 @@ void FormWindow::use_dpi(int dpi) {
     control->apply_font();
     control->refresh(Aspect::kPlace);
   }
+  RedrawWindow(window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
   big_icon_ = load_icon(SM_CXICON, SM_CYICON, dpi);
   small_icon_ = load_icon(SM_CXSMICON, SM_CYSMICON, dpi);
   SendMessageW(window(), WM_SETICON, ICON_BIG, as_lparam(big_icon_.get()));

@@ -9,10 +9,6 @@
 namespace quenda {
 namespace {
 
-constexpr UINT_PTR kSubclass = 1;
-/// The property by which a window leads back to its control.
-constexpr const wchar_t* kProperty = L"Quenda.Control";
-
 constexpr unsigned bit(Aspect aspect) { return 1U << static_cast<unsigned>(aspect); }
 
 /// In this order, so that entries are there before they are selected.
@@ -24,32 +20,32 @@ constexpr Aspect kShown[] = {Aspect::kPlace, Aspect::kCaption, Aspect::kText,   
 
 NativeControl::~NativeControl() {
   if (window_ == nullptr) return;
-  RemovePropW(window_, kProperty);
-  RemoveWindowSubclass(window_, &NativeControl::procedure, kSubclass);
+  SetWindowLongPtrW(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(system_procedure_));
+  SetWindowLongPtrW(window_, GWLP_USERDATA, 0);
 }
 
-void NativeControl::create(HWND parent, int id) {
+void NativeControl::create(HWND parent, int id, bool begins_group) {
   const WindowSpec made = spec();
   const bool reached = made.takes_input && control_.tab_index() >= 0;
   const DWORD tab_stop = reached ? WS_TABSTOP : 0;
   auto* const number = from_lparam<HMENU__>(id);
   const DWORD shown = control_.visible() ? WS_VISIBLE : 0;
   const DWORD locked = is_live() ? 0 : WS_DISABLED;
+  const DWORD group = begins_group ? WS_GROUP : 0;
   placed_ = laid_out(control_, form_.dpi(), form_.growth());
-  window_ = CreateWindowExW(made.extended, made.window_class, L"",
-                            WS_CHILD | made.style | tab_stop | shown | locked, placed_.left,
+  // Text and state go in here: to change them afterwards would cost as much as the window itself.
+  window_ = CreateWindowExW(made.extended, made.window_class, wide(made.text).c_str(),
+                            WS_CHILD | made.style | tab_stop | group | shown | locked, placed_.left,
                             placed_.top, placed_.width, placed_.height, parent, number,
                             GetModuleHandleW(nullptr), nullptr);
   if (window_ == nullptr) raise_fault(kFaultOutOfMemory);
-  SetPropW(window_, kProperty, this);
-  SetWindowSubclass(window_, &NativeControl::procedure, kSubclass,
-                    reinterpret_cast<DWORD_PTR>(this));
+  // By the window's own words: the subclassing of the common controls looks its data up twice for
+  // every message, which takes longer than all the rest of making a window.
+  SetWindowLongPtrW(window_, GWLP_USERDATA, as_lparam(this));
+  system_procedure_ = reinterpret_cast<WNDPROC>(SetWindowLongPtrW(
+      window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&NativeControl::procedure)));
   apply_font();
   prepare();
-}
-
-NativeControl* NativeControl::of(HWND window) {
-  return window == nullptr ? nullptr : static_cast<NativeControl*>(GetPropW(window, kProperty));
 }
 
 void NativeControl::refresh(Aspect aspect) {
@@ -67,7 +63,9 @@ void NativeControl::refresh(Aspect aspect) {
 }
 
 void NativeControl::note_all() {
-  for (const Aspect aspect : kShown) noted_ |= bit(aspect);
+  for (const Aspect aspect : kShown) {
+    if (aspect != Aspect::kColour) noted_ |= bit(aspect);
+  }
 }
 
 void NativeControl::show_changes() {
@@ -129,7 +127,7 @@ void NativeControl::place() {
 
 void NativeControl::apply_font() {
   const HFONT font = form_.fonts().plain.get();
-  send(WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
+  send(WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
 }
 
 void NativeControl::set_window_text(std::string_view text) const {
@@ -137,26 +135,31 @@ void NativeControl::set_window_text(std::string_view text) const {
   if (window_text(window_) != shown) SetWindowTextW(window_, shown.c_str());
 }
 
-LRESULT CALLBACK NativeControl::procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam,
-                                          UINT_PTR /*id*/, DWORD_PTR self) noexcept {
-  auto& native = *from_lparam<NativeControl>(static_cast<LPARAM>(self));
+LRESULT CALLBACK NativeControl::procedure(HWND window, UINT message, WPARAM wparam,
+                                          LPARAM lparam) noexcept {
+  auto* const self = from_lparam<NativeControl>(GetWindowLongPtrW(window, GWLP_USERDATA));
+  return self == nullptr ? DefWindowProcW(window, message, wparam, lparam)
+                         : self->handle(message, wparam, lparam);
+}
+
+LRESULT NativeControl::handle(UINT message, WPARAM wparam, LPARAM lparam) noexcept {
   struct Answer {
     bool taken = false;
     LRESULT result = 0;
   };
-  MessageLoop& loop = native.form_.loop();
+  MessageLoop& loop = form_.loop();
   const auto answer = loop.at_edge(
       [&] {
         Answer given;
-        given.taken = native.on_message(message, wparam, lparam, given.result);
+        given.taken = on_message(message, wparam, lparam, given.result);
         return given;
       },
       Answer{});
   if (answer.taken) return answer.result;
-  const LRESULT result = DefSubclassProc(window, message, wparam, lparam);
+  const LRESULT result = CallWindowProcW(system_procedure_, window_, message, wparam, lparam);
   if (message == WM_SETFOCUS) {
-    native.form_.focus().took(native);
-    if (!native.muted_) loop.at_edge([&] { native.control_.take_user_focus(); });
+    form_.focus().took(*this);
+    if (!muted_) loop.at_edge([&] { control_.take_user_focus(); });
   }
   return result;
 }

@@ -40,13 +40,13 @@ class NativeControl : public ControlPeer {
   void refresh(Aspect aspect) override;
   /// Shows everything that has been noted.
   void show_changes();
-  /// Notes everything, as for a window that has just been made.
+  /// Notes everything that a window which has just been made does not show by itself.
   void note_all();
 
   [[nodiscard]] Control& control() const { return control_; }
   [[nodiscard]] HWND window() const { return window_; }
-  /// Makes the native window inside its parent.
-  void create(HWND parent, int id);
+  /// Makes the native window inside its parent. Arrow keys go round within a group.
+  void create(HWND parent, int id, bool begins_group);
   /// Moves the window to where the control lies at the form's DPI and size.
   virtual void place();
   /// The font, after the DPI or the user's settings changed.
@@ -56,15 +56,13 @@ class NativeControl : public ControlPeer {
   virtual void on_command(UINT /*code*/) {}
   virtual LRESULT on_notify(NMHDR& /*notice*/) { return 0; }
 
-  /// The native control of a window; null for a window that is none.
-  static NativeControl* of(HWND window);
-
  protected:
   struct WindowSpec {
     const wchar_t* window_class;
     bool takes_input;
     DWORD style;
     DWORD extended = 0;
+    std::string text = {};
   };
 
   [[nodiscard]] virtual WindowSpec spec() const = 0;
@@ -90,12 +88,14 @@ class NativeControl : public ControlPeer {
   /// Whether the window is to be an enabled one. What only shows something stays as it is while the
   /// form is locked for work; greying it would make the whole window flicker.
   [[nodiscard]] bool is_live() const;
-  static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam,
-                                    UINT_PTR id, DWORD_PTR self) noexcept;
+  static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wparam,
+                                    LPARAM lparam) noexcept;
+  LRESULT handle(UINT message, WPARAM wparam, LPARAM lparam) noexcept;
 
   FormWindow& form_;
   Control& control_;
   HWND window_ = nullptr;
+  WNDPROC system_procedure_ = nullptr;
   Pixels placed_;
   unsigned noted_ = 0;
   bool muted_ = false;

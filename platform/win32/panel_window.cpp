@@ -18,6 +18,8 @@ void register_class(const wchar_t* name, WNDPROC procedure, int extra) {
 }  // namespace
 
 void register_window_classes() {
+  const INITCOMMONCONTROLSEX used{sizeof used, ICC_STANDARD_CLASSES | ICC_WIN95_CLASSES};
+  InitCommonControlsEx(&used);
   register_class(kPanelClass, &DefWindowProcW, 0);
   register_class(kPictureClass, &DefWindowProcW, 0);
   register_class(kFormClass, &DefDlgProcW, DLGWINDOWEXTRA);

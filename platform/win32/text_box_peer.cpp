@@ -24,7 +24,8 @@ class NativeTextBox : public PeerOf<TextBox> {
 
  protected:
   [[nodiscard]] WindowSpec spec() const override {
-    return {WC_EDITW, true, ES_AUTOHSCROLL, WS_EX_CLIENTEDGE};
+    const DWORD locked = typed().locked() ? ES_READONLY : 0;
+    return {WC_EDITW, true, ES_AUTOHSCROLL | locked, WS_EX_CLIENTEDGE, typed().text()};
   }
 
   void show(Aspect aspect) override {
@@ -37,7 +38,7 @@ class NativeTextBox : public PeerOf<TextBox> {
              typed().selection_start() + typed().selection_length());
         break;
       case Aspect::kEnabled:
-        send(EM_SETREADONLY, typed().locked() ? TRUE : FALSE);
+        show_locked();
         break;
       default:
         break;
@@ -62,8 +63,14 @@ class NativeTextBox : public PeerOf<TextBox> {
   }
 
  private:
+  void show_locked() const {
+    const bool shown = (GetWindowLongPtrW(window(), GWL_STYLE) & ES_READONLY) != 0;
+    if (shown != typed().locked()) send(EM_SETREADONLY, typed().locked() ? TRUE : FALSE);
+  }
+
   /// The place of the caret is kept, for a text that is corrected while the user types it.
   void show_text() const {
+    if (window_text(window()) == wide(typed().text())) return;
     DWORD start = 0;
     DWORD end = 0;
     SendMessageW(window(), EM_GETSEL, reinterpret_cast<WPARAM>(&start), as_lparam(&end));
