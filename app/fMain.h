@@ -146,6 +146,8 @@ class fMain : public Form {
   /// One record, line or entry of a long loop is done: shows the progress, handles what the user
   /// does meanwhile, and ends the program when the user wants that.
   void step(std::size_t done, std::size_t total);
+  /// The same in work that shows no progress.
+  void answer_events();
 
   // Values that forms and programs share.
   ImportSource source;

@@ -142,6 +142,10 @@ void fMain::step(std::size_t done, std::size_t total) {
   if (++steps_ % kStepsPerLook != 0 && done < total) return;
   modProgress_Show(PicProgress, static_cast<std::int64_t>(done), 1,
                    static_cast<std::int64_t>(total));
+  answer_events();
+}
+
+void fMain::answer_events() {
   app_.services.events.yield();
   if (wizard.abort) throw EndProgram();
 }

@@ -99,7 +99,9 @@ void print(const char* what, const std::vector<Start> (&starts)[2], double Start
   std::printf("%-28s %9.1f %9.1f %8.2f   %s\n", what, empty, tool, tool / empty, wanted);
 }
 
-std::wstring widened(const char* text) { return {text, text + std::char_traits<char>::length(text)}; }
+std::wstring widened(const char* text) {
+  return {text, text + std::char_traits<char>::length(text)};
+}
 
 }  // namespace
 
@@ -108,9 +110,8 @@ int main(int argc, char** argv) {
     std::fputs("usage: window_start EMPTY.exe IMPORT.exe [ROUNDS]\n", stderr);
     return 2;
   }
-  const Program programs[2] = {
-      {"empty window", L"\"" + widened(argv[1]) + L"\"", L"Empty window"},
-      {"tool", L"\"" + widened(argv[2]) + L"\" /i", L"Quenda - Import"}};
+  const Program programs[2] = {{"empty window", L"\"" + widened(argv[1]) + L"\"", L"Empty window"},
+                               {"tool", L"\"" + widened(argv[2]) + L"\" /i", L"Quenda - Import"}};
   const int rounds = argc > 3 ? std::atoi(argv[3]) : 25;
   std::vector<Start> starts[2];
   for (int round = -1; round < rounds; ++round) {

@@ -41,7 +41,7 @@ void fMain::PreviewEntries() {
                                   preview.cell(row, kEntryAddress)));
       step(row + 1, preview.rows());
     }
-    remove_repeated_lines(entry_lines_);
+    remove_repeated_lines(entry_lines_, [this] { answer_events(); });
     ListUpdate();
   });
 }

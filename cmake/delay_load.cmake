@@ -6,7 +6,8 @@ function(quenda_delay_load target library)
     target_link_options(${target} PUBLIC /DELAYLOAD:${library}.dll)
     return()
   endif()
-  # The cross compiler's linker has no option for it; its import libraries have.
+  # The cross compiler's linker has no option for it; its import libraries have. Their first call
+  # loses floating point arguments: no function that takes some may be among them.
   set(folder ${CMAKE_BINARY_DIR}/delayed)
   list(JOIN ARGN "\n" functions)
   file(CONFIGURE OUTPUT ${folder}/${library}.def

@@ -13,6 +13,7 @@ namespace {
 
 constexpr char kQuote = '"';
 constexpr std::size_t kStepBytes = 64UL * 1024;
+constexpr std::size_t kPauseBytes = 1024UL * 1024;
 
 /// Builds the records inside the buffer that holds the text: what is written never overtakes what
 /// is read.
@@ -190,21 +191,25 @@ RecordTable split_lines(std::shared_ptr<const std::string> text) {
   return {std::move(text), std::move(starts), kCrLf.size()};
 }
 
-void remove_doubled_quotes(std::string& text) {
+void remove_doubled_quotes(std::string& text, const std::function<void()>& pause) {
   constexpr std::string_view kPair = "\"\"";
-  auto at = text.find(kPair);
-  if (at == std::string::npos) return;
-  std::size_t written = at;
-  while (at != std::string::npos) {
-    const std::size_t from = at + kPair.size();
-    at = text.find(kPair, from);
-    const std::size_t until = std::min(at, text.size());
-    std::copy(text.begin() + static_cast<std::ptrdiff_t>(from),
-              text.begin() + static_cast<std::ptrdiff_t>(until),
-              text.begin() + static_cast<std::ptrdiff_t>(written));
-    written += until - from;
+  // What is written never overtakes what is read, so the view stays true where it is still read.
+  const std::string_view all = text;
+  char* to = text.data();
+  for (std::size_t read = 0; read < all.size();) {
+    pause();
+    const std::size_t until = std::min(all.size(), read + kPauseBytes);
+    // A pair can begin with the last character of a block.
+    const std::string_view seen = all.substr(0, until + 1);
+    while (read < until) {
+      const std::size_t at = std::min(seen.find(kPair, read), until);
+      const char* const from = all.data() + read;
+      // Up to the first pair everything stays where it is.
+      to = to == from ? to + (at - read) : std::copy(from, all.data() + at, to);
+      read = at < until ? at + kPair.size() : at;
+    }
   }
-  text.resize(written);
+  text.resize(static_cast<std::size_t>(to - text.data()));
 }
 
 RecordTable build_records(std::string text, char delimiter, const OnStep& on_step) {

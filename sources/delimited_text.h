@@ -40,8 +40,9 @@ bool delimiter_acceptable(const DelimiterCounts& counts, int delimiter);
 RecordTable split_lines(std::shared_ptr<const std::string> text);
 
 /// Takes every pair of adjacent double quotes out, in place: an escaped quote inside a quoted field
-/// disappears, and an empty quoted field becomes an empty field.
-void remove_doubled_quotes(std::string& text);
+/// disappears, and an empty quoted field becomes an empty field. `pause` is called every megabyte.
+void remove_doubled_quotes(
+    std::string& text, const std::function<void()>& pause = [] {});
 
 /// Cuts a text without doubled quotes into records. Inside quotes that follow a delimiter, line
 /// breaks become blanks and delimiters "|"; a quote that opens the first field of a line protects

@@ -107,7 +107,7 @@ void fMain::CSVclean() {
     // The records are built in the memory of the text itself, which is not needed after that.
     source.ImportRows = RecordTable();
     std::string text = std::move(*source.ImportText);
-    remove_doubled_quotes(text);
+    remove_doubled_quotes(text, [this] { answer_events(); });
     source.ImportRows = build_records(std::move(text), source.Delimiter.front(), busy.on_step());
   });
 }

@@ -43,7 +43,7 @@ void fMain::ISpyImport() {
       }
     }
     StatusBar.set_panel(2, texts.erase_multiple);
-    remove_repeated_lines(entry_lines_);
+    remove_repeated_lines(entry_lines_, [this] { answer_events(); });
     StatusBar.set_panel(2, texts.items_recycle);
     FlatTable rows(kEntryColumns);
     for (std::size_t i = 0; i < entry_lines_.size(); ++i) {

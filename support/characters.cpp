@@ -92,14 +92,19 @@ std::int16_t filter_key(std::int16_t code, std::string_view mode) {
   return code;
 }
 
-void remove_repeated_lines(TextRows& lines) {
+void remove_repeated_lines(TextRows& lines, const std::function<void()>& pause) {
   constexpr std::size_t kAhead = 12;
+  constexpr std::size_t kLinesPerPause = 4096;
   std::vector<std::uint64_t> hashes(lines.size());
-  for (std::size_t i = 0; i < hashes.size(); ++i) hashes[i] = hash_of(lines[i]);
+  for (std::size_t i = 0; i < hashes.size(); ++i) {
+    if (i % kLinesPerPause == 0) pause();
+    hashes[i] = hash_of(lines[i]);
+  }
   ViewIndex kept(lines.size());
   const auto kept_line = [&](std::uint32_t row) { return lines[row]; };
   std::size_t at = 0;
   lines.keep_rows([&](std::string_view line, std::size_t position) {
+    if (at % kLinesPerPause == 0) pause();
     if (at + kAhead < hashes.size()) kept.announce(hashes[at + kAhead]);
     const std::uint64_t hash = hashes[at++];
     return !line.empty() && kept.find_or_add(line, hash, static_cast<std::uint32_t>(position),

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -24,6 +25,8 @@ std::size_t count_occurrences(std::string_view text, std::string_view part);
 std::int16_t filter_key(std::int16_t code, std::string_view mode);
 
 /// Drops empty lines and lines that are there already, letter for letter. The first one stays.
-void remove_repeated_lines(TextRows& lines);
+/// `pause` is called every few thousand lines.
+void remove_repeated_lines(
+    TextRows& lines, const std::function<void()>& pause = [] {});
 
 }  // namespace quenda

@@ -160,7 +160,7 @@ bool fMain::Scramble() {
       step(record + 1, count);
     }
     StatusBar.set_panel(2, texts.erase_multiple);
-    remove_repeated_lines(entry_lines_);
+    remove_repeated_lines(entry_lines_, [this] { answer_events(); });
     ListUpdate();
     StatusBar.set_panel(2, "");
   });

@@ -141,6 +141,20 @@ TEST(BuildRecords, AgreesWithTheSlowRuleOnRandomTexts) {
   }
 }
 
+TEST(RemoveDoubledQuotes, SeesPairsWhereBlocksOfALargeTextMeet) {
+  constexpr std::size_t kMegabyte = 1024UL * 1024;
+  for (std::size_t at = kMegabyte - 3; at <= kMegabyte + 1; ++at) {
+    std::string text(2 * kMegabyte + 1, 'x');
+    text.replace(at, 3, "\"\"\"");
+    text[5] = text[6] = '"';
+    int pauses = 0;
+    remove_doubled_quotes(text, [&] { ++pauses; });
+    EXPECT_EQ(text.size(), 2 * kMegabyte - 3) << at;
+    EXPECT_EQ(text.find('"'), at - 2) << at;
+    EXPECT_GE(pauses, 2);
+  }
+}
+
 TEST(Delimiter, IsTheOneThatOccursMoreOftenThanEachOther) {
   EXPECT_EQ(choose_delimiter(count_delimiters("a;b;c,d")), 0);
   EXPECT_EQ(choose_delimiter(count_delimiters("a,b,c;d")), 1);
