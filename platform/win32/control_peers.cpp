@@ -113,8 +113,7 @@ class NativeOptionButton : public PeerOf<OptionButton> {
 
  protected:
   [[nodiscard]] WindowSpec spec() const override {
-    return {WC_BUTTONW, true, BS_AUTORADIOBUTTON | BS_MULTILINE, 0,
-            form().keyed_caption(typed())};
+    return {WC_BUTTONW, true, BS_AUTORADIOBUTTON | BS_MULTILINE, 0, form().keyed_caption(typed())};
   }
   void show(Aspect aspect) override {
     if (aspect == Aspect::kCaption) set_window_text(form().keyed_caption(typed()));
