@@ -89,7 +89,10 @@ void fMain::ChangeItem() {
   procedure(app_.errors, "fMain.ChangeItem", {}, [&] {
     if (edited.row == kNoRow) return;
     const auto row = static_cast<std::size_t>(edited.row);
-    edited.number = fCleanNumbers(edited.number);
+    // What is pasted has not passed the key filters; a ";" would shift the fields of the book's
+    // line.
+    for (std::string* text : {&edited.name, &edited.address}) *text = replace_all(*text, ";", ",");
+    edited.number = fCleanNumbers(replace_all(edited.number, ";", ""));
     lstImpFinal.set_cell(row, kEntryName, edited.name);
     lstImpFinal.set_cell(row, kEntryNumber, edited.number);
     lstImpFinal.set_cell(row, kEntryAddress, edited.address);

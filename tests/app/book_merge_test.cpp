@@ -119,21 +119,23 @@ TEST_F(LastPage, EditedEntryIsCleanedAndKeepsItsPlace) {
     EXPECT_EQ(dialog.txtNumber.selection_length(), 3) << "as long as the name";
     dialog.txtNumber.type("+ 1");
     EXPECT_EQ(dialog.txtNumber.text(), "0301234561");
-    dialog.txtNumber.take_user_text("+49301234");
+    dialog.txtNumber.take_user_text("+49;301234");
     dialog.txtName.set_text("");
     dialog.txtName.type("A;B");
+    dialog.txtAdress.take_user_text("Weg 1; Hof");
     dialog.cmdEdit(0).take_user_click();
   };
   form->lstImpFinal.take_user_select(0);
   form->lstImpFinal.take_user_double_click();
-  EXPECT_EQ(rows(), (Texts{"A,B|0301234|", "Huber|0897654321|"}));
+  EXPECT_EQ(rows(), (Texts{"A,B|0301234|Weg 1, Hof", "Huber|0897654321|"}))
+      << "pasted separators do not reach the book";
   machine.events.on_modal = [](Form& shown) {
     auto& dialog = dynamic_cast<fImportItemEdit&>(shown);
     dialog.txtName.set_text("verworfen");
     dialog.cmdEdit(1).take_user_click();
   };
   form->cmdEditItems.take_user_click();
-  EXPECT_EQ(rows()[0], "A,B|0301234|");
+  EXPECT_EQ(rows()[0], "A,B|0301234|Weg 1, Hof");
 }
 
 TEST_F(LastPage, DeletingTheLastRowDisablesTheImport) {
