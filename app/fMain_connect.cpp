@@ -1,5 +1,6 @@
 #include "app/app.h"
 #include "app/fMain.h"
+#include "platform/files.h"
 #include "platform/host_link.h"
 #include "support/text.h"
 
@@ -17,7 +18,7 @@ void fMain::connect() {
   on_got_focus = [this] { Form_GotFocus(); };
   on_drop_file = [this](std::string_view path) {
     // A dropped file is taken like a chosen one, as long as a source can be chosen.
-    if (!txtImpFile.reachable()) return;
+    if (!txtImpFile.reachable() || !app_.services.files.exists(path)) return;
     txtImpFile.set_text("");
     txtImpFile.set_text(path);
   };

@@ -152,6 +152,22 @@ TEST_F(FileImport, UndetectedDelimiterCanBeChosenByHand) {
   EXPECT_EQ(form->lstHeader(0).item(1), "Nummer,x");
 }
 
+TEST_F(FileImport, ADroppedFileIsTakenWhereASourceCanBeChosen) {
+  start();
+  machine.files.put("C:\\other.csv", kContacts);
+  machine.files.add_folder("C:\\folder");
+  form->on_drop_file("C:\\other.csv");
+  EXPECT_EQ(form->StatusBar.panel(2), "Trennzeichen erkannt");
+  form->on_drop_file("C:\\folder");
+  EXPECT_EQ(form->txtImpFile.text(), "C:\\other.csv") << "a folder is no file";
+  EXPECT_TRUE(form->cmdFor.enabled());
+  forward();
+  machine.files.put(kContactsPath, kContacts);
+  form->on_drop_file(kContactsPath);
+  EXPECT_EQ(form->wizard.CurrentPage, 1);
+  EXPECT_EQ(form->txtImpFile.text(), "C:\\other.csv");
+}
+
 TEST_F(FileImport, HeaderWithoutDelimiterLeadsBackToTheSource) {
   start();
   take_file("Name\r\nMeier;1;2;3\r\n");
