@@ -13,7 +13,7 @@ void fMain::connect() {
   cmdCancel.on_click = [this] { cmdCancel_Click(); };
   cmdCancel.set_always_usable();
   cmdHelp.on_click = [this] { cmdHelp_Click(); };
-  on_help = [this] { cmdHelp_Click(); };
+  on_help = [this] { cmdHelp.take_user_click(); };
   on_unload = [this] { Form_Unload(); };
   on_got_focus = [this] { Form_GotFocus(); };
   on_drop_file = [this](std::string_view path) {

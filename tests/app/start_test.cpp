@@ -129,6 +129,16 @@ TEST_F(Start, HelpOpensThePageOfTheImport) {
   EXPECT_TRUE(machine.system.opened[0].ends_with(".example/index.php?id=800&cnt=1#imp"));
 }
 
+TEST_F(Start, F1WaitsWhileWorkIsDone) {
+  start();
+  form->lock_input(true);
+  form->on_help();
+  EXPECT_TRUE(machine.system.opened.empty());
+  form->lock_input(false);
+  form->on_help();
+  EXPECT_EQ(machine.system.opened.size(), 1U);
+}
+
 TEST_F(Start, TraceNamesEveryProcedure) {
   machine.files.put("C:\\Quenda\\Quendaspec.ini", "[Debug]\r\nTraceMode=1\r\n");
   machine.files.add_folder("C:\\Quenda\\log");
