@@ -113,15 +113,17 @@ HDDEDATA DdeServer::handle(UINT type, UINT format, HCONV conversation, HSZ topic
     case XTYP_ADVSTART:
       if (!offers(topic, item) || (format != CF_TEXT && format != CF_UNICODETEXT)) return nullptr;
       // The loop stands only after this call; the present text follows right behind.
+      untold_ = true;
       timer_ = SetTimer(nullptr, timer_, kPostInterval, &DdeServer::watch);
       return yes();
     case XTYP_ADVREQ:
     case XTYP_REQUEST: {
       if (!offers(topic, item)) return nullptr;
-      Conversation& host = conversations_[conversation];
-      if (type == XTYP_ADVREQ && host.told && host.text == text_) return nullptr;
+      Told& told = conversations_[conversation];
+      const auto last = told.find(format);
+      if (type == XTYP_ADVREQ && last != told.end() && last->second == text_) return nullptr;
       const HDDEDATA data = text_data(format, item);
-      if (data != nullptr) host = {true, text_};
+      if (data != nullptr) told[format] = text_;
       return data;
     }
     default:
@@ -160,7 +162,7 @@ void DdeServer::disconnected(HCONV conversation) {
   if (conversations_.empty() && events_.closed) events_.closed();
 }
 
-void DdeServer::drop_dead() {
+bool DdeServer::drop_dead() {
   std::vector<HCONV> dead;
   for (const auto& [conversation, told] : conversations_) {
     CONVINFO info{};
@@ -173,6 +175,7 @@ void DdeServer::drop_dead() {
     DdeDisconnect(conversation);
     disconnected(conversation);
   }
+  return !dead.empty();
 }
 
 void CALLBACK DdeServer::watch(HWND /*window*/, UINT /*message*/, UINT_PTR /*timer*/,
@@ -181,7 +184,10 @@ void CALLBACK DdeServer::watch(HWND /*window*/, UINT /*message*/, UINT_PTR /*tim
   if (server == nullptr) return;
   server->loop_.at_edge([&] {
     server->timer_ = SetTimer(nullptr, server->timer_, kWatchInterval, &DdeServer::watch);
-    server->post();
+    // A dead host can have kept the last text from those behind it. Without a reason nothing is
+    // posted: hosts that only want to know of news would be told of some.
+    const bool kept_back = server->drop_dead();
+    if (std::exchange(server->untold_, false) || kept_back) server->post();
   });
 }
 

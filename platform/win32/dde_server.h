@@ -27,11 +27,8 @@ class DdeServer : public HostLink {
   void shut_down() noexcept override;
 
  private:
-  /// What one host has been told last, so that the present text reaches each host once.
-  struct Conversation {
-    bool told = false;
-    std::string text;
-  };
+  /// What one host has been told last in each form, so that the present text reaches it once.
+  using Told = std::map<UINT, std::string>;
 
   static HDDEDATA CALLBACK callback(UINT type, UINT format, HCONV conversation, HSZ topic, HSZ item,
                                     HDDEDATA data, ULONG_PTR data1, ULONG_PTR data2) noexcept;
@@ -44,8 +41,8 @@ class DdeServer : public HostLink {
   [[nodiscard]] HDDEDATA text_data(UINT format, HSZ item) const;
   void connected(HCONV conversation);
   void disconnected(HCONV conversation);
-  /// Ends conversations whose host is gone without having said so.
-  void drop_dead();
+  /// Ends conversations whose host is gone without having said so; whether there were any.
+  bool drop_dead();
   void post();
 
   MessageLoop& loop_;
@@ -56,7 +53,8 @@ class DdeServer : public HostLink {
   HSZ item_ = nullptr;
   HostLinkEvents events_;
   std::string text_;
-  std::map<HCONV, Conversation> conversations_;
+  std::map<HCONV, Told> conversations_;
+  bool untold_ = false;  // a host has begun to watch and waits for the present text
   UINT_PTR timer_ = 0;
 };
 

@@ -41,6 +41,10 @@ HDDEDATA CALLBACK host_callback(UINT type, UINT format, HCONV, HSZ, HSZ, HDDEDAT
                                 ULONG_PTR) {
   if (type == XTYP_DISCONNECT) heard_here->add("(end)");
   if (type != XTYP_ADVDATA) return nullptr;
+  if (data == nullptr) {
+    heard_here->add("(news)");
+    return from_lparam<HDDEDATA__>(DDE_FACK);
+  }
   wchar_t units[40] = {};
   DdeGetData(data, from_lparam<BYTE>(as_lparam(units)), sizeof units - 2, 0);
   heard_here->add(format == CF_TEXT ? std::string(from_lparam<char>(as_lparam(units)))
@@ -48,11 +52,16 @@ HDDEDATA CALLBACK host_callback(UINT type, UINT format, HCONV, HSZ, HSZ, HDDEDAT
   return from_lparam<HDDEDATA__>(DDE_FACK);
 }
 
-/// A phone book that connects, watches the item, and listens until told to leave.
+/// A phone book that connects, watches the item in one form or several, and listens until told to
+/// leave. A warm one is told that there is news, and asks for it when it likes.
 class Host {
  public:
+  enum class Watch { kHot, kWarm };
+  Host(MessageLoop& tool, const std::string& topic, const std::vector<UINT>& formats,
+       Watch watch = Watch::kHot)
+      : tool_(tool), thread_([=, this] { run(topic, formats, watch); }) {}
   Host(MessageLoop& tool, const std::string& topic, UINT format)
-      : tool_(tool), thread_([=, this] { run(topic, format); }) {}
+      : Host(tool, topic, std::vector<UINT>{format}) {}
   ~Host() { leave(); }
   Host(const Host&) = delete;
   Host& operator=(const Host&) = delete;
@@ -70,7 +79,7 @@ class Host {
   [[nodiscard]] bool refused() const { return refused_; }
 
  private:
-  void run(const std::string& topic, UINT format) {
+  void run(const std::string& topic, const std::vector<UINT>& formats, Watch watch) {
     heard_here = &heard_;
     DWORD instance = 0;
     DdeInitializeW(&instance, &host_callback, APPCMD_CLIENTONLY, 0);
@@ -79,8 +88,10 @@ class Host {
     };
     const HCONV link = DdeConnect(instance, name("Import"), name(topic), nullptr);
     refused_ = link == nullptr;
-    if (!refused_) {
-      DdeClientTransaction(nullptr, 0, link, name("txtDDE"), format, XTYP_ADVSTART, 3000, nullptr);
+    const UINT start = XTYP_ADVSTART | (watch == Watch::kWarm ? XTYPF_NODATA : 0);
+    for (const UINT format : formats) {
+      if (refused_) break;
+      DdeClientTransaction(nullptr, 0, link, name("txtDDE"), format, start, 3000, nullptr);
     }
     while (!stop_ && !refused_) {
       MSG message{};
@@ -144,6 +155,22 @@ TEST_F(DdeServerTest, EveryHostHearsEachTextOnceInEitherForm) {
   EXPECT_THAT(first.heard(), ElementsAre("ON", "data"));
   EXPECT_THAT(second.heard(), ElementsAre("ON", "data"));
   EXPECT_EQ(opened_, 2);
+}
+
+TEST_F(DdeServerTest, AHostThatWatchesInBothFormsHearsBoth) {
+  Host host(loop_, "book", {CF_TEXT, CF_UNICODETEXT});
+  ASSERT_TRUE(becomes([&] { return host.heard().size() == 2; }));
+  server_.set_text("data");
+  EXPECT_TRUE(becomes([&] { return host.heard().size() == 4; }));
+  EXPECT_THAT(host.heard(), ElementsAre("ON", "ON", "data", "data"));
+}
+
+TEST_F(DdeServerTest, AHostThatOnlyWantsToKnowOfNewsIsToldOfEachOnce) {
+  Host host(loop_, "book", {CF_TEXT}, Host::Watch::kWarm);
+  ASSERT_TRUE(hears(host, "(news)"));
+  EXPECT_FALSE(becomes([&] { return host.heard().size() > 1; }, 2200)) << "there are no news";
+  server_.set_text("data");
+  EXPECT_TRUE(becomes([&] { return host.heard().size() == 2; }));
 }
 
 TEST_F(DdeServerTest, TheLinkIsClosedWhenTheLastHostHasLeft) {
