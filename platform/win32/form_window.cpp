@@ -137,8 +137,11 @@ void FormWindow::refresh(Aspect aspect) {
     case Aspect::kPointer:
       show_pointer();
       break;
+    case Aspect::kVisible:
+      MessageLoop::wake();  // the form is unloaded; its window goes with this object
+      break;
     default:
-      break;  // a closed window goes with this object; redrawing is looked up when it matters
+      break;  // redrawing is looked up when it matters
   }
 }
 
@@ -213,6 +216,7 @@ void FormWindow::on_drop(WPARAM drop) {
   std::wstring path(DragQueryFileW(dropped, 0, nullptr, 0), L'\0');
   DragQueryFileW(dropped, 0, path.data(), static_cast<UINT>(path.size()) + 1);
   DragFinish(dropped);
+  if (path.empty() || !takes_input()) return;
   if (const auto named = exact_1252(path)) {
     if (form_.on_drop_file) form_.on_drop_file(*named);
   } else if (form_.on_unusable_path) {
@@ -220,9 +224,11 @@ void FormWindow::on_drop(WPARAM drop) {
   }
 }
 
+/// A window under a dialog can still be sent messages by other programs.
+bool FormWindow::takes_input() const { return IsWindowEnabled(window()) != 0; }
+
 void FormWindow::close() {
-  // A window under a dialog can still be sent the message by other programs.
-  if (IsWindowEnabled(window()) != 0) form_.unload(CloseReason::kCloseBox);
+  if (takes_input()) form_.unload(CloseReason::kCloseBox);
 }
 
 void FormWindow::on_command(UINT code, int id, HWND control) {
@@ -253,7 +259,9 @@ INT_PTR FormWindow::answer(LRESULT result) const {
 INT_PTR FormWindow::on_message(UINT message, WPARAM wparam, LPARAM lparam) {
   switch (message) {
     case WM_COMMAND:
-      on_command(HIWORD(wparam), LOWORD(wparam), from_lparam<HWND__>(lparam));
+      if (takes_input()) {
+        on_command(HIWORD(wparam), LOWORD(wparam), from_lparam<HWND__>(lparam));
+      }
       return TRUE;
     case WM_NOTIFY: {
       auto& notice = *from_lparam<NMHDR>(lparam);
@@ -275,7 +283,8 @@ INT_PTR FormWindow::on_message(UINT message, WPARAM wparam, LPARAM lparam) {
     case WM_QUERYENDSESSION:
       return answer(TRUE);
     case WM_ENDSESSION:
-      if (wparam != 0) form_.unload(CloseReason::kCode);
+      // Dialogs go with the main window: the end of the session answers no question.
+      if (wparam != 0 && owner_ == nullptr) form_.unload(CloseReason::kCode);
       return TRUE;
     case WM_SIZE:
       on_size();

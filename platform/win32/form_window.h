@@ -72,6 +72,7 @@ class FormWindow : public ControlPeer, public LoopClient {
   void on_drop(WPARAM drop);
   void limit_size(MINMAXINFO& limits) const;
   void close();
+  [[nodiscard]] bool takes_input() const;
 
   void use_dpi(int dpi);
   void place_window();

@@ -12,7 +12,10 @@ constexpr ULONGLONG kPumpInterval = 20;  // milliseconds
 
 void MessageLoop::remove(LoopClient& client) { std::erase(clients_, &client); }
 
+void MessageLoop::wake() noexcept { PostThreadMessageW(GetCurrentThreadId(), WM_NULL, 0, 0); }
+
 void MessageLoop::park() noexcept {
+  wake();
   try {
     throw;
   } catch (const EndProgram&) {
@@ -71,6 +74,7 @@ void MessageLoop::pump() {
     if (message.message == WM_QUIT) throw EndProgram{};
     dispatch(message);
   }
+  rethrow();
   show_changes();
   last_pump_ = GetTickCount64();
 }

@@ -52,6 +52,9 @@ class MessageLoop {
         0);
   }
 
+  /// Has the loop look at its condition, and at what is parked, although no message has come: those
+  /// that other programs send are handled while it waits, and do not end the waiting.
+  static void wake() noexcept;
   /// Throws on what has been parked. To be called after everything that dispatched messages.
   void rethrow();
   void show_changes();

@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
+#include <thread>
+
+#include "platform/win32/dialogs_win32.h"
 #include "platform/win32/handles.h"
 #include "support/fault.h"
 #include "tests/platform_win32/form_fixture.h"
@@ -60,6 +64,64 @@ TEST_F(FormWindowTest, ADialogLocksItsOwnerAndFreesItWhateverEndsIt) {
     EXPECT_TRUE(IsWindowEnabled(owner));
     EXPECT_EQ(dialog.text.peer(), nullptr);
   }
+}
+
+TEST_F(FormWindowTest, AWindowThatAnotherProgramClosesIsGoneAtOnce) {
+  // Such a message is handled while the loop waits, and does not end the waiting.
+  std::atomic<bool> too_late = false;
+  form_.on_unload = [] { throw EndProgram{}; };
+  show();
+  const HWND window = window_of(form_);
+  const DWORD loop = GetCurrentThreadId();
+  std::thread other([&] {
+    Sleep(200);
+    SendMessageW(window, WM_CLOSE, 0, 0);
+    Sleep(1000);
+    too_late = true;
+    PostThreadMessageW(loop, WM_NULL, 0, 0);
+  });
+  EXPECT_THROW(events_.run(), EndProgram);
+  EXPECT_FALSE(too_late);
+  other.join();
+}
+
+TEST_F(FormWindowTest, TheEndOfTheSessionIsForTheMainWindowToHandle) {
+  bool asked = true;
+  bool ended = false;
+  form_.on_unload = [&] { ended = true; };
+  show();
+  TestForm dialog;
+  dialog.timer.set_interval(10);
+  dialog.timer.on_timer = [&] {
+    dialog.timer.set_enabled(false);
+    SendMessageW(window_of(dialog), WM_ENDSESSION, TRUE, 0);
+    asked = dialog.loaded();
+    SendMessageW(window_of(form_), WM_ENDSESSION, TRUE, 0);
+    dialog.unload();
+  };
+  dialog.timer.set_enabled(true);
+  events_.show_modal(dialog, form_);
+  EXPECT_TRUE(asked) << "an open question has not been answered by it";
+  EXPECT_TRUE(ended);
+}
+
+TEST_F(FormWindowTest, AMessageBelongsToTheWindowEvenWhenTheUserWorksElsewhere) {
+  show();
+  SetActiveWindow(nullptr);
+  SetForegroundWindow(GetDesktopWindow());
+  ASSERT_EQ(GetActiveWindow(), nullptr);
+  HWND owner = nullptr;
+  form_.timer.set_interval(10);
+  form_.timer.on_timer = [&] {
+    const HWND box = FindWindowW(L"#32770", L"Meldung");
+    if (box == nullptr) return;
+    form_.timer.set_enabled(false);
+    owner = GetWindow(box, GW_OWNER);
+    PostMessageW(box, WM_CLOSE, 0, 0);
+  };
+  form_.timer.set_enabled(true);
+  Win32Dialogs(loop_).message_box("Text", MessageStyle::kInformation, "Meldung");
+  EXPECT_EQ(owner, window_of(form_));
 }
 
 /// A number that grows when drawing objects are left behind.

@@ -94,6 +94,7 @@ TEST_F(FormWindowTest, AMillionRowsAreThereAtOnceAndChosenColumnsAreMarked) {
   EXPECT_STREQ(cell, L"[#] Telefon");
 }
 
+/// An empty path drops nothing at all.
 void drop(HWND window, const std::wstring& path) {
   const std::size_t size = sizeof(DROPFILES) + (path.size() + 2) * sizeof(wchar_t);
   const HGLOBAL memory = GlobalAlloc(GHND, size);
@@ -118,6 +119,23 @@ TEST_F(FormWindowTest, ADroppedFileIsNamedOrRefusedAsUnusable) {
   EXPECT_EQ(unusable, "");
   drop(window_of(form_), L"C:\\\u65E5.csv");
   EXPECT_EQ(unusable, "C:\\?.csv");
+}
+
+TEST_F(FormWindowTest, NothingIsTakenFromAnEmptyDropOrBelowADialog) {
+  int dropped = 0;
+  int clicks = 0;
+  form_.on_drop_file = [&](std::string_view) { ++dropped; };
+  form_.go.on_click = [&] { ++clicks; };
+  show();
+  drop(window_of(form_), L"");
+  EnableWindow(window_of(form_), FALSE);
+  drop(window_of(form_), L"C:\\kontakte.csv");
+  send(form_.go, BM_CLICK);
+  EXPECT_EQ(dropped, 0);
+  EXPECT_EQ(clicks, 0);
+  EnableWindow(window_of(form_), TRUE);
+  drop(window_of(form_), L"C:\\kontakte.csv");
+  EXPECT_EQ(dropped, 1);
 }
 
 }  // namespace
