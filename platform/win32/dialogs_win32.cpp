@@ -38,15 +38,30 @@ UINT_PTR CALLBACK show_details(HWND page, UINT message, WPARAM /*wparam*/, LPARA
   return 0;
 }
 
+/// The window that a message belongs to: the active one, or, while the user works in another
+/// program, the one that takes input, so that the message comes forward with it.
+HWND message_owner() {
+  HWND owner = GetActiveWindow();
+  if (owner != nullptr) return owner;
+  const auto take_usable = [](HWND window, LPARAM found) -> BOOL {
+    if (IsWindowVisible(window) == 0 || IsWindowEnabled(window) == 0) return TRUE;
+    *from_lparam<HWND>(found) = window;
+    return FALSE;
+  };
+  EnumThreadWindows(GetCurrentThreadId(), take_usable, as_lparam(&owner));
+  return owner;
+}
+
 }  // namespace
 
 MessageAnswer Win32Dialogs::message_box(std::string_view text, MessageStyle style,
                                         std::string_view title) {
   loop_.show_changes();
-  const HWND active = GetActiveWindow();
-  const UINT modal = active == nullptr ? MB_TASKMODAL | MB_SETFOREGROUND : MB_APPLMODAL;
-  const int answer = MessageBoxW(active, wide(text).c_str(), wide(title).c_str(),
-                                 static_cast<UINT>(style) | modal);
+  const HWND owner = message_owner();
+  const UINT modal = owner == nullptr ? MB_TASKMODAL : MB_APPLMODAL;
+  const UINT forward = GetActiveWindow() == nullptr ? MB_SETFOREGROUND : 0;
+  const int answer = MessageBoxW(owner, wide(text).c_str(), wide(title).c_str(),
+                                 static_cast<UINT>(style) | modal | forward);
   loop_.rethrow();
   return static_cast<MessageAnswer>(answer);
 }
