@@ -137,6 +137,15 @@ class ComObject : public AutomationObject {
   }
 
   HRESULT try_invoke(std::string_view name, VARIANT* argument, Variant& value) {
+    const bool known = members_->find(name) != members_->end();
+    const HRESULT result = invoke_once(name, argument, value);
+    if (!known || result != DISP_E_MEMBERNOTFOUND) return result;
+    // Some programs number the members of each object anew.
+    members_->erase(members_->find(name));
+    return invoke_once(name, argument, value);
+  }
+
+  HRESULT invoke_once(std::string_view name, VARIANT* argument, Variant& value) {
     DISPID id = DISPID_UNKNOWN;
     const HRESULT found = find_id(name, id);
     if (FAILED(found)) return found;

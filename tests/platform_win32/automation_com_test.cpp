@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <map>
+#include <set>
 #include <string>
 
 #include "platform/win32/com_values.h"
@@ -65,6 +66,7 @@ class Component final : public IDispatch {
     for (const auto& [name, value] : properties) {
       if (name == names[0]) {
         ids[0] = id;
+        given_.insert(id);
         return S_OK;
       }
       ++id;
@@ -75,15 +77,19 @@ class Component final : public IDispatch {
                                    VARIANT* result, EXCEPINFO*, UINT*) override {
     if (bench_.busy-- > 0) return RPC_E_SERVERCALL_RETRYLATER;
     if (FAILED(bench_.failure)) return bench_.failure;
+    if (numbers_on_request && given_.count(id) == 0) return DISP_E_MEMBERNOTFOUND;
     last_argument = arguments->cArgs == 0 ? VARTYPE{VT_EMPTY} : arguments->rgvarg[0].vt;
     std::next(properties.begin(), id - 1)->second(*result);
     return S_OK;
   }
 
   VARTYPE last_argument = VT_EMPTY;
+  bool numbers_on_request = false;  // members have a number only once somebody has asked for it
+  void forget_numbers() { given_.clear(); }
 
  private:
   Bench& bench_;
+  std::set<DISPID> given_;
 };
 
 class Factory final : public IClassFactory {
@@ -205,6 +211,18 @@ TEST_F(ComAutomationTest, MembersAreLookedUpOncePerTypeOfObject) {
   }
   // "Item" once, "Birthday" and "FullName" once; "Class" of each, since it tells the type.
   EXPECT_EQ(bench_.lookups, 3 + 20);
+}
+
+TEST_F(ComAutomationTest, AnObjectThatNumbersItsMembersForItselfIsAskedItself) {
+  item_.numbers_on_request = true;
+  const auto folder = automation_.create(kProgram);
+  for (int i = 1; i <= 2; ++i) {
+    const auto contact = folder->object("Item", i);
+    EXPECT_EQ(contact->type_name(), "ContactItem");
+    EXPECT_EQ(contact->text("FullName"), "J\xF6rg Lukasz");
+    item_.forget_numbers();
+  }
+  EXPECT_EQ(fault_of([&] { folder->object("Item", 3)->text("Nickname"); }), kFaultNoSuchMember);
 }
 
 TEST_F(ComAutomationTest, ArgumentsGoAsNumberOrText) {
