@@ -1,12 +1,26 @@
 #include "platform/win32/busy_filter.h"
 
+#include <dde.h>
+
 namespace quenda {
 namespace {
 
 constexpr DWORD kRetryDelay = 100;  // milliseconds; smaller values mean "at once"
+/// How long the system itself repeats a call: it takes no input meanwhile, so longer patience is
+/// for the caller, who does.
+constexpr DWORD kRetryLimit = 500;
 constexpr DWORD kGiveUp = static_cast<DWORD>(-1);
 /// What office programs answer while a dialog of theirs is open.
 constexpr auto kDialogIsOpen = static_cast<HRESULT>(0x800AC472);
+
+/// What is handled while a call is under way: painting, and the phone book, which must not find the
+/// tool hanging. Input waits.
+struct Range {
+  UINT first;
+  UINT last;
+};
+constexpr Range kHandledMeanwhile[] = {
+    {WM_PAINT, WM_PAINT}, {WM_TIMER, WM_TIMER}, {WM_DDE_FIRST, WM_DDE_LAST}};
 
 }  // namespace
 
@@ -24,13 +38,15 @@ DWORD BusyFilter::HandleInComingCall(DWORD /*type*/, HTASK /*caller*/, DWORD /*t
 }
 
 DWORD BusyFilter::RetryRejectedCall(HTASK /*called*/, DWORD ticks, DWORD /*type*/) {
-  return ticks < kBusyLimit ? kRetryDelay : kGiveUp;
+  return ticks < kRetryLimit ? kRetryDelay : kGiveUp;
 }
 
 DWORD BusyFilter::MessagePending(HTASK /*called*/, DWORD /*ticks*/, DWORD /*type*/) {
-  MSG message{};
-  while (PeekMessageW(&message, nullptr, WM_PAINT, WM_PAINT, PM_REMOVE) != 0) {
-    DispatchMessageW(&message);
+  for (const auto& [first, last] : kHandledMeanwhile) {
+    MSG message{};
+    while (PeekMessageW(&message, nullptr, first, last, PM_REMOVE) != 0) {
+      DispatchMessageW(&message);
+    }
   }
   return PENDINGMSG_WAITDEFPROCESS;
 }

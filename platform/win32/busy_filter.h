@@ -16,8 +16,8 @@ inline constexpr DWORD kLeavingLimit = 3000;
 #pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
 #endif
 
-/// Asks a busy program again instead of giving up at once, and keeps the tool's window painted
-/// while a call is under way. In force for as long as it lives.
+/// Asks a busy program again instead of giving up at once, and keeps the tool's window painted and
+/// the phone book answered while a call is under way. In force for as long as it lives.
 class BusyFilter final : public IMessageFilter {
  public:
   BusyFilter() { CoRegisterMessageFilter(this, before_.out()); }

@@ -10,6 +10,7 @@
 #include <mutex>
 #include <thread>
 
+#include "platform/win32/busy_filter.h"
 #include "platform/win32/handles.h"
 #include "platform/win32/text_win32.h"
 
@@ -163,6 +164,18 @@ TEST_F(DdeServerTest, AHostThatWatchesInBothFormsHearsBoth) {
   server_.set_text("data");
   EXPECT_TRUE(becomes([&] { return host.heard().size() == 4; }));
   EXPECT_THAT(host.heard(), ElementsAre("ON", "ON", "data", "data"));
+}
+
+TEST_F(DdeServerTest, AHostCanConnectWhileAnotherProgramKeepsTheToolWaiting) {
+  const ApartmentScope apartment;
+  BusyFilter filter;
+  Host host(loop_, "book", CF_TEXT);
+  const ULONGLONG end = GetTickCount64() + 3000;
+  while (host.heard().empty() && GetTickCount64() < end) {
+    filter.MessagePending(nullptr, 0, PENDINGTYPE_TOPLEVEL);
+    Sleep(1);
+  }
+  EXPECT_THAT(host.heard(), ElementsAre("ON"));
 }
 
 TEST_F(DdeServerTest, AHostThatOnlyWantsToKnowOfNewsIsToldOfEachOnce) {
