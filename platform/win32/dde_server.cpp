@@ -114,14 +114,16 @@ HDDEDATA DdeServer::handle(UINT type, UINT format, HCONV conversation, HSZ topic
       if (!offers(topic, item) || (format != CF_TEXT && format != CF_UNICODETEXT)) return nullptr;
       // The loop stands only after this call; the present text follows right behind.
       untold_ = true;
+      conversations_[conversation].erase(format);
       timer_ = SetTimer(nullptr, timer_, kPostInterval, &DdeServer::watch);
       return yes();
-    case XTYP_ADVREQ:
-    case XTYP_REQUEST: {
+    case XTYP_REQUEST:
+      return offers(topic, item) ? text_data(format, item) : nullptr;
+    case XTYP_ADVREQ: {
       if (!offers(topic, item)) return nullptr;
       Told& told = conversations_[conversation];
       const auto last = told.find(format);
-      if (type == XTYP_ADVREQ && last != told.end() && last->second == text_) return nullptr;
+      if (last != told.end() && last->second == text_) return nullptr;
       const HDDEDATA data = text_data(format, item);
       if (data != nullptr) told[format] = text_;
       return data;

@@ -27,7 +27,7 @@ class DdeServer : public HostLink {
   void shut_down() noexcept override;
 
  private:
-  /// What one host has been told last in each form, so that the present text reaches it once.
+  /// What one host that watches has been told last in each form, so that a text reaches it once.
   using Told = std::map<UINT, std::string>;
 
   static HDDEDATA CALLBACK callback(UINT type, UINT format, HCONV conversation, HSZ topic, HSZ item,

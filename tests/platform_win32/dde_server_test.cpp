@@ -57,7 +57,7 @@ HDDEDATA CALLBACK host_callback(UINT type, UINT format, HCONV, HSZ, HSZ, HDDEDAT
 /// leave. A warm one is told that there is news, and asks for it when it likes.
 class Host {
  public:
-  enum class Watch { kHot, kWarm };
+  enum class Watch { kHot, kWarm, kHotAfterAsking };
   Host(MessageLoop& tool, const std::string& topic, const std::vector<UINT>& formats,
        Watch watch = Watch::kHot)
       : tool_(tool), thread_([=, this] { run(topic, formats, watch); }) {}
@@ -92,6 +92,10 @@ class Host {
     const UINT start = XTYP_ADVSTART | (watch == Watch::kWarm ? XTYPF_NODATA : 0);
     for (const UINT format : formats) {
       if (refused_) break;
+      if (watch == Watch::kHotAfterAsking) {
+        DdeFreeDataHandle(DdeClientTransaction(nullptr, 0, link, name("txtDDE"), format,
+                                               XTYP_REQUEST, 3000, nullptr));
+      }
       DdeClientTransaction(nullptr, 0, link, name("txtDDE"), format, start, 3000, nullptr);
     }
     while (!stop_ && !refused_) {
@@ -164,6 +168,11 @@ TEST_F(DdeServerTest, AHostThatWatchesInBothFormsHearsBoth) {
   server_.set_text("data");
   EXPECT_TRUE(becomes([&] { return host.heard().size() == 4; }));
   EXPECT_THAT(host.heard(), ElementsAre("ON", "ON", "data", "data"));
+}
+
+TEST_F(DdeServerTest, AHostThatHasAskedBeforeIsToldThePresentTextAllTheSame) {
+  Host host(loop_, "book", {CF_TEXT}, Host::Watch::kHotAfterAsking);
+  EXPECT_TRUE(hears(host, "ON"));
 }
 
 TEST_F(DdeServerTest, AHostCanConnectWhileAnotherProgramKeepsTheToolWaiting) {
