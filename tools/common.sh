@@ -32,23 +32,26 @@ tracked() {
   printf '%s\n' "$list"
 }
 
-# Starts a virtual display of that size (WIDTHxHEIGHT) for the Wine programs that follow.
+# A value in the registry of the Wine prefix in use.
+set_wine_value() { "$root/tools/wine" reg add "$1" /v "$2" /t "$3" /d "$4" /f >/dev/null; }
+
+# Starts a virtual display of that size (WIDTHxHEIGHT) for the Wine programs that follow, and gives
+# them a prefix (PREFIX, below build/) of their own: there is no window manager, so Wine draws the
+# frames itself, instead of waiting for an answer that does not come whenever a window opens.
 start_display() {
   local number
   exec 8<> <(:)
   Xvfb -displayfd 8 -screen 0 "$1x24" -nolisten tcp -noreset >/dev/null 2>&1 &
   display_server=$!
+  export QUENDA_WINE_PREFIX=$root/build/$2
   read -r -t 20 number <&8 || die "The virtual display does not start (Xvfb)."
   export DISPLAY=:$number
+  set_wine_value 'HKCU\Software\Wine\X11 Driver' Managed REG_SZ N || die "Wine does not start."
 }
 
-# Chooses a Wine prefix for pictures of windows: with frames, which Wine draws itself where no window
-# manager does, and so many dots per inch. A prefix of its own, so nobody else gets these settings.
-wine_for_pictures() {
-  export QUENDA_WINE_PREFIX=$root/build/wine-pictures
-  set_value() { "$root/tools/wine" reg add "$1" /v "$2" /t "$3" /d "$4" /f >/dev/null; }
-  set_value 'HKCU\Software\Wine\X11 Driver' Managed REG_SZ N
-  set_value 'HKCU\Control Panel\Desktop' LogPixels REG_DWORD "$1"
+# Prepares the prefix in use for pictures of windows with so many dots per inch.
+prepare_pictures() {
+  set_wine_value 'HKCU\Control Panel\Desktop' LogPixels REG_DWORD "$1"
   # The signs on the frames' buttons.
   cp /usr/share/wine/fonts/marlett.ttf "$QUENDA_WINE_PREFIX/drive_c/windows/Fonts/"
   WINEPREFIX=$QUENDA_WINE_PREFIX wineserver -k -w || true
@@ -56,8 +59,9 @@ wine_for_pictures() {
 
 # Ends whatever still runs under Wine in this project's prefix, then the virtual display.
 end_display() {
-  WINEPREFIX=${QUENDA_WINE_PREFIX:-$root/build/wine} wineserver -k 2>/dev/null || true
-  [ -z "${display_server:-}" ] || kill "$display_server" 2>/dev/null || true
+  [ -n "${display_server:-}" ] || return 0
+  WINEPREFIX=$QUENDA_WINE_PREFIX wineserver -k 2>/dev/null || true
+  kill "$display_server" 2>/dev/null || true
 }
 
 # Configures and builds in build/NAME; what is printed on the way is shown only when it fails.
