@@ -8,6 +8,7 @@
 namespace quenda {
 
 bool FocusKeeper::can_take(HWND control) const {
+  if (control == nullptr) return false;
   for (HWND at = control; at != nullptr && at != form_.window(); at = GetParent(at)) {
     const LONG_PTR style = GetWindowLongPtrW(at, GWL_STYLE);
     if ((style & WS_DISABLED) != 0 || (style & WS_VISIBLE) == 0) return false;

@@ -37,6 +37,12 @@ DialogTemplate dialog_template(const Form& form, bool over_owner) {
   return made;
 }
 
+/// Arrow keys go round among the options of one array.
+bool begins_group(const Control* before, const Control& control) {
+  return before == nullptr || control.kind() != ControlKind::kOptionButton ||
+         before->kind() != control.kind() || before->name() != control.name();
+}
+
 }  // namespace
 
 FormWindow::FormWindow(MessageLoop& loop, Form& form, HWND owner)
@@ -50,9 +56,7 @@ FormWindow::FormWindow(MessageLoop& loop, Form& form, HWND owner)
   give_access_keys();
   create_controls(window(), nullptr);
   if (form_.default_button != nullptr) {
-    if (const NativeControl* usual = peer_of(*form_.default_button)) {
-      SendMessageW(window(), DM_SETDEFID, static_cast<WPARAM>(GetDlgCtrlID(usual->window())), 0);
-    }
+    SendMessageW(window(), DM_SETDEFID, static_cast<WPARAM>(id_of(*form_.default_button)), 0);
   }
   SetWindowTextW(window(), wide(form_.caption()).c_str());
   DragAcceptFiles(window(), form_.on_drop_file ? TRUE : FALSE);
@@ -71,23 +75,39 @@ FormWindow::~FormWindow() {
 }
 
 void FormWindow::create_controls(HWND parent, const Control* frame) {
-  const auto& all = form_.controls();
   const Control* before = nullptr;
   for (Control* control : in_tab_order(form_, frame)) {
-    auto native = make_native_control(*this, *control);
-    const auto position = std::find(all.begin(), all.end(), control) - all.begin();
-    // Arrow keys go round among the options of one array.
-    const bool in_group = before != nullptr && control->kind() == ControlKind::kOptionButton &&
-                          before->kind() == control->kind() && before->name() == control->name();
-    native->create(parent, kFirstId + static_cast<int>(position), !in_group);
-    before = control;
-    control->attach(native.get());
-    native->note_all();
-    controls_.push_back(std::move(native));
-    if (control->kind() == ControlKind::kFrame && control->visible()) {
-      create_controls(controls_.back()->window(), control);
+    controls_.push_back(make_native_control(*this, *control));
+    NativeControl& native = *controls_.back();
+    control->attach(&native);
+    native.note_all();
+    if (control->visible()) {
+      native.create(parent, id_of(*control), begins_group(before, *control));
+      if (control->kind() == ControlKind::kFrame) create_controls(native.window(), control);
     }
+    before = control;
   }
+}
+
+void FormWindow::create_late(NativeControl& native) {
+  const Control& control = native.control();
+  const Control* before = nullptr;
+  HWND behind = HWND_TOP;
+  for (const Control* sibling : in_tab_order(form_, control.parent())) {
+    if (sibling == &control) break;
+    before = sibling;
+    const NativeControl* const peer = peer_of(*sibling);
+    if (peer != nullptr && peer->window() != nullptr) behind = peer->window();
+  }
+  const HWND parent = control.parent() == nullptr ? window() : peer_of(*control.parent())->window();
+  native.create(parent, id_of(control), begins_group(before, control));
+  SetWindowPos(native.window(), native.in_front() ? HWND_TOP : behind, 0, 0, 0, 0,
+               SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+}
+
+int FormWindow::id_of(const Control& control) const {
+  const auto& all = form_.controls();
+  return kFirstId + static_cast<int>(std::find(all.begin(), all.end(), &control) - all.begin());
 }
 
 void FormWindow::page_shown(NativeControl& frame) {
@@ -191,7 +211,7 @@ void FormWindow::tell_names() {
   if (!names_) names_ = std::make_unique<SpokenNames>();
   for (const auto& control : controls_) {
     const std::string& name = control->control().spoken_name();
-    if (!name.empty()) names_->set(control->window(), name);
+    if (!name.empty() && control->window() != nullptr) names_->set(control->window(), name);
   }
 }
 

@@ -46,6 +46,8 @@ class FormWindow : public ControlPeer, public LoopClient {
   /// A frame has come into view: its controls get their windows, if they have none yet, and the
   /// focus when the work at hand is done.
   void page_shown(NativeControl& frame);
+  /// Makes the window of a control that was hidden so far, at its place in the tab order.
+  void create_late(NativeControl& native);
 
   void refresh(Aspect aspect) override;
   bool translate(MSG& message) override;
@@ -55,9 +57,11 @@ class FormWindow : public ControlPeer, public LoopClient {
  private:
   static INT_PTR CALLBACK procedure(HWND window, UINT message, WPARAM wparam,
                                     LPARAM lparam) noexcept;
-  /// Windows for the controls in a frame, null for the form. Those in a hidden frame wait until it
-  /// is shown: making all of them would double the time until the window is there.
+  /// Native controls for the controls in a frame, null for the form. Hidden ones get their windows
+  /// when they are shown, and so does all that lies in a hidden frame: making all of them at once
+  /// would double the time until the form's window is there.
   void create_controls(HWND parent, const Control* frame);
+  [[nodiscard]] int id_of(const Control& control) const;
   [[nodiscard]] NativeControl* peer_of(int id) const;
   /// That of a window; null for a window that is no control of this form.
   [[nodiscard]] NativeControl* peer_of(HWND window) const;

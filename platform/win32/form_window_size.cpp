@@ -38,6 +38,7 @@ void FormWindow::use_dpi(int dpi) {
   dpi_ = dpi;
   const std::optional<Fonts> before = std::exchange(fonts_, std::optional<Fonts>(dpi));
   for (const auto& control : controls_) {
+    if (control->window() == nullptr) continue;
     control->apply_font();
     control->refresh(Aspect::kPlace);
   }

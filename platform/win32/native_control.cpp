@@ -51,6 +51,8 @@ void NativeControl::create(HWND parent, int id, bool begins_group) {
 void NativeControl::refresh(Aspect aspect) {
   switch (aspect) {
     case Aspect::kZOrder:
+      in_front_ = true;
+      if (window_ == nullptr) break;
       SetWindowPos(window_, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
       break;
     case Aspect::kFocus:
@@ -70,6 +72,10 @@ void NativeControl::note_all() {
 
 void NativeControl::show_changes() {
   if (noted_ == 0) return;
+  if (window_ == nullptr) {
+    if (!control_.visible()) return;
+    form_.create_late(*this);
+  }
   const unsigned noted = std::exchange(noted_, 0);
   const Mute mute(*this);
   for (const Aspect aspect : kShown) {

@@ -11,10 +11,10 @@ namespace quenda {
 
 class FormWindow;
 
-/// The native window of one control. What changes in the control is only noted; the form window
-/// has it shown, all at once, before the next input is handled or when long work yields, so that
-/// filling a list row by row costs one update. What it does to its own window is muted: the notices
-/// that follow from it are not the user's doing.
+/// The native window of one control, made when the control is first visible. What changes in the
+/// control is only noted; the form window has it shown, all at once, before the next input is
+/// handled or when long work yields, so that filling a list row by row costs one update. What it
+/// does to its own window is muted: the notices that follow from it are not the user's doing.
 class NativeControl : public ControlPeer {
  public:
   NativeControl(FormWindow& form, Control& control) : form_(form), control_(control) {}
@@ -44,7 +44,10 @@ class NativeControl : public ControlPeer {
   void note_all();
 
   [[nodiscard]] Control& control() const { return control_; }
+  /// Null until the control has been visible for the first time.
   [[nodiscard]] HWND window() const { return window_; }
+  /// Whether the control was brought to the front while it had no window.
+  [[nodiscard]] bool in_front() const { return in_front_; }
   /// Makes the native window inside its parent. Arrow keys go round within a group.
   void create(HWND parent, int id, bool begins_group);
   /// Moves the window to where the control lies at the form's DPI and size.
@@ -99,6 +102,7 @@ class NativeControl : public ControlPeer {
   Pixels placed_;
   unsigned noted_ = 0;
   bool muted_ = false;
+  bool in_front_ = false;
 };
 
 /// The control of a peer, as its own kind.
