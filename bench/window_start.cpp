@@ -85,18 +85,24 @@ Start measure(const Program& program) {
   return result;
 }
 
-double median(const std::vector<Start>& starts, double Start::*value) {
-  std::vector<double> values;
-  for (const Start& start : starts) values.push_back(start.*value);
+double median(std::vector<double> values) {
   std::sort(values.begin(), values.end());
   return values[values.size() / 2];
 }
 
+/// The ratio is that of neighbours: the machine's speed changes, but seldom between two starts.
 void print(const char* what, const std::vector<Start> (&starts)[2], double Start::*value,
            const char* wanted) {
-  const double empty = median(starts[0], value);
-  const double tool = median(starts[1], value);
-  std::printf("%-28s %9.1f %9.1f %8.2f   %s\n", what, empty, tool, tool / empty, wanted);
+  std::vector<double> empty;
+  std::vector<double> tool;
+  std::vector<double> ratios;
+  for (std::size_t i = 0; i < starts[0].size(); ++i) {
+    empty.push_back(starts[0][i].*value);
+    tool.push_back(starts[1][i].*value);
+    ratios.push_back(tool.back() / empty.back());
+  }
+  std::printf("%-28s %9.1f %9.1f %8.2f   %s\n", what, median(empty), median(tool), median(ratios),
+              wanted);
 }
 
 std::wstring widened(const char* text) {
