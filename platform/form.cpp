@@ -40,8 +40,9 @@ bool Form::unload(CloseReason reason) {
   if (on_query_unload) on_query_unload(cancel, reason);
   if (cancel) return false;
   loaded_ = false;
-  if (on_unload) on_unload();
+  // The window first: what is to be done at the end is nothing to wait for.
   refresh(Aspect::kVisible);
+  if (on_unload) on_unload();
   return true;
 }
 

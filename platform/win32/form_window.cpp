@@ -158,7 +158,10 @@ void FormWindow::refresh(Aspect aspect) {
       show_pointer();
       break;
     case Aspect::kVisible:
-      MessageLoop::wake();  // the form is unloaded; its window goes with this object
+      // The form is unloaded; its window goes with this object. A dialog stays until its owner takes
+      // input again, or the system would bring another program's window forward.
+      if (owner_ == nullptr) ShowWindow(window(), SW_HIDE);
+      MessageLoop::wake();
       break;
     default:
       break;  // redrawing is looked up when it matters

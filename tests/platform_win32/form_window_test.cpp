@@ -37,6 +37,27 @@ TEST_F(FormWindowTest, PastedTextIsShownAsTheToolTookIt) {
   EXPECT_EQ(window_text(window(form_.text)), L"L 1; 2");
 }
 
+TEST_F(FormWindowTest, AHiddenControlGetsItsWindowWhenItIsShownAtItsPlaceInTheTabOrder) {
+  form_.list.set_items({"Vorname"});
+  form_.list.set_visible(false);
+  show();
+  EXPECT_EQ(window(form_.list), nullptr);
+  form_.list.set_visible(true);
+  loop_.pump();
+  ASSERT_NE(window(form_.list), nullptr);
+  EXPECT_EQ(GetWindow(window(form_.list), GW_HWNDPREV), window(form_.text));
+  EXPECT_EQ(GetWindow(window(form_.list), GW_HWNDNEXT), window(form_.view));
+  EXPECT_EQ(send(form_.list, LB_GETCOUNT), 1);
+}
+
+TEST_F(FormWindowTest, AMainWindowIsGoneBeforeItsLastWorkIsDone) {
+  bool seen = true;
+  form_.on_unload = [&] { seen = IsWindowVisible(window_of(form_)) != 0; };
+  show();
+  form_.unload();
+  EXPECT_FALSE(seen);
+}
+
 TEST_F(FormWindowTest, ATextSetByCodeRaisesChangeOnce) {
   int changes = 0;
   form_.text.on_change = [&] { ++changes; };
