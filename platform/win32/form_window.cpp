@@ -158,8 +158,8 @@ void FormWindow::refresh(Aspect aspect) {
       show_pointer();
       break;
     case Aspect::kVisible:
-      // The form is unloaded; its window goes with this object. A dialog stays until its owner takes
-      // input again, or the system would bring another program's window forward.
+      // The form is unloaded; its window goes with this object. A dialog stays until its owner
+      // takes input again, or the system would bring another program's window forward.
       if (owner_ == nullptr) ShowWindow(window(), SW_HIDE);
       MessageLoop::wake();
       break;
