@@ -2,6 +2,8 @@
 // Usage: screenshots FOLDER [LANGUAGE [MARK]]; the mark becomes part of the file names.
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include "platform/win32/text_win32.h"
 #include "support/text.h"
 #include "tests/e2e/wizard_test.h"
@@ -60,7 +62,12 @@ TEST_F(Screenshots, EveryPageAndDialog) {
                concat("[General]\r\nmyVWL=49\r\nLanguage=", options().language, "\r\n"));
   start_by_phone_book();
   keep(main_, "1_source");
-  fill(main_.after(words_.file), suite_.contacts());
+  // Where a user would have it.
+  const std::string file = "C:\\Kontakte\\kontakte.csv";
+  std::filesystem::create_directory("C:\\Kontakte");
+  std::filesystem::copy_file(suite_.contacts(), file,
+                             std::filesystem::copy_options::overwrite_existing);
+  fill(main_.after(words_.file), file);
   keep(main_, "1_source_with_file");
   next(words_.next, "2_columns");
   next(words_.next, "3_names");
