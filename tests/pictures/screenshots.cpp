@@ -65,8 +65,8 @@ TEST_F(Screenshots, EveryPageAndDialog) {
   // Where a user would have it.
   const std::string file = "C:\\Kontakte\\kontakte.csv";
   std::filesystem::create_directory("C:\\Kontakte");
-  std::filesystem::copy_file(suite_.contacts(), file,
-                             std::filesystem::copy_options::overwrite_existing);
+  std::filesystem::remove(file);
+  std::filesystem::copy_file(suite_.contacts(), file);
   fill(main_.after(words_.file), file);
   keep(main_, "1_source_with_file");
   next(words_.next, "2_columns");
