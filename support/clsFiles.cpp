@@ -1,6 +1,5 @@
 #include "support/clsFiles.h"
 
-#include <cstring>
 #include <utility>
 
 #include "platform/clock.h"
@@ -25,29 +24,13 @@ std::string_view newest_lines(std::string_view log, std::int32_t maximum) {
   return log;
 }
 
-/// How many CR LF the text has, and in `line_feeds` how many LF.
-long count_line_ends(std::string_view text, long& line_feeds) {
-  long line_ends = 0;
-  line_feeds = 0;
-  const char* const begin = text.data();
-  const char* const end = begin + text.size();
-  for (const char* at = begin; at != end; ++at) {
-    const void* const found = std::memchr(at, '\n', static_cast<std::size_t>(end - at));
-    if (found == nullptr) break;
-    at = static_cast<const char*>(found);
-    ++line_feeds;
-    if (at != begin && at[-1] == '\r') ++line_ends;
-  }
-  return line_ends;
-}
-
 }  // namespace
 
 long line_count(std::string_view text) {
   if (text.empty()) return 0;
-  long line_feeds = 0;
-  const long line_ends = count_line_ends(text, line_feeds);
-  return line_ends > 0 ? line_ends + (text.ends_with(kCrLf) ? 0 : 1) : line_feeds / 2 + 1;
+  const auto line_ends = static_cast<long>(count_line_ends(text));
+  if (line_ends > 0) return line_ends + (text.ends_with(kCrLf) ? 0 : 1);
+  return static_cast<long>(count_of(text, '\n')) / 2 + 1;
 }
 
 void clsFiles::FileWrite_Log(std::string_view path, std::string_view text, std::int32_t maximum) {

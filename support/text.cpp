@@ -35,6 +35,30 @@ void append_utf8(std::string& out, char32_t code_point) {
   }
 }
 
+/// How many of so many places match. Small counters side by side, emptied before they overflow: the
+/// compiler makes vector instructions of this, which it does not of a single large counter.
+template <class Matches>
+std::size_t count_places(std::size_t places, Matches matches) {
+  constexpr std::size_t kLanes = 32;
+  constexpr std::size_t kBlock = kLanes * 255;
+  std::size_t count = 0;
+  std::size_t at = 0;
+  while (places - at >= kLanes) {
+    std::array<unsigned char, kLanes> lanes{};
+    const std::size_t end = at + std::min(places - at, kBlock) / kLanes * kLanes;
+    for (; at < end; at += kLanes) {
+      for (std::size_t lane = 0; lane < kLanes; ++lane) {
+        lanes[lane] = static_cast<unsigned char>(lanes[lane] + (matches(at + lane) ? 1 : 0));
+      }
+    }
+    for (const unsigned char lane : lanes) count += lane;
+  }
+  for (; at < places; ++at) {
+    if (matches(at)) ++count;
+  }
+  return count;
+}
+
 }  // namespace
 
 std::string concat(std::initializer_list<std::string_view> parts) {
@@ -95,23 +119,16 @@ bool next_part(std::string_view& rest, std::string_view separator, std::string_v
 }
 
 std::size_t count_of(std::string_view text, char character) {
-  // Small counters side by side, emptied before they overflow: the compiler makes vector
-  // instructions of this, which it does not of a single large counter.
-  constexpr std::size_t kLanes = 32;
-  constexpr std::size_t kBlock = kLanes * 255;
-  std::size_t count = 0;
-  while (text.size() >= kLanes) {
-    std::array<unsigned char, kLanes> lanes{};
-    const std::size_t end = std::min(text.size(), kBlock) / kLanes * kLanes;
-    for (std::size_t at = 0; at < end; at += kLanes) {
-      for (std::size_t lane = 0; lane < kLanes; ++lane) {
-        lanes[lane] = static_cast<unsigned char>(lanes[lane] + (text[at + lane] == character));
-      }
-    }
-    for (const unsigned char lane : lanes) count += lane;
-    text.remove_prefix(end);
-  }
-  return count + static_cast<std::size_t>(std::count(text.begin(), text.end(), character));
+  return count_places(text.size(), [&](std::size_t at) { return text[at] == character; });
+}
+
+std::size_t count_line_ends(std::string_view text) {
+  if (text.empty()) return 0;
+  return count_places(text.size() - 1, [&](std::size_t at) {
+    const bool first = text[at] == '\r';
+    const bool second = text[at + 1] == '\n';
+    return (static_cast<unsigned>(first) & static_cast<unsigned>(second)) != 0;
+  });
 }
 
 std::string to_utf8(std::string_view text) {

@@ -25,6 +25,9 @@ TEST(LineCount, FollowsTheRuleOfEachLineEnd) {
   EXPECT_EQ(line_count("a\nb\nc\nd\n"), 3) << "LF line ends count half, and one more";
   EXPECT_EQ(line_count("a\nb\nc\n"), 2);
   EXPECT_EQ(line_count("\n"), 1);
+  std::string long_text;
+  for (int line = 0; line < 5000; ++line) long_text += concat(std::to_string(line), "\r\n\r x\n");
+  EXPECT_EQ(line_count(long_text), 5001);
   EXPECT_EQ(line_count("a\nb\r\nc\nd"), 2) << "one CR LF makes it the line end";
   EXPECT_EQ(line_count("\r\n\r\n"), 2);
 }
