@@ -1,4 +1,6 @@
+#include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "app/app.h"
@@ -11,6 +13,11 @@
 #include "support/text.h"
 
 namespace quenda {
+namespace {
+
+constexpr std::uint64_t kLargeFile = 8UL * 1024 * 1024;  // bytes
+
+}  // namespace
 
 void fMain::cmdFile_Click() {
   procedure(app_.errors, "fMain.cmdFile_Click", {}, [&] {
@@ -53,16 +60,25 @@ void fMain::FileImport() {
   procedure(app_.errors, "fMain.FileImport", {}, [&] {
     const std::string& path = txtImpFile.text();
     if (!app_.services.files.exists(path)) return;
-    // Reading handles no events, so that nothing is lost of a path that is still being typed.
     const Hourglass hourglass(*this);
+    // Only a large file is worth a look at what the user does meanwhile: keys other than "cancel"
+    // are lost then, and a path may still be being typed.
+    std::optional<BusyWork> busy;
+    if (app_.services.files.size(path) > kLargeFile) busy.emplace(*this);
+    const auto pause = [&] {
+      if (busy) answer_events();
+    };
+    pause();
     long count = 0;
     // The text before is given up first: two files need not fit into memory together.
     source.ImportText = std::make_shared<std::string>();
     source.ImportText = std::make_shared<std::string>(
         clsFiles(app_.errors, app_.services.files, app_.services.clock)
             .fOpenFileToStream(path, count));
+    pause();
     RecordTable lines = split_lines(source.ImportText);
     if (!lines.empty()) source.ImportRows = std::move(lines);
+    pause();
     StatusBar.set_panel(2, "");
     show_counts(static_cast<std::size_t>(count), texts.file_read);
     source.IsISpyFile = is_ispy_log(path);

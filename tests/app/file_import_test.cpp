@@ -285,5 +285,19 @@ TEST_F(FileImport, CancelInALongLoopEndsTheProgram) {
   EXPECT_EQ(machine.files.writes(kBookPath), 0);
 }
 
+TEST_F(FileImport, CancelWhileALargeFileIsReadEndsTheProgramAndASmallOneIsReadAtOnce) {
+  start();
+  machine.events.on_yield = [&] {
+    machine.events.on_yield = nullptr;
+    form->cmdCancel.take_user_click();
+  };
+  take_file(kContacts);
+  EXPECT_TRUE(form->cmdFor.enabled()) << "keys of a path that is still typed are not lost";
+  std::string large = "Name;Nummer\r\n";
+  large.resize(9'000'000, ' ');
+  EXPECT_THROW(take_file(large), EndProgram);
+  EXPECT_EQ(machine.host_link.texts, (Texts{"ON", "cancel"}));
+}
+
 }  // namespace
 }  // namespace quenda
