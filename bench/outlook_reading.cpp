@@ -1,5 +1,5 @@
 // Measures how long reading the contacts takes against a bare loop of the same calls, both on the
-// stand-in for Outlook. Usage: outlook_speed [CONTACTS] [ROUNDS]
+// stand-in for Outlook. Usage: outlook_reading [CONTACTS] [ROUNDS]
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
