@@ -5,6 +5,10 @@ jobs=$(nproc)
 say() { printf '\n== %s\n' "$*"; }
 die() { printf '%s\n' "$*" >&2; exit 1; }
 
+# Tidies up with these commands when the script ends. All of them run, whatever they say, and the
+# script's own status comes out: in a plain trap a failing command would become the status.
+at_exit() { trap "status=\$?; set +e; $1; exit \$status" EXIT; }
+
 # Installs what is missing of the Debian packages named.
 need_packages() {
   local missing=() package
