@@ -19,18 +19,19 @@ void fMain::tmOLcheck_Timer() {
   procedure(app_.errors, "fMain.tmOLcheck_Timer", {}, [&] {
     tmOLcheck.set_enabled(false);
     outlook_.isOutlookInstalled(true);
-    labOLhint.set_visible(!outlook_.installed());
+    const bool installed = outlook_.installed();
+    labOLhint.set_visible(!installed);
     cmdOutlook.set_enabled(outlook_importable() && txtImpFile.enabled());
-    if (!outlook_.installed()) {
-      labOLver.set_caption(texts.outlook_not_inst);
-      StatusBar.set_panel(2, texts.outlook_not_inst);
-      return;
+    std::string label = texts.outlook_not_inst;
+    std::string result = texts.outlook_not_inst;
+    if (installed) {
+      label = concat(outlook_.version_name(), "  v", outlook_.major_version());
+      if (outlook_.contact_count() == 0) label.append(" ").append(texts.data_not_found);
+      result = concat(std::to_string(outlook_.contact_count()), " ", texts.contacts_found);
     }
-    std::string version = concat(outlook_.version_name(), "  v", outlook_.major_version());
-    if (outlook_.contact_count() == 0) version.append(" ").append(texts.data_not_found);
-    labOLver.set_caption(version);
-    StatusBar.set_panel(
-        2, concat(std::to_string(outlook_.contact_count()), " ", texts.contacts_found));
+    labOLver.set_caption(label);
+    // Outlook may take its time to answer; what a file taken meanwhile has to say is worth more.
+    if (StatusBar.panel(2) == texts.outlook_search) StatusBar.set_panel(2, result);
   });
 }
 

@@ -132,6 +132,16 @@ TEST_F(OutlookImport, TheLabelSaysWhatWasFound) {
   EXPECT_FALSE(form->cmdOutlook.enabled());
 }
 
+TEST_F(OutlookImport, FoundLateItLeavesTheStatusOfAFileTakenMeanwhile) {
+  install_outlook(machine.automation, "16.0", {contact("Eva", "030 1234567", "")});
+  start();
+  take_file("Name;Telefon\r\nUdo;030 7654321\r\n");
+  form->tmOLcheck.take_tick();
+  EXPECT_EQ(form->StatusBar.panel(2), "Trennzeichen erkannt");
+  EXPECT_EQ(form->labOLver.caption(), u8"Outlook®v16  v16"_de);
+  EXPECT_TRUE(form->cmdOutlook.enabled());
+}
+
 TEST_F(OutlookImport, AFaultWhileReadingIsSaidAndNothingHalfIsOffered) {
   const auto udo = contact("Udo", "030 7654321", "");
   start_with("16.0", {contact("Eva", "030 1234567", ""), udo});
