@@ -17,8 +17,8 @@ TEST_F(CsvImport, FirstImportFromFileDialogToBook) {
   const std::string before = suite_.book();
   click_button(kChooseFile);
   choose_file(dialog_over(main_), suite_.contacts());
-  EXPECT_TRUE(becomes([&] { return panel_of(main_, 1) == "Importmode: CSV"; }));
-  EXPECT_EQ(panel_of(main_, 2), "Trennzeichen erkannt");
+  EXPECT_TRUE(becomes([&] { return panel_of(main_, 2) == "Trennzeichen erkannt"; }));
+  EXPECT_EQ(panel_of(main_, 1), "Importmode: CSV");
   EXPECT_THAT(selected_in(main_.after("Trennzeichen")), ElementsAre("Semikolon"));
   forward(Page::kColumns);
   EXPECT_FALSE(button(kNext).enabled()) << "no columns are chosen yet";
