@@ -1,6 +1,8 @@
 #include "platform/win32/com_values.h"
 
 #include <array>
+#include <chrono>
+#include <cmath>
 #include <cstdio>
 
 #include "platform/win32/text_win32.h"
@@ -10,6 +12,12 @@ namespace quenda {
 namespace {
 
 constexpr LCID kGerman = 0x0407;
+
+// The component system counts days from here, from the year 100 to the year 9999.
+constexpr std::chrono::sys_days kDayZero{std::chrono::year(1899) / 12 / 30};
+constexpr double kFirstDay = -657434;
+constexpr double kLastDay = 2958465;
+constexpr double kSecondsPerDay = 86400;
 
 BSTR allocate(std::string_view text) {
   const std::wstring units = wide(text);
@@ -70,17 +78,23 @@ ComPtr<IDispatch> Variant::object() {
 }
 
 std::string german_date(double date) {
-  SYSTEMTIME time{};
-  if (VariantTimeToSystemTime(date, &time) == FALSE) raise_fault(kFaultTypeMismatch);
+  // Before the first day the fraction counts forward, too: -1.25 is 6 o'clock on 29.12.1899.
+  const double day = std::trunc(date);
+  const auto seconds = std::chrono::seconds(std::lround(std::abs(date - day) * kSecondsPerDay));
+  if (!(day >= kFirstDay && day <= kLastDay)) raise_fault(kFaultTypeMismatch);
+  const auto moment = kDayZero + std::chrono::days(static_cast<int>(day)) + seconds;
+  const auto midnight = std::chrono::floor<std::chrono::days>(moment);
+  const std::chrono::year_month_day on(midnight);
+  const std::chrono::hh_mm_ss at(moment - midnight);
   std::array<char, 64> text{};
-  int length =
-      std::snprintf(text.data(), text.size(), "%02u.%02u.%04u", static_cast<unsigned>(time.wDay),
-                    static_cast<unsigned>(time.wMonth), static_cast<unsigned>(time.wYear));
-  if (time.wHour != 0 || time.wMinute != 0 || time.wSecond != 0) {
-    length +=
-        std::snprintf(text.data() + length, text.size() - static_cast<std::size_t>(length),
-                      " %02u:%02u:%02u", static_cast<unsigned>(time.wHour),
-                      static_cast<unsigned>(time.wMinute), static_cast<unsigned>(time.wSecond));
+  int length = std::snprintf(text.data(), text.size(), "%02u.%02u.%04d",
+                             static_cast<unsigned>(on.day()), static_cast<unsigned>(on.month()),
+                             static_cast<int>(on.year()));
+  if (moment != midnight) {
+    length += std::snprintf(text.data() + length, text.size() - static_cast<std::size_t>(length),
+                            " %02d:%02d:%02d", static_cast<int>(at.hours().count()),
+                            static_cast<int>(at.minutes().count()),
+                            static_cast<int>(at.seconds().count()));
   }
   return {text.data(), static_cast<std::size_t>(length)};
 }

@@ -49,7 +49,8 @@ class Variant {
   VARIANT value_{};
 };
 
-/// A date of the component system (days since 30.12.1899) as German text.
+/// A date of the component system (days since 30.12.1899) as German text; fault 13 for a day before
+/// the year 100 or after 9999.
 std::string german_date(double date);
 
 }  // namespace quenda

@@ -141,6 +141,7 @@ void FormWindow::show() {
   SetForegroundWindow(window());
   UpdateWindow(window());
   ready_ = true;
+  show_icons();
   // The system has chosen the first field; where the work begins is for the form to say.
   focus_.page_shown();
   settle(true);

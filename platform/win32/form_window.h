@@ -79,6 +79,9 @@ class FormWindow : public ControlPeer, public LoopClient {
   [[nodiscard]] bool takes_input() const;
 
   void use_dpi(int dpi);
+  /// The icons of the title bar and the task bar, which come after the window: to load them before
+  /// would keep the user waiting for it.
+  void show_icons();
   void place_window();
   [[nodiscard]] SIZE border() const;
   /// As designed, without what the user has added.

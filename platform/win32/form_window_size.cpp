@@ -42,9 +42,13 @@ void FormWindow::use_dpi(int dpi) {
     control->apply_font();
     control->refresh(Aspect::kPlace);
   }
+  if (ready_) show_icons();
   RedrawWindow(window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
-  big_icon_ = load_icon(SM_CXICON, SM_CYICON, dpi);
-  small_icon_ = load_icon(SM_CXSMICON, SM_CYSMICON, dpi);
+}
+
+void FormWindow::show_icons() {
+  big_icon_ = load_icon(SM_CXICON, SM_CYICON, dpi_);
+  small_icon_ = load_icon(SM_CXSMICON, SM_CYSMICON, dpi_);
   SendMessageW(window(), WM_SETICON, ICON_BIG, as_lparam(big_icon_.get()));
   SendMessageW(window(), WM_SETICON, ICON_SMALL, as_lparam(small_icon_.get()));
 }

@@ -14,8 +14,6 @@ namespace {
 
 constexpr const wchar_t* kInstanceName = L"Local\\Quenda.Import";
 
-using IdList = Handle<LPITEMIDLIST, &CoTaskMemFree>;
-
 std::string executable_path() {
   std::wstring path(MAX_PATH, L'\0');
   for (;;) {
@@ -35,12 +33,11 @@ std::wstring_view skip_blanks(std::wstring_view text) {
 
 }  // namespace
 
+/// By its path at once: the way over the shell's own lists looks up names and pictures for display,
+/// which takes longer than all else that is read at the start.
 std::string Win32System::special_folder(int number) const {
-  LPITEMIDLIST found = nullptr;
-  if (FAILED(SHGetSpecialFolderLocation(nullptr, number, &found))) return {};
-  const IdList list(found);
   std::array<wchar_t, MAX_PATH + 1> path{};
-  if (SHGetPathFromIDListW(list.get(), path.data()) == 0) return {};
+  if (SHGetFolderPathW(nullptr, number, nullptr, SHGFP_TYPE_CURRENT, path.data()) != S_OK) return {};
   std::string folder = usable_path(path.data()).value_or("");
   if (!folder.empty() && folder.back() == '\\') folder.pop_back();
   return folder;

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <functional>
 #include <map>
 #include <set>
@@ -197,8 +198,14 @@ TEST_F(ComAutomationTest, ValuesArriveAsTexts) {
   EXPECT_EQ(object->number("Class"), 40);
 }
 
-TEST_F(ComAutomationTest, ADateThatMeansNoneIsGivenAsTheProgramGivesIt) {
-  EXPECT_EQ(german_date(949998.0), "01.01.4501");
+TEST_F(ComAutomationTest, DatesAreShortGermanTexts) {
+  EXPECT_EQ(german_date(949998.0), "01.01.4501") << "what the program gives for no date";
+  EXPECT_EQ(german_date(-1.25), "29.12.1899 06:00:00");
+  EXPECT_EQ(german_date(-657434.0), "01.01.0100");
+  EXPECT_EQ(german_date(45000.9999999), "16.03.2023") << "nearest second";
+  for (const double none : {2958466.0, -657435.0, std::nan("")}) {
+    EXPECT_EQ(fault_of([&] { german_date(none); }), kFaultTypeMismatch) << none;
+  }
 }
 
 TEST_F(ComAutomationTest, MembersAreLookedUpOncePerTypeOfObject) {
