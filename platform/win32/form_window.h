@@ -85,8 +85,7 @@ class FormWindow : public ControlPeer, public LoopClient {
   void place_window();
   [[nodiscard]] SIZE border() const;
   /// As designed, without what the user has added.
-  [[nodiscard]] SIZE inner_size() const;
-  [[nodiscard]] SIZE outer_size(Growth growth) const;
+  [[nodiscard]] SIZE outer_size() const;
   void show_pointer() const;
   void tell_names();
   void give_access_keys();

@@ -62,17 +62,12 @@ SIZE FormWindow::border() const {
   return {area.right - area.left, area.bottom - area.top};
 }
 
-SIZE FormWindow::inner_size() const {
+SIZE FormWindow::outer_size() const {
+  const SIZE around = border();
   const int outer = form_.outer_width();
   const LONG width =
-      outer > 0 ? pixels_of(outer, dpi_) - border().cx : pixels_of(form_.place().width, dpi_);
-  return {width, pixels_of(form_.place().height, dpi_)};
-}
-
-SIZE FormWindow::outer_size(Growth growth) const {
-  const SIZE inner = inner_size();
-  const SIZE around = border();
-  return {inner.cx + around.cx + growth.across, inner.cy + around.cy + growth.down};
+      outer > 0 ? pixels_of(outer, dpi_) : pixels_of(form_.place().width, dpi_) + around.cx;
+  return {width, pixels_of(form_.place().height, dpi_) + around.cy};
 }
 
 /// Positions are kept at the system's DPI, whatever screen the window is on, so that a remembered
@@ -86,7 +81,7 @@ void FormWindow::place_window() {
   SetWindowPos(window(), nullptr, place.left, place.top, 0, 0,
                SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
   use_dpi(static_cast<int>(GetDpiForWindow(window())));
-  const SIZE size = outer_size({});
+  const SIZE size = outer_size();
   RECT owner{};
   if (owner_ != nullptr && form_.place().left == 0 && form_.place().top == 0 &&
       GetWindowRect(owner_, &owner) != 0) {
@@ -104,10 +99,11 @@ void FormWindow::place_window() {
 void FormWindow::on_dpi(int dpi, const RECT& place) {
   const Growth grown{MulDiv(growth_.across, dpi, dpi_), MulDiv(growth_.down, dpi, dpi_)};
   use_dpi(dpi);
-  const SIZE needed = outer_size(grown);
+  const SIZE least = outer_size();
   SetWindowPos(window(), nullptr, place.left, place.top,
-               std::max(place.right - place.left, needed.cx),
-               std::max(place.bottom - place.top, needed.cy), SWP_NOZORDER | SWP_NOACTIVATE);
+               std::max(place.right - place.left, least.cx + grown.across),
+               std::max(place.bottom - place.top, least.cy + grown.down),
+               SWP_NOZORDER | SWP_NOACTIVATE);
   on_size();
 }
 
@@ -116,9 +112,10 @@ void FormWindow::on_size() {
   if (IsIconic(window()) != 0 || GetClientRect(window(), &area) == 0) return;
   growth_ = {};
   if (form_.resizable()) {
-    const SIZE designed = inner_size();
-    growth_ = {static_cast<int>(area.right - designed.cx),
-               static_cast<int>(area.bottom - designed.cy)};
+    const SIZE designed = outer_size();
+    const SIZE around = border();
+    growth_ = {static_cast<int>(area.right + around.cx - designed.cx),
+               static_cast<int>(area.bottom + around.cy - designed.cy)};
   }
   for (const auto& control : controls_) control->refresh(Aspect::kPlace);
 }
@@ -134,7 +131,7 @@ void FormWindow::on_move() {
 
 void FormWindow::limit_size(MINMAXINFO& limits) const {
   if (!form_.resizable() || !fonts_) return;
-  const SIZE least = outer_size({});
+  const SIZE least = outer_size();
   limits.ptMinTrackSize = {least.cx, least.cy};
 }
 

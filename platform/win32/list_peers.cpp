@@ -96,15 +96,6 @@ class NativeComboList : public PeerOf<ComboList> {
     refresh(Aspect::kIndex);
   }
 
-  /// The height of the control is that of the closed field; the list needs room of its own.
-  void place() override {
-    constexpr int kRowsShown = 10;
-    const Pixels to = laid_out(control(), form().dpi(), form().growth());
-    const auto row = static_cast<int>(send(CB_GETITEMHEIGHT, 0));
-    SetWindowPos(window(), nullptr, to.left, to.top, to.width, to.height + kRowsShown * row,
-                 SWP_NOZORDER | SWP_NOACTIVATE);
-  }
-
  protected:
   [[nodiscard]] WindowSpec spec() const override {
     return {WC_COMBOBOXW, true, WS_VSCROLL | CBS_DROPDOWNLIST};
