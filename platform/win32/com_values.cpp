@@ -87,9 +87,9 @@ std::string german_date(double date) {
   const std::chrono::year_month_day on(midnight);
   const std::chrono::hh_mm_ss at(moment - midnight);
   std::array<char, 64> text{};
-  int length = std::snprintf(text.data(), text.size(), "%02u.%02u.%04d",
-                             static_cast<unsigned>(on.day()), static_cast<unsigned>(on.month()),
-                             static_cast<int>(on.year()));
+  int length =
+      std::snprintf(text.data(), text.size(), "%02u.%02u.%04d", static_cast<unsigned>(on.day()),
+                    static_cast<unsigned>(on.month()), static_cast<int>(on.year()));
   if (moment != midnight) {
     length += std::snprintf(text.data() + length, text.size() - static_cast<std::size_t>(length),
                             " %02d:%02d:%02d", static_cast<int>(at.hours().count()),

@@ -37,7 +37,8 @@ std::wstring_view skip_blanks(std::wstring_view text) {
 /// which takes longer than all else that is read at the start.
 std::string Win32System::special_folder(int number) const {
   std::array<wchar_t, MAX_PATH + 1> path{};
-  if (SHGetFolderPathW(nullptr, number, nullptr, SHGFP_TYPE_CURRENT, path.data()) != S_OK) return {};
+  if (SHGetFolderPathW(nullptr, number, nullptr, SHGFP_TYPE_CURRENT, path.data()) != S_OK)
+    return {};
   std::string folder = usable_path(path.data()).value_or("");
   if (!folder.empty() && folder.back() == '\\') folder.pop_back();
   return folder;
