@@ -137,6 +137,8 @@ void fMain::cmdBack_Click() {
       case Source::kFile:
         --wizard.CurrentPage;
         if (wizard.CurrentPage > kFirstPage) {
+          // Back from a book that could not be written: the next step is the writing again.
+          if (wizard.CurrentPage == kEntryPage) cmdFor.set_caption(app_.shared_texts.Button_Resume);
           cmdFor.set_enabled(true);
           ShowSite();
         } else {

@@ -86,6 +86,7 @@ TEST_F(LastPage, FaultyBookLineStopsTheImportBeforeAnythingIsWritten) {
   machine.files.put(kBookPath, kOldLine);
   form->optAsk(2).take_user_click();
   back();
+  EXPECT_EQ(form->cmdFor.caption(), u8"Übernehmen"_de) << "the next click writes";
   finish();
   EXPECT_EQ(book(), std::string(kOldLine) + line("Huber", "0897654321"));
 }
