@@ -205,7 +205,7 @@ void fMain::design() {
     preview->set_locked(true);
     preview->set_back_color(BackColor::kButtonFace);
   }
-  lstImport.set_columns({{"", 2000}, {"", 1400}, {"", 3000}});
+  lstImport.set_columns({{"", 2000}, {"", 1750}, {"", 3000}});
   lstImpFinal.set_columns({{"", 2600}, {"", 1800}, {"", 2550}});
   txtDDE.set_visible(false);
   labLimError.set_visible(false);

@@ -11,6 +11,31 @@
 #include "wizard/header_columns.h"
 
 namespace quenda {
+namespace {
+
+/// As wide as the header and the first records want them.
+std::vector<ListColumn> preview_columns(const std::vector<std::string>& header,
+                                        const RecordTable& records, const std::string& delimiter) {
+  constexpr std::size_t kRecordsLookedAt = 50;
+  constexpr std::size_t kMark = 5;  // what a heading gets when its column is chosen
+  std::vector<std::size_t> longest;
+  longest.reserve(header.size());
+  for (const std::string& heading : header) longest.push_back(heading.size() + kMark);
+  for (std::size_t row = 1; row < std::min(records.size(), kRecordsLookedAt); ++row) {
+    const auto fields = shown_fields(records[row], delimiter.front());
+    for (std::size_t i = 0; i < std::min(fields.size(), longest.size()); ++i) {
+      longest[i] = std::max(longest[i], fields[i].size());
+    }
+  }
+  std::vector<ListColumn> columns;
+  columns.reserve(header.size());
+  for (std::size_t i = 0; i < header.size(); ++i) {
+    columns.push_back({.heading = header[i], .width = preview_width(longest[i])});
+  }
+  return columns;
+}
+
+}  // namespace
 
 void fMain::ImpHeader() {
   procedure(app_.errors, "fMain.ImpHeader", {}, [&] {
@@ -38,11 +63,8 @@ void fMain::fill_header_lists(const std::vector<std::string>& header) {
   const UpdateLock lock(*this);
   const auto shared = std::make_shared<const std::vector<std::string>>(header);
   for (const auto& list : lstHeader) list->share_items(shared);
-  std::vector<ListColumn> columns;
-  columns.reserve(header.size());
-  for (const std::string& heading : header) columns.push_back({.heading = heading});
-  lstShow.set_columns(std::move(columns));
-  if (header.empty()) return;
+  if (header.empty()) return lstShow.set_columns({});
+  lstShow.set_columns(preview_columns(header, source.ImportRows, source.Delimiter));
   preview_.show(source.ImportRows, source.Delimiter.front());
   lstShow.set_source(&preview_);
 }
