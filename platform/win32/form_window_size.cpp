@@ -47,10 +47,13 @@ void FormWindow::use_dpi(int dpi) {
 }
 
 void FormWindow::show_icons() {
-  big_icon_ = load_icon(SM_CXICON, SM_CYICON, dpi_);
-  small_icon_ = load_icon(SM_CXSMICON, SM_CYSMICON, dpi_);
-  SendMessageW(window(), WM_SETICON, ICON_BIG, as_lparam(big_icon_.get()));
-  SendMessageW(window(), WM_SETICON, ICON_SMALL, as_lparam(small_icon_.get()));
+  Icon in_task_bar = load_icon(SM_CXICON, SM_CYICON, dpi_);
+  Icon in_title = load_icon(SM_CXSMICON, SM_CYSMICON, dpi_);
+  SendMessageW(window(), WM_SETICON, ICON_BIG, as_lparam(in_task_bar.get()));
+  SendMessageW(window(), WM_SETICON, ICON_SMALL, as_lparam(in_title.get()));
+  // Those before are out of use only now.
+  big_icon_ = std::move(in_task_bar);
+  small_icon_ = std::move(in_title);
 }
 
 /// What the title bar and the borders take at the window's DPI.
