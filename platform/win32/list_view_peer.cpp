@@ -86,6 +86,11 @@ class NativeListView : public PeerOf<ListView> {
   }
 
  private:
+  struct ShownColumn {
+    std::wstring heading;
+    int width = 0;  // in pixels
+  };
+
   void give_text(LVITEMW& item) const {
     if ((item.mask & LVIF_TEXT) == 0 || item.cchTextMax <= 0) return;
     const auto row = static_cast<std::size_t>(item.iItem);
@@ -144,26 +149,35 @@ class NativeListView : public PeerOf<ListView> {
     if (!muted()) typed().take_user_select(shown_row_);
   }
 
+  /// Only what differs is sent: a file may have thousands of columns, and the native heading places
+  /// all of them anew at each change.
   void show_columns() {
     const auto header = from_lparam<HWND__>(send(LVM_GETHEADER));
     const auto& columns = typed().columns();
     auto shown = static_cast<std::size_t>(SendMessageW(header, HDM_GETITEMCOUNT, 0, 0));
+    send(WM_SETREDRAW, FALSE);
+    SendMessageW(header, WM_SETREDRAW, FALSE, 0);
     while (shown > columns.size()) send(LVM_DELETECOLUMN, --shown);
-    widths_.resize(columns.size());
+    shown_columns_.resize(columns.size());
     for (std::size_t i = 0; i < columns.size(); ++i) {
-      std::wstring heading(column_mark(columns[i].kind));
-      heading += wide(columns[i].heading);
+      ShownColumn wanted{std::wstring(column_mark(columns[i].kind)),
+                         pixels_of(columns[i].width, form().dpi())};
+      wanted.heading += wide(columns[i].heading);
       LVCOLUMNW column{};
-      column.mask = LVCF_TEXT | LVCF_SUBITEM;
-      column.cx = pixels_of(columns[i].width, form().dpi());
+      column.mask = LVCF_SUBITEM;
+      if (i >= shown || shown_columns_[i].heading != wanted.heading) column.mask |= LVCF_TEXT;
       // A width that the user has dragged stays until the control asks for another.
-      if (i >= shown || widths_[i] != column.cx) column.mask |= LVCF_WIDTH;
-      widths_[i] = column.cx;
+      if (i >= shown || shown_columns_[i].width != wanted.width) column.mask |= LVCF_WIDTH;
+      if (column.mask == LVCF_SUBITEM) continue;
+      column.cx = wanted.width;
       column.iSubItem = static_cast<int>(i);
-      column.pszText = heading.data();
+      column.pszText = wanted.heading.data();
       send(i < shown ? LVM_SETCOLUMNW : LVM_INSERTCOLUMNW, i, as_lparam(&column));
+      shown_columns_[i] = std::move(wanted);
     }
-    InvalidateRect(window(), nullptr, TRUE);
+    SendMessageW(header, WM_SETREDRAW, TRUE, 0);
+    send(WM_SETREDRAW, TRUE);
+    RedrawWindow(window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
   }
 
   void show_selection() {
@@ -182,7 +196,7 @@ class NativeListView : public PeerOf<ListView> {
   }
 
   int shown_row_ = -1;
-  std::vector<int> widths_;  // in pixels, as last asked for
+  std::vector<ShownColumn> shown_columns_;  // as last asked for
 };
 
 }  // namespace
