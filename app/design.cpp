@@ -31,12 +31,4 @@ void load_captions(Form& form, std::span<const DesignEntry> design, App& app) {
   }
 }
 
-void centre_over(Form& dialog, const Form& owner) {
-  const Place& over = owner.place();
-  Place place = dialog.place();
-  place.left = over.left + (over.width - place.width) / 2;
-  place.top = over.top + (over.height - place.height) / 2;
-  dialog.set_place(place);
-}
-
 }  // namespace quenda

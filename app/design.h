@@ -27,7 +27,4 @@ void apply_design(Form& form, std::span<const DesignEntry> design);
 /// Sets the captions by their keys, in the language of the program.
 void load_captions(Form& form, std::span<const DesignEntry> design, App& app);
 
-/// Places a dialog in the middle of its owner.
-void centre_over(Form& dialog, const Form& owner);
-
 }  // namespace quenda

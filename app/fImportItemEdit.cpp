@@ -72,10 +72,7 @@ void fImportItemEdit::Language() {
 }
 
 void fImportItemEdit::SettVars(int row) {
-  procedure(app_.errors, "fImportItemEdit.SettVars", {row}, [&] {
-    row_ = row;
-    centre_over(*this, main_);
-  });
+  procedure(app_.errors, "fImportItemEdit.SettVars", {row}, [&] { row_ = row; });
 }
 
 void fImportItemEdit::cmdEdit_Click(int index) {

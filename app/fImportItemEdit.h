@@ -17,7 +17,7 @@ class fImportItemEdit : public Form {
  public:
   fImportItemEdit(App& app, fMain& main);
 
-  /// Tells the dialog which row it edits (-1 for none) and places it over the main form.
+  /// Tells the dialog which row it edits, -1 for none. It opens over the main form.
   void SettVars(int row);
   void Form_Load();
   void Form_Unload();

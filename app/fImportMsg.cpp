@@ -32,7 +32,6 @@ fImportMsg::fImportMsg(App& app, fMain& main) : Form("fImportMsg"), app_(app), m
 void fImportMsg::design() {
   apply_design(*this, kDesign);
   set_place({0, 0, 7200, 3630});
-  centre_over(*this, main_);
   for (Label* shown : {&labMsgNumber, &labMsgIn, &labMsgNew}) shown->set_shows_data(true);
   optAsk(0).choose();
   default_button = &cmdMsg(0);

@@ -42,7 +42,6 @@ fOVWInput::fOVWInput(App& app, fMain& main) : Form("fOVWInput"), app_(app), main
 void fOVWInput::design() {
   apply_design(*this, kDesign);
   set_place({0, 0, 6720, 3330});
-  centre_over(*this, main_);
   default_button = &cmdOK;
 }
 

@@ -29,7 +29,7 @@ class Form : public ControlHost {
   [[nodiscard]] const std::string& caption() const { return caption_; }
   void set_caption(std::string_view caption);
 
-  /// Outer position and inner size in twips.
+  /// Outer position and inner size in twips. A dialog at 0, 0 opens over the middle of its owner.
   [[nodiscard]] const Place& place() const { return place_; }
   void set_place(const Place& place);
   /// Width of the window with its frame; 0 for a form that only tells its inner width.

@@ -31,7 +31,6 @@ void fMain::ShowSite(bool hide_only) {
     const bool preview = wizard.CurrentPage == 1 || wizard.CurrentPage == 2;
     lstShow.set_visible(preview);
     labShow.set_visible(preview);
-    if (preview) lstShow.bring_to_front();
     show_title(wizard.CurrentPage + 1);
   });
 }

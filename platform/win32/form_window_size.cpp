@@ -89,7 +89,7 @@ void FormWindow::place_window() {
   if (owner_ != nullptr && form_.place().left == 0 && form_.place().top == 0 &&
       GetWindowRect(owner_, &owner) != 0) {
     place.left = (owner.left + owner.right - size.cx) / 2;
-    place.top = (owner.top + owner.bottom - size.cy) / 3;
+    place.top = owner.top + (owner.bottom - owner.top - size.cy) / 2;
   }
   place.right = place.left + size.cx;
   place.bottom = place.top + size.cy;

@@ -35,6 +35,9 @@ TEST_F(EntryEdit, AnEditedEntryKeepsItsPlaceAndIsCleaned) {
   go_to_list();
   double_click_at(final_list(), point_in_row(final_list(), 1));
   const Window dialog = dialog_over(main_);
+  const RECT over = main_.place();
+  const RECT place = dialog.place();
+  EXPECT_NEAR(place.left + place.right, over.left + over.right, 1) << "over the main window";
   EXPECT_EQ(dialog.after("Name").text(), "Berg Anna (mobil)");
   EXPECT_EQ(dialog.after("Nummer").text(), "01713920056");
   fill(dialog.after("Name"), "Dr. Anna Berg");

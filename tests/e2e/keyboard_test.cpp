@@ -73,6 +73,8 @@ TEST_F(Keyboard, WholeImportWithoutAMouse) {
   choose_by_keys("Spalten Name", 0);
   choose_by_keys("Spalten Rufnummer", 3);
   choose_by_keys("Spalten Adresse 1", 5);
+  alt(label("Vorschau der Daten"));
+  EXPECT_TRUE(becomes([&] { return main_.after("Vorschau der Daten").focused(); }));
   enter_to(Page::kNames);
   enter_to(Page::kAddresses);
   const Window first = main_.find("Mobil").find("1");

@@ -40,5 +40,20 @@ TEST_F(FormWindowTest, APositionOutsideEveryScreenIsShownWithinAndKeptAsItIs) {
   EXPECT_EQ(form_.place().left, 300) << "the user has moved it";
 }
 
+TEST_F(FormWindowTest, ADialogOpensOverTheMiddleOfItsOwner) {
+  form_.set_place({1500, 6000, 9000, 4500});
+  form_.set_outer_width(9000);
+  show();
+  TestForm asked;
+  asked.set_place({0, 0, 4500, 1500});
+  const FormWindow dialog(loop_, asked, window_of(form_));
+  RECT owner{};
+  RECT place{};
+  GetWindowRect(window_of(form_), &owner);
+  GetWindowRect(dialog.window(), &place);
+  EXPECT_NEAR(place.left + place.right, owner.left + owner.right, 1);
+  EXPECT_NEAR(place.top + place.bottom, owner.top + owner.bottom, 1);
+}
+
 }  // namespace
 }  // namespace quenda
