@@ -10,8 +10,6 @@
 namespace quenda {
 namespace {
 
-using Letters = std::array<bool, 256>;
-
 unsigned char folded(char character) { return static_cast<unsigned char>(to_lower(character)); }
 
 bool is_letter(char character) {
@@ -29,14 +27,64 @@ std::size_t own_key(std::string_view caption) {
   return std::string_view::npos;
 }
 
-std::size_t free_letter(std::string_view caption, const Letters& taken, bool only_beginnings) {
-  for (std::size_t i = 0; i < caption.size(); ++i) {
-    const bool beginning = i == 0 || caption[i - 1] == ' ' || caption[i - 1] == '-';
-    if (only_beginnings && !beginning) continue;
-    if (is_letter(caption[i]) && !taken[folded(caption[i])]) return i;
+/// Gives each caption a letter of its own. A caption whose letters are all taken asks their holders
+/// to move to another one of theirs.
+class Letters {
+ public:
+  explicit Letters(const std::vector<std::string>& captions)
+      : captions_(captions), places_(captions.size(), std::string::npos) {
+    holders_.fill(kFree);
+    for (const std::string& caption : captions) {
+      const std::size_t own = own_key(caption);
+      if (own != std::string::npos) holders_[folded(caption[own])] = kFixed;
+    }
   }
-  return std::string_view::npos;
-}
+
+  void give(std::size_t caption) {
+    std::array<bool, 256> asked{};
+    find_place(static_cast<int>(caption), asked);
+  }
+  /// Where the letter of a caption stands in it; npos without one.
+  [[nodiscard]] std::size_t place(std::size_t caption) const { return places_[caption]; }
+
+ private:
+  static constexpr int kFree = -1;
+  static constexpr int kFixed = -2;
+
+  /// The places of a caption's letters, beginnings of words first.
+  [[nodiscard]] std::vector<std::size_t> candidates(int caption) const {
+    const std::string& text = captions_[static_cast<std::size_t>(caption)];
+    std::vector<std::size_t> found;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+      if (is_letter(text[i])) found.push_back(i);
+    }
+    std::stable_partition(found.begin(), found.end(), [&](std::size_t i) {
+      return i == 0 || text[i - 1] == ' ' || text[i - 1] == '-';
+    });
+    return found;
+  }
+
+  bool find_place(int caption, std::array<bool, 256>& asked) {
+    const std::vector<std::size_t> places = candidates(caption);
+    for (const bool taken : {false, true}) {
+      for (const std::size_t place : places) {
+        const auto letter = folded(captions_[static_cast<std::size_t>(caption)][place]);
+        const int holder = holders_[letter];
+        if (holder == kFixed || (holder != kFree) != taken || asked[letter]) continue;
+        asked[letter] = true;
+        if (taken && !find_place(holder, asked)) continue;
+        holders_[letter] = caption;
+        places_[static_cast<std::size_t>(caption)] = place;
+        return true;
+      }
+    }
+    return false;
+  }
+
+  const std::vector<std::string>& captions_;
+  std::vector<std::size_t> places_;
+  std::array<int, 256> holders_{};
+};
 
 /// Whether a label before the control speaks for it.
 bool is_field(const Control& control) {
@@ -86,20 +134,14 @@ std::vector<std::size_t> rare_captions_first(const std::vector<std::string>& cap
 }  // namespace
 
 std::vector<std::string> with_access_keys(const std::vector<std::string>& captions) {
-  Letters taken{};
-  for (const std::string& caption : captions) {
-    const std::size_t own = own_key(caption);
-    if (own != std::string::npos) taken[folded(caption[own])] = true;
+  Letters letters(captions);
+  for (const std::size_t position : rare_captions_first(captions)) {
+    const std::string& caption = captions[position];
+    if (caption.size() >= 2 && own_key(caption) == std::string::npos) letters.give(position);
   }
   std::vector<std::string> result = captions;
-  for (const std::size_t position : rare_captions_first(captions)) {
-    std::string& caption = result[position];
-    if (caption.size() < 2 || own_key(caption) != std::string::npos) continue;
-    std::size_t at = free_letter(caption, taken, true);
-    if (at == std::string::npos) at = free_letter(caption, taken, false);
-    if (at == std::string::npos) continue;
-    taken[folded(caption[at])] = true;
-    caption.insert(at, 1, '&');
+  for (std::size_t i = 0; i < result.size(); ++i) {
+    if (letters.place(i) != std::string::npos) result[i].insert(letters.place(i), 1, '&');
   }
   return result;
 }
