@@ -78,6 +78,7 @@ class NativeListView : public PeerOf<ListView> {
 
   /// Enter belongs to a list that listens to keys, not to the form's default button.
   bool on_message(UINT message, WPARAM& /*wparam*/, LPARAM lparam, LRESULT& result) override {
+    if (message == WM_SIZE && !shown_columns_.empty()) show_columns();
     const auto* const key = from_lparam<MSG>(lparam);
     if (message != WM_GETDLGCODE || key == nullptr || key->wParam != VK_RETURN) return false;
     if (!typed().on_key_down) return false;
@@ -149,19 +150,40 @@ class NativeListView : public PeerOf<ListView> {
     if (!muted()) typed().take_user_select(shown_row_);
   }
 
+  /// The widths asked for, in pixels. Columns that leave room share it, so that a larger window
+  /// cuts no names.
+  [[nodiscard]] std::vector<int> column_widths() const {
+    std::vector<int> widths;
+    int sum = 0;
+    for (const ListColumn& column : typed().columns()) {
+      widths.push_back(pixels_of(column.width, form().dpi()));
+      sum += widths.back();
+    }
+    RECT area{};
+    GetWindowRect(window(), &area);
+    const auto dpi = static_cast<UINT>(form().dpi());
+    const int room = static_cast<int>(area.right - area.left) -
+                     GetSystemMetricsForDpi(SM_CXVSCROLL, dpi) -
+                     2 * GetSystemMetricsForDpi(SM_CXEDGE, dpi);
+    if (sum == 0 || sum >= room) return widths;
+    for (int& width : widths) width = MulDiv(width, room, sum);
+    return widths;
+  }
+
   /// Only what differs is sent: a file may have thousands of columns, and the native heading places
   /// all of them anew at each change.
   void show_columns() {
     const auto header = from_lparam<HWND__>(send(LVM_GETHEADER));
     const auto& columns = typed().columns();
+    const std::vector<int> widths = column_widths();
     auto shown = static_cast<std::size_t>(SendMessageW(header, HDM_GETITEMCOUNT, 0, 0));
+    const bool hidden = (GetWindowLongPtrW(window(), GWL_STYLE) & WS_VISIBLE) == 0;
     send(WM_SETREDRAW, FALSE);
     SendMessageW(header, WM_SETREDRAW, FALSE, 0);
     while (shown > columns.size()) send(LVM_DELETECOLUMN, --shown);
     shown_columns_.resize(columns.size());
     for (std::size_t i = 0; i < columns.size(); ++i) {
-      ShownColumn wanted{std::wstring(column_mark(columns[i].kind)),
-                         pixels_of(columns[i].width, form().dpi())};
+      ShownColumn wanted{std::wstring(column_mark(columns[i].kind)), widths[i]};
       wanted.heading += wide(columns[i].heading);
       LVCOLUMNW column{};
       column.mask = LVCF_SUBITEM;
@@ -177,6 +199,7 @@ class NativeListView : public PeerOf<ListView> {
     }
     SendMessageW(header, WM_SETREDRAW, TRUE, 0);
     send(WM_SETREDRAW, TRUE);
+    if (hidden) ShowWindow(window(), SW_HIDE);  // to draw again is to be visible
     RedrawWindow(window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
   }
 

@@ -115,6 +115,26 @@ TEST_F(FormWindowTest, AMillionRowsAreThereAtOnceAndChosenColumnsAreMarked) {
   EXPECT_STREQ(cell, L"[#] Telefon");
 }
 
+TEST_F(FormWindowTest, ColumnsShareTheRoomOfAListButStayAsWideAsAskedFor) {
+  form_.set_resizable(true);
+  form_.view.set_anchors(Anchor::kBoth, Anchor::kStart);
+  form_.view.set_columns({{"Name", 500}, {"Nummer", 1000}});
+  show();
+  const auto width = [&](WPARAM column) {
+    return static_cast<int>(send(form_.view, LVM_GETCOLUMNWIDTH, column));
+  };
+  EXPECT_EQ(width(0), 33);
+  RECT place{};
+  GetWindowRect(window_of(form_), &place);
+  SetWindowPos(window_of(form_), nullptr, 0, 0, place.right - place.left + 300,
+               place.bottom - place.top, SWP_NOMOVE | SWP_NOZORDER);
+  loop_.pump();
+  RECT area{};
+  GetClientRect(window(form_.view), &area);
+  EXPECT_NEAR(width(0) + width(1), area.right, 25);
+  EXPECT_NEAR(width(1), 2 * width(0), 6);
+}
+
 /// An empty path drops nothing at all.
 void drop(HWND window, const std::wstring& path) {
   const std::size_t size = sizeof(DROPFILES) + (path.size() + 2) * sizeof(wchar_t);
