@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <numeric>
 
 #include "platform/win32/layout.h"
 #include "support/text.h"
@@ -31,8 +30,11 @@ std::size_t own_key(std::string_view caption) {
 /// to move to another one of theirs.
 class Letters {
  public:
-  explicit Letters(const std::vector<std::string>& captions)
-      : captions_(captions), places_(captions.size(), std::string::npos) {
+  /// The first `settled` captions keep the letters that they get first.
+  Letters(const std::vector<std::string>& captions, std::size_t settled)
+      : captions_(captions),
+        places_(captions.size(), std::string::npos),
+        settled_(static_cast<int>(settled)) {
     holders_.fill(kFree);
     for (const std::string& caption : captions) {
       const std::size_t own = own_key(caption);
@@ -40,9 +42,10 @@ class Letters {
     }
   }
 
-  void give(std::size_t caption) {
+  void give(std::size_t caption, bool may_ask) {
     std::array<bool, 256> asked{};
-    find_place(static_cast<int>(caption), asked);
+    const auto position = static_cast<int>(caption);
+    if (!take_free(position) && may_ask) take_from_another(position, asked);
   }
   /// Where the letter of a caption stands in it; npos without one.
   [[nodiscard]] std::size_t place(std::size_t caption) const { return places_[caption]; }
@@ -64,19 +67,33 @@ class Letters {
     return found;
   }
 
-  bool find_place(int caption, std::array<bool, 256>& asked) {
-    const std::vector<std::size_t> places = candidates(caption);
-    for (const bool taken : {false, true}) {
-      for (const std::size_t place : places) {
-        const auto letter = folded(captions_[static_cast<std::size_t>(caption)][place]);
-        const int holder = holders_[letter];
-        if (holder == kFixed || (holder != kFree) != taken || asked[letter]) continue;
-        asked[letter] = true;
-        if (taken && !find_place(holder, asked)) continue;
-        holders_[letter] = caption;
-        places_[static_cast<std::size_t>(caption)] = place;
-        return true;
-      }
+  [[nodiscard]] unsigned char letter_at(int caption, std::size_t place) const {
+    return folded(captions_[static_cast<std::size_t>(caption)][place]);
+  }
+
+  void take(int caption, std::size_t place) {
+    holders_[letter_at(caption, place)] = caption;
+    places_[static_cast<std::size_t>(caption)] = place;
+  }
+
+  bool take_free(int caption) {
+    for (const std::size_t place : candidates(caption)) {
+      if (holders_[letter_at(caption, place)] != kFree) continue;
+      take(caption, place);
+      return true;
+    }
+    return false;
+  }
+
+  bool take_from_another(int caption, std::array<bool, 256>& asked) {
+    for (const std::size_t place : candidates(caption)) {
+      const unsigned char letter = letter_at(caption, place);
+      const int holder = holders_[letter];
+      if (holder < settled_ || asked[letter]) continue;
+      asked[letter] = true;
+      if (!take_free(holder) && !take_from_another(holder, asked)) continue;
+      take(caption, place);
+      return true;
     }
     return false;
   }
@@ -84,6 +101,7 @@ class Letters {
   const std::vector<std::string>& captions_;
   std::vector<std::size_t> places_;
   std::array<int, 256> holders_{};
+  int settled_;
 };
 
 /// Whether a label before the control speaks for it.
@@ -122,22 +140,20 @@ void collect(const ControlHost& form, const Control* frame, std::vector<Control*
   }
 }
 
-std::vector<std::size_t> rare_captions_first(const std::vector<std::string>& captions) {
-  std::vector<std::size_t> positions(captions.size());
-  std::iota(positions.begin(), positions.end(), std::size_t{0});
-  std::stable_partition(positions.begin(), positions.end(), [&](std::size_t position) {
-    return std::count(captions.begin(), captions.end(), captions[position]) == 1;
-  });
-  return positions;
+bool repeats(const std::vector<std::string>& captions, const std::string& caption) {
+  return std::count(captions.begin(), captions.end(), caption) > 1;
 }
 
 }  // namespace
 
-std::vector<std::string> with_access_keys(const std::vector<std::string>& captions) {
-  Letters letters(captions);
-  for (const std::size_t position : rare_captions_first(captions)) {
-    const std::string& caption = captions[position];
-    if (caption.size() >= 2 && own_key(caption) == std::string::npos) letters.give(position);
+std::vector<std::string> with_access_keys(const std::vector<std::string>& captions,
+                                          std::size_t settled) {
+  Letters letters(captions, settled);
+  for (const bool repeating : {false, true}) {
+    for (std::size_t i = 0; i < captions.size(); ++i) {
+      if (captions[i].size() < 2 || own_key(captions[i]) != std::string::npos) continue;
+      if (repeats(captions, captions[i]) == repeating) letters.give(i, !repeating);
+    }
   }
   std::vector<std::string> result = captions;
   for (std::size_t i = 0; i < result.size(); ++i) {

@@ -183,7 +183,10 @@ void FormWindow::give_access_keys() {
   std::vector<std::string> captions;
   captions.reserve(found.size());
   for (const Control* control : found) captions.push_back(control->caption());
-  captions = with_access_keys(captions);
+  const auto own_buttons = std::count_if(found.begin(), found.end(), [](const Control* control) {
+    return control->parent() == nullptr;
+  });
+  captions = with_access_keys(captions, static_cast<std::size_t>(own_buttons));
   for (std::size_t i = 0; i < found.size(); ++i) {
     std::string& keyed = keyed_[found[i]];
     if (keyed == captions[i]) continue;

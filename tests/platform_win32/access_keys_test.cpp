@@ -20,6 +20,8 @@ TEST(AccessKeys, EachLetterIsGivenOnceAndBeginningsOfWordsFirst) {
 
 TEST(AccessKeys, ACaptionWithoutAFreeLetterGetsOneThatAnotherCanSpare) {
   EXPECT_THAT(with_access_keys({"Abc", "Ab", "Ba"}), ElementsAre("Ab&c", "&Ab", "&Ba"));
+  EXPECT_THAT(with_access_keys({"Abc", "Ab", "Ba"}, 1), ElementsAre("&Abc", "A&b", "Ba"))
+      << "the buttons of the form keep theirs";
 }
 
 TEST(AccessKeys, LettersThatACaptionBringsAlongAreKeptForIt) {
