@@ -24,7 +24,8 @@ TEST_F(IspyImport, GoesStraightToTheEntries) {
   machine.files.put(kLogPath, kLog);
   machine.dialogs.paths.push_back(std::string(kLogPath));
   form->cmdIspy.take_user_click();
-  EXPECT_EQ(machine.dialogs.filters[0][0], (FileFilter{"ISpy log", "ISpy.log"}));
+  EXPECT_EQ(machine.dialogs.filters[0],
+            (std::vector<FileFilter>{{"ISpy log", "ISpy.log"}, {"Alle Dateien", "*.*"}}));
   EXPECT_EQ(form->StatusBar.panel(1), "Importmode: ISpy");
   EXPECT_FALSE(form->cmbLimiter.enabled());
   forward();

@@ -17,11 +17,7 @@ enum class Key : WORD {
   kBlank = VK_SPACE,
   kDelete = VK_DELETE,
   kHome = VK_HOME,
-  kEnd = VK_END,
-  kUp = VK_UP,
   kDown = VK_DOWN,
-  kF1 = VK_F1,
-  kF4 = VK_F4,
 };
 
 /// Waits until the window is the one that the user works in.

@@ -70,10 +70,6 @@ std::string cell(const Window& table, const RemoteMemory& memory, int row, int c
   return memory.get_text(memory.get<LVITEMW>().pszText);
 }
 
-Window header_of(const Window& table) {
-  return Window(from_lparam<HWND__>(send(table, LVM_GETHEADER)));
-}
-
 }  // namespace
 
 std::vector<std::string> entries_of(const Window& list) {
@@ -122,25 +118,9 @@ void choose(const Window& list, std::string_view entry) {
 
 int row_count(const Window& table) { return static_cast<int>(send(table, LVM_GETITEMCOUNT)); }
 
-std::vector<std::string> headings_of(const Window& table) {
-  const Window header = header_of(table);
-  const RemoteMemory memory(table);
-  std::vector<std::string> headings;
-  const LRESULT count = send(header, HDM_GETITEMCOUNT);
-  for (LRESULT i = 0; i < count; ++i) {
-    HDITEMW item{};
-    item.mask = HDI_TEXT;
-    item.pszText = memory.text();
-    item.cchTextMax = kLongestCell;
-    memory.put(item);
-    send(header, HDM_GETITEMW, static_cast<WPARAM>(i), memory.parameter());
-    headings.push_back(memory.get_text(memory.get<HDITEMW>().pszText));
-  }
-  return headings;
-}
-
 std::vector<TableRow> rows_of(const Window& table, int most) {
-  const auto columns = static_cast<int>(send(header_of(table), HDM_GETITEMCOUNT));
+  const Window header(from_lparam<HWND__>(send(table, LVM_GETHEADER)));
+  const auto columns = static_cast<int>(send(header, HDM_GETITEMCOUNT));
   const RemoteMemory memory(table);
   std::vector<TableRow> rows;
   for (int row = 0; row < std::min(most, row_count(table)); ++row) {

@@ -19,7 +19,6 @@ std::vector<std::string> selected_in(const Window& list);
 void choose(const Window& list, std::string_view entry);
 
 int row_count(const Window& table);
-std::vector<std::string> headings_of(const Window& table);
 /// The first rows of a table, at most as many as asked for.
 std::vector<TableRow> rows_of(const Window& table, int most = 100);
 /// The selected row, -1 for none.

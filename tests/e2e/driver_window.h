@@ -30,7 +30,6 @@ class Window {
   [[nodiscard]] bool focused() const;
   [[nodiscard]] bool is(std::wstring_view window_class) const;
   [[nodiscard]] DWORD style() const;
-  [[nodiscard]] bool tab_stop() const { return (style() & WS_TABSTOP) != 0; }
   /// A push button, box, option or group; `type` is one of the BS_ types.
   [[nodiscard]] bool button_of_type(DWORD type) const;
   /// Ticked or chosen.

@@ -8,17 +8,12 @@ namespace {
 
 using testing::HasSubstr;
 
-class English : public WizardTest {
- protected:
-  English() {
-    suite_.remember_columns();
-    suite_.speak("en");
-  }
-};
+class English : public WizardTest {};
 
-TEST_F(English, EveryPageSpeaksIt) {
-  start_by_phone_book();
-  EXPECT_EQ(panel_of(main_, 3), "Phone book DDE link: active");
+TEST_F(English, PagesDialogsAndMessagesSpeakIt) {
+  suite_.remember_columns();
+  suite_.speak("en");
+  start_alone();
   fill(main_.after("File to import"), suite_.contacts());
   const char* const labels[] = {"Name columns", "Name in the phone book", "Order",
                                 "Entries for the phone book"};
@@ -29,16 +24,7 @@ TEST_F(English, EveryPageSpeaksIt) {
   EXPECT_TRUE(becomes([&] { return panel_of(main_, 3) == "4 valid entries"; }));
   EXPECT_TRUE(main_.find("keep the existing entry"));
   EXPECT_FALSE(main_.find(kNext)) << "German";
-  click_button("Apply");
-  expect_end();
-  EXPECT_TRUE(phone_book_->hears("data"));
-}
-
-TEST_F(English, MessageAndDialogSpeakIt) {
-  start_alone();
-  fill(main_.after("File to import"), suite_.contacts());
-  for (int step = 0; step < 4; ++step) click_button("Next");
-  EXPECT_TRUE(becomes([&] { return main_.find("Apply") && button("Edit").enabled(); }));
+  ASSERT_TRUE(becomes([&] { return main_.find("Apply") && button("Edit").enabled(); }));
   select_row(final_list(), 0);
   click_button("Edit");
   const Window dialog = dialog_over(main_);

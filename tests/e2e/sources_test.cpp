@@ -29,20 +29,6 @@ TEST_F(Sources, IspyLogGoesStraightToTheEntries) {
   EXPECT_THAT(suite_.book(), HasSubstr(u8"\r\nAutohaus Grün;03023125818;0;0;0;0;;;"_de));
 }
 
-TEST_F(Sources, PathCanBeTypedAndGoingBackWantsTheFileAgain) {
-  suite_.remember_columns();
-  start_alone();
-  const Window path = main_.after(u8"Datei für den Import"_de);
-  fill(path, suite_.contacts());
-  forward(Page::kColumns);
-  click_button(kBack);
-  expect_page(Page::kSource);
-  EXPECT_TRUE(becomes([&] { return path.text().empty(); }));
-  EXPECT_FALSE(button(kNext).enabled());
-  EXPECT_FALSE(button(kBack).enabled());
-  EXPECT_TRUE(path.enabled());
-}
-
 TEST_F(Sources, AFileWithoutDelimiterIsRefused) {
   suite_.write("leer.txt", "nur ein Satz\r\nund noch einer\r\n");
   start_alone();
@@ -60,18 +46,6 @@ TEST_F(Sources, AFileWithoutDelimiterIsRefused) {
   EXPECT_THAT(message_of(box), HasSubstr(u8"Ein Import der Daten ist nicht möglich!"_de));
   confirm(box);
   expect_page(Page::kSource);
-}
-
-TEST_F(Sources, PreviewMarksTheChosenColumnsInTheirHeadings) {
-  suite_.remember_columns();
-  start_alone();
-  go_to(Page::kColumns);
-  const Window preview = main_.first(WC_LISTVIEWW);
-  EXPECT_EQ(rows_of(preview).at(0).at(0), "Berg");
-  const auto headings = headings_of(preview);
-  EXPECT_EQ(headings.at(0).substr(headings.at(0).size() - 8), "Nachname");
-  EXPECT_NE(headings.at(0), "Nachname") << "colour alone is not for everybody";
-  EXPECT_NE(headings.at(2), "Telefon");
 }
 
 }  // namespace

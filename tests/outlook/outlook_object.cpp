@@ -3,11 +3,6 @@
 namespace quenda {
 namespace {
 
-/// Members of objects of different classes have different numbers, as in a real program.
-DISPID first_id(const std::wstring& class_name) {
-  return static_cast<DISPID>(1000 * (class_name.size() + 1));
-}
-
 HRESULT hand_out(const ComPtr<ITypeInfo>& type, ITypeInfo** result) {
   *result = type.get();
   if (!type) return TYPE_E_ELEMENTNOTFOUND;
@@ -50,6 +45,8 @@ HRESULT ObjectWorld::let_in() {
 
 ScriptedObject::ScriptedObject(ObjectWorld& world, std::wstring class_name, Members members)
     : world_(world), class_name_(std::move(class_name)), members_(std::move(members)) {
+  const bool alike = world_.types != TypeNews::kNothing;
+  first_id_ = static_cast<DISPID>(alike ? 1000 * (class_name_.size() + 1) : 100 * ++world_.made);
   ++world_.counts.live;
 }
 
@@ -101,7 +98,7 @@ HRESULT ScriptedObject::GetIDsOfNames(REFIID /*reserved*/, LPOLESTR* names, UINT
   ++world_.counts.lookups;
   for (std::size_t i = 0; count == 1 && i < members_.size(); ++i) {
     if (members_[i].first == names[0]) {
-      ids[0] = first_id(class_name_) + static_cast<DISPID>(i);
+      ids[0] = first_id_ + static_cast<DISPID>(i);
       return S_OK;
     }
   }
@@ -113,7 +110,7 @@ HRESULT ScriptedObject::Invoke(DISPID id, REFIID /*reserved*/, LCID /*locale*/, 
                                UINT* /*wrong*/) {
   if (const HRESULT entry = world_.let_in(); FAILED(entry)) return entry;
   ++world_.counts.calls;
-  const auto position = static_cast<std::size_t>(id - first_id(class_name_));
+  const auto position = static_cast<std::size_t>(id - first_id_);
   if (position >= members_.size()) return DISP_E_MEMBERNOTFOUND;
   VARIANT unwanted{};
   return members_[position].second(*arguments, result == nullptr ? unwanted : *result);
@@ -143,11 +140,15 @@ ScriptedObject::Member gives_date(double date) {
   };
 }
 
-ScriptedObject::Member gives_object(std::function<IDispatch*()> make) {
-  return [make = std::move(make)](const DISPPARAMS&, VARIANT& result) {
+ScriptedObject::Member gives_object(VARTYPE argument,
+                                    std::function<IDispatch*(const VARIANT& given)> make) {
+  return [argument, make = std::move(make)](const DISPPARAMS& given, VARIANT& result) {
+    const VARIANT none{};
+    const VARIANT& first = given.cArgs == 0 ? none : given.rgvarg[0];
+    if (first.vt != argument) return DISP_E_TYPEMISMATCH;
     result.vt = VT_DISPATCH;
-    result.pdispVal = make();
-    return S_OK;
+    result.pdispVal = make(first);
+    return result.pdispVal == nullptr ? DISP_E_BADINDEX : S_OK;
   };
 }
 

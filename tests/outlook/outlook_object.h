@@ -47,13 +47,15 @@ struct ObjectWorld {
   TypeNames names;
   TypeNews types = TypeNews::kInterface;
   ULONGLONG busy_until = 0;  // GetTickCount64
+  std::size_t made = 0;      // objects so far that number their members for themselves
 
   /// S_OK, or while the program plays busy one of the two answers that mean so, in turn.
   HRESULT let_in();
 };
 
-/// An object with named members, late bound. Starts with one reference, deletes itself with the
-/// last.
+/// An object with named members, late bound. Members have the same numbers in all objects of a
+/// class that tells its type, and other numbers in every object of one that does not. Starts with
+/// one reference, deletes itself with the last.
 class ScriptedObject final : public IDispatch, public IProvideClassInfo {
  public:
   using Member = std::function<HRESULT(const DISPPARAMS& arguments, VARIANT& result)>;
@@ -81,6 +83,7 @@ class ScriptedObject final : public IDispatch, public IProvideClassInfo {
   ObjectWorld& world_;
   std::wstring class_name_;
   Members members_;
+  DISPID first_id_;
   ULONG references_ = 1;
 };
 
@@ -88,10 +91,12 @@ class ScriptedObject final : public IDispatch, public IProvideClassInfo {
 #pragma GCC diagnostic pop
 #endif
 
-/// Members that give a text, a number, or an object (whose reference goes to the caller).
+/// Members that give a text, a number, a date, or an object (whose reference goes to the caller;
+/// null for one that there is not), which want an argument of that type, VT_EMPTY for none.
 ScriptedObject::Member gives_text(std::wstring text);
 ScriptedObject::Member gives_number(long number);
 ScriptedObject::Member gives_date(double date);
-ScriptedObject::Member gives_object(std::function<IDispatch*()> make);
+ScriptedObject::Member gives_object(VARTYPE argument,
+                                    std::function<IDispatch*(const VARIANT& given)> make);
 
 }  // namespace quenda

@@ -26,7 +26,7 @@ struct OutlookScript {
   std::vector<ScriptedItem> items;
   TypeNews types = TypeNews::kInterface;
   bool refuses = false;       // no object can be created
-  std::size_t leaves = 0;     // so many creations find the program about to end
+  std::size_t leaves = 0;     // so many creations find the program about to end or busy, in turn
   std::size_t busy_from = 0;  // the item, from 1, after which every call is rejected for a while
   DWORD busy_for = 0;         // milliseconds
   std::size_t dies_at = 0;    // the item, from 1, instead of which the program ends

@@ -48,13 +48,13 @@ class Outlook final : public IClassFactory {
     world_.counts.last_change = GetTickCount64();
     if (script_.refuses) return E_ACCESSDENIED;
     if (script_.leaves > 0) {
-      --script_.leaves;
-      return CO_E_SERVER_STOPPING;
+      return --script_.leaves % 2 == 0 ? CO_E_SERVER_STOPPING : RPC_E_CALL_REJECTED;
     }
-    auto* const made =
-        new ScriptedObject(world_, L"Application",
-                           {{L"Version", gives_text(script_.version)},
-                            {L"GetNamespace", gives_object([this] { return name_space(); })}});
+    auto* const made = new ScriptedObject(
+        world_, L"Application",
+        {{L"Version", gives_text(script_.version)},
+         {L"GetNamespace",
+          gives_object(VT_BSTR, [this](const VARIANT&) { return name_space(); })}});
     const HRESULT outcome = made->QueryInterface(wanted, result);
     made->Release();
     return outcome;
@@ -66,36 +66,27 @@ class Outlook final : public IClassFactory {
 
  private:
   IDispatch* name_space() {
-    return new ScriptedObject(
-        world_, L"NameSpace",
-        {{L"GetDefaultFolder", [this](const DISPPARAMS& arguments, VARIANT& result) {
-            if (arguments.cArgs != 1 || arguments.rgvarg[0].lVal != kContactsFolder) {
-              return DISP_E_BADINDEX;
-            }
-            result.vt = VT_DISPATCH;
-            result.pdispVal = new ScriptedObject(
-                world_, L"MAPIFolder", {{L"Items", gives_object([this] { return items(); })}});
-            return S_OK;
-          }}});
+    const auto folder = [this](const VARIANT& number) -> IDispatch* {
+      if (number.lVal != kContactsFolder) return nullptr;
+      return new ScriptedObject(
+          world_, L"MAPIFolder",
+          {{L"Items", gives_object(VT_EMPTY, [this](const VARIANT&) { return items(); })}});
+    };
+    return new ScriptedObject(world_, L"NameSpace",
+                              {{L"GetDefaultFolder", gives_object(VT_I4, folder)}});
   }
   IDispatch* items() {
+    const auto item_at = [this](const VARIANT& number) -> IDispatch* {
+      const auto position = static_cast<std::size_t>(number.lVal);
+      if (position < 1 || position > script_.items.size()) return nullptr;
+      if (position == script_.dies_at) TerminateProcess(GetCurrentProcess(), 1);
+      if (position == script_.busy_from) world_.busy_until = GetTickCount64() + script_.busy_for;
+      return item(script_.items[position - 1]);
+    };
     const auto count = static_cast<long>(script_.items.size());
-    return new ScriptedObject(world_, L"Items",
-                              {{L"Count", gives_number(count)},
-                               {L"Item", [this](const DISPPARAMS& arguments, VARIANT& result) {
-                                  const auto position =
-                                      static_cast<std::size_t>(arguments.rgvarg[0].lVal);
-                                  if (position < 1 || position > script_.items.size())
-                                    return DISP_E_BADINDEX;
-                                  if (position == script_.dies_at)
-                                    TerminateProcess(GetCurrentProcess(), 1);
-                                  if (position == script_.busy_from) {
-                                    world_.busy_until = GetTickCount64() + script_.busy_for;
-                                  }
-                                  result.vt = VT_DISPATCH;
-                                  result.pdispVal = item(script_.items[position - 1]);
-                                  return S_OK;
-                                }}});
+    return new ScriptedObject(
+        world_, L"Items",
+        {{L"Count", gives_number(count)}, {L"Item", gives_object(VT_I4, item_at)}});
   }
   IDispatch* item(const ScriptedItem& item);
 

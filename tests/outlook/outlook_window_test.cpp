@@ -107,26 +107,6 @@ TEST_F(OutlookWindow, CancelWhileReadingEndsTheToolAndLetsOutlookGo) {
   EXPECT_THAT(outlook.counted("live"), Each(0));
 }
 
-TEST_F(OutlookWindow, ADyingOutlookIsSaidAndCanBeTriedAgain) {
-  const OutlookStandIn outlook("contacts=3\ndies_at=2\n");
-  start_alone();
-  open_outlook();
-  EXPECT_TRUE(panel_becomes(2, u8"Outlook: Ein Import der Daten ist nicht möglich!"_de));
-  EXPECT_TRUE(becomes([&] { return on_outlook_page(); }));
-  EXPECT_EQ(row_count(preview()), 0);
-  EXPECT_FALSE(button(kNext).enabled());
-  click_button(kBack);
-  expect_page(Page::kSource);
-}
-
-TEST_F(OutlookWindow, ABusyOutlookDelaysOnly) {
-  const OutlookStandIn outlook("contacts=3\nbusy_from=2\nbusy_for=2000\n");
-  start_alone();
-  open_outlook();
-  EXPECT_TRUE(panel_becomes(3, u8"3 Einträge zum Import"_de));
-  EXPECT_TRUE(button(kNext).enabled());
-}
-
 TEST_F(OutlookWindow, WithoutContactsOrWithoutOutlookTheButtonStaysGrey) {
   {
     const OutlookStandIn outlook("version=9.0\n");

@@ -6,7 +6,6 @@
 #include <thread>
 
 #include "platform/win32/dialogs_win32.h"
-#include "platform/win32/handles.h"
 #include "support/fault.h"
 #include "tests/platform_win32/form_fixture.h"
 
@@ -122,32 +121,6 @@ TEST_F(FormWindowTest, AMessageBelongsToTheWindowEvenWhenTheUserWorksElsewhere) 
   form_.timer.set_enabled(true);
   Win32Dialogs(loop_).message_box("Text", MessageStyle::kInformation, "Meldung");
   EXPECT_EQ(owner, window_of(form_));
-}
-
-/// A number that grows when drawing objects are left behind.
-DWORD drawing_objects() {
-  const DWORD count = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
-  if (count != 0) return count;
-  // A system that does not count gives out the lowest free handle.
-  const Brush probe(CreateSolidBrush(RGB(1, 2, 3)));
-  return LOWORD(as_lparam(probe.get()));
-}
-
-TEST_F(FormWindowTest, DialogsLeaveNothingBehind) {
-  show();
-  const auto open_and_close = [&](int times) {
-    for (int i = 0; i < times; ++i) {
-      TestForm dialog;
-      dialog.timer.set_interval(1);
-      dialog.timer.on_timer = [&] { dialog.unload(); };
-      dialog.timer.set_enabled(true);
-      events_.show_modal(dialog, form_);
-    }
-  };
-  open_and_close(3);
-  const DWORD before = drawing_objects();
-  open_and_close(30);
-  EXPECT_LE(drawing_objects(), before + 4);
 }
 
 }  // namespace

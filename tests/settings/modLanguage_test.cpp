@@ -9,19 +9,15 @@
 #include <string>
 
 #include "settings/language_keys.h"
-#include "settings/modAPI_INI.h"
-#include "settings/shared_texts.h"
 #include "support/text.h"
-#include "tests/shared/error_service.h"
+#include "tests/shared/settings_service.h"
 
 namespace quenda {
 namespace {
 
 constexpr std::string_view kEnglish = "C:\\Quenda\\base\\language_en.ini";
 
-struct Fixture : ErrorService {
-  SuitePaths paths{"C:\\Quenda", "", "D:", "D:\\data\\", false};
-  modAPI_INI ini{errors, files, paths};
+struct Fixture : SettingsService {
   modLanguage language{errors, files, clock, ini};
 };
 
@@ -64,17 +60,6 @@ TEST(LoadLangKey, MarksTextsInDevelopmentRuns) {
   EXPECT_EQ(f.language.LoadLangKey("CountryID", "49"), "49");
   EXPECT_EQ(f.files.content("D:\\log\\language.log"),
             "2014/03/02  17:05:09  IMP v1.17 | Button_No | Nein\r\n");
-}
-
-TEST(LoadSharedTexts, FillsEveryText) {
-  Fixture f;
-  SharedTexts texts;
-  load_shared_texts(f.language, texts);
-  EXPECT_EQ(texts.Message_BackupExists, "Es existiert eine Sicherungskopie!");
-  EXPECT_EQ(texts.Button_Next, "Weiter");
-  EXPECT_EQ(texts.String_Pictures, "Bilder");
-  EXPECT_EQ(texts.Message_WriteFail2,
-            "Die Sicherungsdateien (.bak .b0x) befinden sich im Verzeichnis");
 }
 
 TEST(LanguageKeys, AreUnique) {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <limits>
 #include <map>
 #include <set>
 #include <string>
@@ -12,7 +11,7 @@
 namespace quenda {
 
 /// A file system in memory. Letter case of paths does not matter, as under Windows. It can be told
-/// to be full, or to have protected or locked files.
+/// to have protected or locked files, or a full disk.
 class FakeFiles final : public Files {
  public:
   /// Places a file, and makes its folder known.
@@ -22,8 +21,6 @@ class FakeFiles final : public Files {
   void refuse_writing(std::string_view path, int fault);
   /// Reading the path fails with that fault from now on; 0 takes it back.
   void refuse_reading(std::string_view path, int fault);
-  /// Bytes that all files together may still grow by.
-  std::uint64_t free_space = std::numeric_limits<std::uint64_t>::max();
   /// The content, or the empty text for no file.
   [[nodiscard]] std::string content(std::string_view path) const;
   /// How often a file was written, appended to or replaced in part.

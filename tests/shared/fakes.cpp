@@ -22,24 +22,13 @@ std::string FakeDialogs::open_file(Form& /*owner*/, const std::vector<FileFilter
   return path;
 }
 
-std::string FakeSystem::special_folder(int number) const {
-  const auto folder = folders.find(number);
-  return folder == folders.end() ? std::string() : folder->second;
-}
-
 int FakeSystem::open_with_shell(Form* /*owner*/, std::string_view verb, std::string_view file,
                                 std::string_view /*parameters*/, std::string_view /*folder*/) {
   opened.push_back(std::string(verb) + " " + std::string(file));
   return shell_result;
 }
 
-void FakeEvents::yield() {
-  ++yields;
-  if (on_yield) on_yield();
-}
-
 void FakeEvents::show_modal(Form& form, Form& /*owner*/) {
-  modal.push_back(&form);
   if (on_modal) on_modal(form);
   if (form.loaded()) form.unload();
 }
@@ -91,7 +80,6 @@ class Dispatch : public AutomationObject {
 }  // namespace
 
 std::unique_ptr<AutomationObject> FakeAutomation::create(std::string_view program_id) {
-  created.emplace_back(program_id);
   const auto program = programs.find(program_id);
   if (program == programs.end()) raise_fault(kFaultNoComponent);
   return std::make_unique<Dispatch>(program->second);

@@ -51,8 +51,6 @@ class FakeDialogs : public Dialogs {
 
 class FakeSystem : public System {
  public:
-  std::map<int, std::string> folders = {{kCommonApplicationData, "C:\\ProgramData"},
-                                        {kProgramFiles, "C:\\Program Files"}};
   std::string program = "C:\\Quenda";
   std::string name = "Import";
   std::string arguments = "/i";
@@ -62,7 +60,9 @@ class FakeSystem : public System {
   int shell_result = 42;
   std::vector<std::string> opened;  // verb and file with a blank between them
 
-  [[nodiscard]] std::string special_folder(int number) const override;
+  [[nodiscard]] std::string special_folder(int number) const override {
+    return number == kCommonApplicationData ? "C:\\ProgramData" : "C:\\Program Files";
+  }
   [[nodiscard]] std::string program_folder() const override { return program; }
   [[nodiscard]] std::string executable_name() const override { return name; }
   [[nodiscard]] std::string command_line() const override { return arguments; }
@@ -79,13 +79,12 @@ class FakeEvents : public Events {
  public:
   std::function<void()> on_yield;
   std::function<void(Form& form)> on_modal;
-  int yields = 0;
-  std::vector<Form*> shown;
-  std::vector<Form*> modal;
 
-  void yield() override;
-  void show(Form& form) override { shown.push_back(&form); }
-  void show_modal(Form& form, Form& owner) override;
+  void yield() override {
+    if (on_yield) on_yield();
+  }
+  void show(Form& /*form*/) override {}
+  void show_modal(Form& form, Form& /*owner*/) override;
 };
 
 class FakeHostLink : public HostLink {
@@ -117,7 +116,6 @@ class FakeAutomation : public Automation {
  public:
   /// By program identifier; others raise 429.
   std::map<std::string, std::shared_ptr<FakeObject>, std::less<>> programs;
-  std::vector<std::string> created;
 
   std::unique_ptr<AutomationObject> create(std::string_view program_id) override;
 };
