@@ -1,11 +1,9 @@
 // A user edits hundreds of entries in one sitting: each dialog has to give back whatever it took.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
-#include <functional>
-#include <memory>
-#include <ostream>
-#include <vector>
+#include <utility>
 
 #include "app/app.h"
 #include "app/fImportItemEdit.h"
@@ -19,116 +17,131 @@
 namespace quenda {
 namespace {
 
-/// Not every system tells how many objects a process has. All give out numbers that are free again
-/// before new ones, so the highest of many that are taken at once tells how many others there are.
-template <class Object>
-long highest_of_many(Object (*make)()) {
-  std::array<Object, 256> taken;
-  long highest = 0;
-  for (Object& object : taken) {
-    object = make();
-    highest = std::max(highest, static_cast<long>(as_lparam(object.get()) & 0xFFFF));
-  }
-  return highest;
-}
-
 using Menu = Handle<HMENU, &DestroyMenu>;
 
-/// What the process holds of the system.
-struct Held {
-  long kernel = highest_of_many<KernelHandle>(
-                    [] { return KernelHandle(CreateEventW(nullptr, TRUE, FALSE, nullptr)); }) /
-                4;
-  long drawing = highest_of_many<Brush>([] { return Brush(CreateSolidBrush(RGB(1, 2, 3))); });
-  long window = highest_of_many<Menu>([] { return Menu(CreateMenu()); }) / 2;
-  /// Pieces of memory, the objects of components and the tool's own among them.
-  long memory = pieces_of_memory();
+/// A number that grows with the objects of a kind that the process has: as the system tells, or,
+/// where it tells nothing, the highest number among many that are made at once. Numbers that are
+/// free again are given out before new ones.
+template <class Made>
+long objects(DWORD told, Made (*make)()) {
+  if (told != 0) return static_cast<long>(told);
+  std::array<Made, 256> many;
+  std::generate(many.begin(), many.end(), make);
+  const auto number = [](const Made& one) { return LOWORD(as_lparam(one.get())); };
+  const auto highest =
+      std::max_element(many.begin(), many.end(),
+                       [&](const Made& a, const Made& b) { return number(a) < number(b); });
+  return number(*highest);
+}
 
-  static long pieces_of_memory() {
-    std::array<HANDLE, 64> heaps{};
-    const DWORD count = GetProcessHeaps(static_cast<DWORD>(heaps.size()), heaps.data());
-    long pieces = 0;
-    for (DWORD i = 0; i < count; ++i) {
-      PROCESS_HEAP_ENTRY entry{};
-      HeapLock(heaps.at(i));
-      while (HeapWalk(heaps.at(i), &entry) != 0) {
-        if ((entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) != 0) ++pieces;
-      }
-      HeapUnlock(heaps.at(i));
+/// Pieces of memory in use: the tool's own and those of components.
+long pieces_of_memory() {
+  std::array<HANDLE, 64> heaps{};
+  const DWORD count = GetProcessHeaps(static_cast<DWORD>(heaps.size()), heaps.data());
+  long pieces = 0;
+  for (DWORD i = 0; i < count; ++i) {
+    PROCESS_HEAP_ENTRY entry{};
+    HeapLock(heaps.at(i));
+    while (HeapWalk(heaps.at(i), &entry) != 0) {
+      if ((entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) != 0) ++pieces;
     }
-    return pieces;
+    HeapUnlock(heaps.at(i));
   }
+  return pieces;
+}
+
+struct Held {
+  static DWORD told(DWORD kind) { return GetGuiResources(GetCurrentProcess(), kind); }
+  static DWORD kernel_told() {
+    DWORD count = 0;
+    return GetProcessHandleCount(GetCurrentProcess(), &count) == 0 ? 0 : count;
+  }
+
+  long drawing = objects<Brush>(told(GR_GDIOBJECTS), [] { return Brush(CreateSolidBrush(0)); });
+  long window = objects<Menu>(told(GR_USEROBJECTS), [] { return Menu(CreateMenu()); });
+  long kernel = objects<KernelHandle>(
+      kernel_told(), [] { return KernelHandle(CreateEventW(nullptr, TRUE, FALSE, nullptr)); });
+  long memory = pieces_of_memory();
 };
 
-/// The user: presses a button of the dialog as soon as all input has been handled.
-class Presser : public LoopClient {
- public:
-  explicit Presser(MessageLoop& loop) : loop_(loop) { loop_.add(*this); }
-  ~Presser() override { loop_.remove(*this); }
-  Presser(const Presser&) = delete;
-  Presser& operator=(const Presser&) = delete;
+/// The main form in its window, and a user who leaves each dialog by a button.
+class DialogLeaks : public testing::Test, public LoopClient {
+ protected:
+  static constexpr int kTimes = 200;
 
-  const Button* button = nullptr;
+  DialogLeaks() {
+    main_.Form_Load();
+    events_.show(main_);
+    // Under the dialogs it would be drawn anew each time.
+    ShowWindow(window_of(main_), SW_HIDE);
+    loop_.add(*this);
+  }
+  ~DialogLeaks() override {
+    loop_.remove(*this);
+    events_.close_all();
+  }
 
-  bool translate(MSG& /*message*/) override { return false; }
+  void show(Form& dialog, const Button& leave_by) {
+    button_ = &leave_by;
+    events_.show_modal(dialog, main_);
+  }
+  template <class Show>
+  void expect_nothing_left(Show show) {
+    for (int i = 0; i < 5; ++i) show();
+    const Held before;
+    for (int i = 0; i < kTimes; ++i) show();
+    loop_.pump();
+    const Held after;
+    EXPECT_LT(after.drawing - before.drawing, kTimes / 2);
+    EXPECT_LT(after.window - before.window, kTimes / 2);
+    EXPECT_LT(after.kernel - before.kernel, kTimes / 2);
+    EXPECT_LT(after.memory - before.memory, kTimes / 2);
+  }
+
+  bool translate(MSG& message) override {
+    EXPECT_FALSE(message.message == WM_TIMER && message.hwnd == nullptr) << "a timer of no window";
+    return false;
+  }
   void show_changes() override {}
   void settle(bool idle) override {
-    if (!idle || button == nullptr || button->peer() == nullptr) return;
-    const HWND window = static_cast<NativeControl*>(button->peer())->window();
-    PostMessageW(std::exchange(button, nullptr) == nullptr ? nullptr : window, BM_CLICK, 0, 0);
+    if (!idle || button_ == nullptr || button_->peer() == nullptr) return;
+    const auto* const native = static_cast<NativeControl*>(button_->peer());
+    button_ = nullptr;
+    EXPECT_TRUE(IsWindowVisible(native->window()));
+    PostMessageW(native->window(), BM_CLICK, 0, 0);
   }
 
- private:
-  MessageLoop& loop_;
+  FakeMachine machine_;
+  MessageLoop loop_;
+  Win32Events events_{loop_};
+  App app_{{machine_.files, machine_.clock, events_, machine_.dialogs, machine_.system,
+            machine_.host_link, machine_.automation}};
+  fMain main_{app_};
+  const Button* button_ = nullptr;
 };
 
-TEST(X, Y) {
-  FakeMachine machine;
-  machine.files.put("C:\\Quenda\\Quendapaths.ini", "[Paths]\r\nProgramData=0\r\n");
-  machine.files.put("C:\\Quenda\\data\\Quenda.ini", "[General]\r\nmyVWL=49\r\nmyVWO=30\r\n");
-  machine.system.protects = false;
-  MessageLoop loop;
-  Win32Events events{loop};
-  App app(Services{machine.files, machine.clock, events, machine.dialogs, machine.system,
-                   machine.host_link, machine.automation});
-  fMain main(app);
-  main.Form_Load();
-  events.show(main);
-  Presser user(loop);
-  const std::function<void()> dialogs[] = {
-      [&] {
-        fImportItemEdit dialog(app, main);
-        dialog.SettVars(-1);
-        user.button = &dialog.cmdEdit(1);
-        events.show_modal(dialog, main);
-      },
-      [&] {
-        fImportMsg dialog(app, main);
-        user.button = &dialog.cmdMsg(0);
-        events.show_modal(dialog, main);
-      },
-      [&] {
-        fOVWInput dialog(app, main);
-        user.button = &dialog.cmdOK;
-        events.show_modal(dialog, main);
-      },
-  };
-  for (const auto& dialog : dialogs) {
-    for (int i = 0; i < 3; ++i) dialog();
-    for (int j = 0; j < 2; ++j) {
-      const auto t = GetTickCount64();
-      const Held before;
-      const auto t2 = GetTickCount64();
-      for (int i = 0; i < 200; ++i) dialog();
-      const Held after;
-      std::cout << before.kernel << " " << after.kernel << "\n"
-                << before.drawing << " " << after.drawing << "\n"
-                << before.window << " " << after.window << "\n"
-                << before.memory << " " << after.memory << "  ms " << GetTickCount64() - t2 << " "
-                << t2 - t << " " << GetGuiResources(GetCurrentProcess(), 0) << "\n";
-    }
-  }
-  events.close_all();
+TEST_F(DialogLeaks, EditingAnEntry) {
+  expect_nothing_left([&] {
+    fImportItemEdit dialog(app_, main_);
+    dialog.SettVars(-1);
+    show(dialog, dialog.cmdEdit(1));
+  });
+}
+
+TEST_F(DialogLeaks, AskingAboutANumberThatExists) {
+  expect_nothing_left([&] {
+    fImportMsg dialog(app_, main_);
+    dialog.fill("030", "Alt", "Neu");
+    show(dialog, dialog.cmdMsg(0));
+  });
+}
+
+TEST_F(DialogLeaks, AskingForTheOwnCodes) {
+  app_.settings.own_area_code = "30";
+  expect_nothing_left([&] {
+    fOVWInput dialog(app_, main_);
+    show(dialog, dialog.cmdOK);
+  });
 }
 
 }  // namespace
