@@ -6,7 +6,7 @@
 #include <string_view>
 #include <utility>
 
-#include "support/fault.h"
+#include "tests/shared/fault_of.h"
 
 namespace quenda {
 namespace {
@@ -35,12 +35,7 @@ TEST(BookLine, IsAFaultWhenFieldsAreMissingOrNoValues) {
       {"A;1;0;;0;0;S;", kFaultTypeMismatch},  {"A;1;0;0;x;0;S;", kFaultTypeMismatch},
       {"A;1;0;0;32768;0;S;", kFaultOverflow}, {")vcd];1;0;0;0;0;S;;[vcd(", kFaultInvalidCall}};
   for (const auto& [line, number] : cases) {
-    try {
-      read_book_line(line);
-      ADD_FAILURE() << line;
-    } catch (const RuntimeFault& fault) {
-      EXPECT_EQ(fault.number(), number) << line;
-    }
+    EXPECT_EQ(fault_of([&, text = line] { read_book_line(text); }), number) << line;
   }
 }
 

@@ -1,7 +1,8 @@
 #include "tests/e2e/processes.h"
 
 #include <algorithm>
-#include <array>
+#include <fstream>
+#include <iterator>
 
 #include "platform/win32/text_win32.h"
 #include "support/text.h"
@@ -13,37 +14,31 @@ namespace {
 constexpr DWORD kEndTime = 30'000;  // milliseconds
 constexpr UINT kKilled = 99;
 
-/// A pipe whose writing end programs inherit.
-struct Pipe {
-  Pipe() {
-    SECURITY_ATTRIBUTES inherited{};
-    inherited.nLength = sizeof inherited;
-    inherited.bInheritHandle = TRUE;
-    HANDLE from = nullptr;
-    HANDLE to = nullptr;
-    CreatePipe(&from, &to, &inherited, 0);
-    SetHandleInformation(from, HANDLE_FLAG_INHERIT, 0);
-    reading.reset(from);
-    writing.reset(to);
-  }
-  KernelHandle reading;
-  KernelHandle writing;
-};
-
 }  // namespace
 
-Process::Process(const std::string& command_line, HANDLE output) {
+std::string content_of(const std::string& path) {
+  std::ifstream in(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(in), {}};
+}
+
+Process::Process(const std::string& command_line, const std::string& output) {
   std::wstring line = wide(command_line);
+  SECURITY_ATTRIBUTES inherited{};
+  inherited.nLength = sizeof inherited;
+  inherited.bInheritHandle = TRUE;
+  FileHandle file;
   STARTUPINFOW start{};
   start.cb = sizeof start;
-  if (output != nullptr) {
+  if (!output.empty()) {
+    file.reset(CreateFileW(wide(output).c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_DELETE,
+                           &inherited, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
     start.dwFlags = STARTF_USESTDHANDLES;
-    start.hStdOutput = output;
-    start.hStdError = output;
+    start.hStdOutput = file.get();
+    start.hStdError = file.get();
   }
   PROCESS_INFORMATION made{};
-  if (CreateProcessW(nullptr, line.data(), nullptr, nullptr, output != nullptr ? TRUE : FALSE, 0,
-                     nullptr, nullptr, &start, &made) == 0) {
+  if (CreateProcessW(nullptr, line.data(), nullptr, nullptr, file ? TRUE : FALSE, 0, nullptr,
+                     nullptr, &start, &made) == 0) {
     return;
   }
   CloseHandle(made.hThread);
@@ -76,54 +71,19 @@ void Process::kill() const {
   WaitForSingleObject(handle_.get(), kEndTime);
 }
 
-PhoneBook::PhoneBook(const std::string& tool, std::string_view options) {
-  Pipe pipe;
-  process_ = Process(concat("\"", QUENDA_STANDIN_EXE, "\" --exe \"", tool, "\" ", options),
-                     pipe.writing.get());
-  output_ = std::move(pipe.reading);
-  reader_ = std::thread([this] { read(); });
-}
+PhoneBook::PhoneBook(const std::string& tool, std::string_view options)
+    : process_(concat("\"", QUENDA_STANDIN_EXE, "\" --exe \"", tool, "\" ", options),
+               folder_.path("heard.txt")) {}
 
-PhoneBook::~PhoneBook() {
-  process_.kill();
-  stop_ = true;
-  reader_.join();
-}
-
-void PhoneBook::read() {
-  // The end of the pipe tells nothing: programs of the system that were started on the way can hold
-  // its other end for as long as they run.
-  constexpr DWORD kPollInterval = 10;  // milliseconds
-  std::array<char, 256> bytes{};
-  while (!stop_) {
-    DWORD waiting = 0;
-    if (PeekNamedPipe(output_.get(), nullptr, 0, nullptr, &waiting, nullptr) == 0) return;
-    if (waiting == 0) {
-      Sleep(kPollInterval);
-      continue;
-    }
-    DWORD count = 0;
-    if (ReadFile(output_.get(), bytes.data(), bytes.size(), &count, nullptr) == 0) return;
-    const std::lock_guard lock(mutex_);
-    printed_.append(bytes.data(), count);
-  }
-}
-
-std::vector<std::string> PhoneBook::heard() {
-  const std::lock_guard lock(mutex_);
+std::vector<std::string> PhoneBook::heard() const {
+  const std::string text = replace_all(content_of(folder_.path("heard.txt")), "\r\n", "\n");
   std::vector<std::string> lines;
-  std::string line;
-  for (const char c : printed_) {
-    if (c == '\n') {
-      lines.push_back(std::exchange(line, {}));
-    } else if (c != '\r') {
-      line += c;
-    }
-  }
+  for (const std::string_view line : split(text, "\n")) lines.emplace_back(line);
+  lines.pop_back();  // one that has not ended yet, or nothing
   return lines;
 }
 
-bool PhoneBook::hears(std::string_view line) {
+bool PhoneBook::hears(std::string_view line) const {
   return becomes([&] {
     const auto lines = heard();
     return std::find(lines.begin(), lines.end(), line) != lines.end();

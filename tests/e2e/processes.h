@@ -1,14 +1,12 @@
 #pragma once
 
-#include <atomic>
-#include <mutex>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <thread>
 #include <vector>
 
 #include "platform/win32/handles.h"
+#include "tests/shared/temp_folder.h"
 
 namespace quenda {
 
@@ -16,8 +14,9 @@ namespace quenda {
 class Process {
  public:
   Process() = default;
-  /// Starts a program. The whole command line, the program's path in quotes.
-  explicit Process(const std::string& command_line, HANDLE output = nullptr);
+  /// Starts a program. The whole command line, the program's path in quotes; what it prints goes
+  /// into the file, where one is named.
+  explicit Process(const std::string& command_line, const std::string& output = {});
   /// One that was started by somebody else.
   static Process of(DWORD id);
   Process(Process&&) = default;
@@ -40,25 +39,19 @@ class PhoneBook {
  public:
   /// Starts the tool of that path unless the options say otherwise.
   PhoneBook(const std::string& tool, std::string_view options);
-  ~PhoneBook();
-  PhoneBook(const PhoneBook&) = delete;
-  PhoneBook& operator=(const PhoneBook&) = delete;
 
   /// All lines so far.
-  std::vector<std::string> heard();
+  [[nodiscard]] std::vector<std::string> heard() const;
   /// Waits for a line.
-  bool hears(std::string_view line);
+  [[nodiscard]] bool hears(std::string_view line) const;
   [[nodiscard]] const Process& process() const { return process_; }
 
  private:
-  void read();
-
-  std::atomic<bool> stop_ = false;
-  std::mutex mutex_;
-  std::string printed_;
-  KernelHandle output_;
+  TempFolder folder_;
   Process process_;
-  std::thread reader_;
 };
+
+/// The bytes of a file; empty when there is none.
+std::string content_of(const std::string& path);
 
 }  // namespace quenda

@@ -2,10 +2,10 @@
 
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 
 #include "support/literal_1252.h"
 #include "support/text.h"
+#include "tests/e2e/processes.h"
 
 namespace quenda {
 namespace {
@@ -42,10 +42,7 @@ SuiteFolder::SuiteFolder() {
   set_book(kBook);
 }
 
-std::string SuiteFolder::read(const std::string& name) const {
-  std::ifstream in(path(name), std::ios::binary);
-  return {std::istreambuf_iterator<char>(in), {}};
-}
+std::string SuiteFolder::read(const std::string& name) const { return content_of(path(name)); }
 
 void SuiteFolder::write(const std::string& name, std::string_view bytes) const {
   std::ofstream out(path(name), std::ios::binary);

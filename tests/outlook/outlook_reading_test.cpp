@@ -79,13 +79,5 @@ TEST_F(OutlookReading, TheWindowLivesWhileOutlookIsBusy) {
   EXPECT_GT(pumped_, 10);
 }
 
-TEST_F(OutlookReading, AProgramThatDiesIsAFaultOfTheReading) {
-  const OutlookStandIn outlook("contacts=3\ndies_at=3\n");
-  read();
-  EXPECT_FALSE(came_through_);
-  EXPECT_TRUE(contacts_.empty());
-  EXPECT_THAT(service_.reports, ElementsAre(testing::Pair("modOutlook.getContactsAll", 440)));
-}
-
 }  // namespace
 }  // namespace quenda

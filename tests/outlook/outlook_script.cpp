@@ -1,6 +1,9 @@
 #include "tests/outlook/outlook_script.h"
 
+#include <algorithm>
 #include <utility>
+
+#include "support/text.h"
 
 namespace quenda {
 namespace {
@@ -13,30 +16,17 @@ std::wstring from_utf8(std::string_view text) {
   return units;
 }
 
-/// Cuts the part before the separator off.
-std::string_view cut(std::string_view& rest, std::string_view separator) {
-  const std::size_t end = rest.find(separator);
-  const std::string_view part = rest.substr(0, end);
-  rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + separator.size());
-  return part;
-}
-
-std::wstring property_text(std::string_view text) {
-  std::string unfolded;
-  while (!text.empty()) {
-    const bool last = text.find("\\n") == std::string_view::npos;
-    unfolded += cut(text, "\\n");
-    if (!last) unfolded += "\r\n";
-  }
-  return from_utf8(unfolded);
+/// The parts before and behind the first "=".
+std::pair<std::string_view, std::string_view> key_and_value(std::string_view text) {
+  const std::size_t end = std::min(text.find('='), text.size());
+  return {text.substr(0, end), text.substr(std::min(end + 1, text.size()))};
 }
 
 ScriptedItem contact_of(std::string_view text) {
   ScriptedItem item;
-  while (!text.empty()) {
-    std::string_view property = cut(text, "|");
-    const std::wstring name = from_utf8(cut(property, "="));
-    item.properties[name] = property_text(property);
+  for (const std::string_view property : split(text, "|")) {
+    const auto [name, value] = key_and_value(property);
+    item.properties[from_utf8(name)] = from_utf8(replace_all(value, "\\n", "\r\n"));
   }
   return item;
 }
@@ -56,11 +46,9 @@ ScriptedItem made_up_contact(std::size_t number) {
 
 OutlookScript read_outlook_script(std::string_view text) {
   OutlookScript script;
-  while (!text.empty()) {
-    std::string_view line = cut(text, "\n");
-    if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
-    const std::string key(cut(line, "="));
-    const std::string value(line);
+  for (const std::string_view line : split(text, "\n")) {
+    const auto [key, value_of_key] = key_and_value(line);
+    const std::string value(value_of_key);
     const auto number = [&] { return std::stoul(value); };
     if (key == "version") script.version = from_utf8(value);
     if (key == "types" && value == "class") script.types = TypeNews::kClass;

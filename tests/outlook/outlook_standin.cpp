@@ -19,11 +19,6 @@ namespace {
 constexpr const wchar_t* kProgramKey = L"Software\\Classes\\Outlook.Application";
 constexpr int kRunTime = 60;  // seconds
 
-std::string content_of(const std::string& path) {
-  std::ifstream in(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(in), {}};
-}
-
 void set_key(const std::wstring& key, const std::wstring& value) {
   RegSetKeyValueW(HKEY_LOCAL_MACHINE, key.c_str(), nullptr, REG_SZ, value.c_str(),
                   static_cast<DWORD>((value.size() + 1) * sizeof(wchar_t)));
@@ -75,20 +70,11 @@ std::vector<long> OutlookStandIn::counted(std::string_view what) const {
 
 ConsoleRun run_console_tool(std::string_view options) {
   const TempFolder folder;
-  const std::string path = folder.path("output.txt");
-  ConsoleRun run;
-  {
-    SECURITY_ATTRIBUTES inherited{};
-    inherited.nLength = sizeof inherited;
-    inherited.bInheritHandle = TRUE;
-    const FileHandle output(CreateFileW(wide(path).c_str(), GENERIC_WRITE, FILE_SHARE_READ,
-                                        &inherited, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
-    const Process tool(concat("\"", QUENDA_BATCH_EXE, "\" ", options), output.get());
-    becomes([&] { return !tool.running(); }, kRunTime);
-    run.exit_code = tool.exit_code().value_or(STILL_ACTIVE);
-  }
-  run.output = content_of(path);
-  return run;
+  const std::string output = folder.path("output.txt");
+  const Process tool(concat("\"", QUENDA_BATCH_EXE, "\" ", options), output);
+  becomes([&] { return !tool.running(); }, kRunTime);
+  const DWORD exit_code = tool.exit_code().value_or(STILL_ACTIVE);
+  return {exit_code, content_of(output)};
 }
 
 }  // namespace quenda

@@ -8,7 +8,7 @@
 
 #include <csignal>
 
-#include "support/fault.h"
+#include "tests/shared/fault_of.h"
 #include "tests/shared/temp_folder.h"
 
 namespace quenda {
@@ -36,12 +36,7 @@ class FileSizeLimit {
 
 int fault_of_replacing(PosixFiles& files, const std::string& path, std::uint64_t keep,
                        const std::string& tail) {
-  try {
-    files.replace_tail(path, keep, tail);
-    return 0;
-  } catch (const RuntimeFault& fault) {
-    return fault.number();
-  }
+  return fault_of([&] { files.replace_tail(path, keep, tail); });
 }
 
 TEST(PosixFiles, AFullDiskIsFoundBeforeAnythingIsOverwritten) {

@@ -9,9 +9,9 @@
 #include <string>
 
 #include "platform/native_services.h"
-#include "support/fault.h"
 #include "support/literal_1252.h"
 #include "tests/shared/fake_files.h"
+#include "tests/shared/fault_of.h"
 #include "tests/shared/temp_folder.h"
 
 namespace quenda {
@@ -64,58 +64,63 @@ class NativeBench final : public Bench {
   std::unique_ptr<Files> files_ = native_files();
 };
 
-template <class Action>
-int fault_of(Action action) {
-  try {
-    action();
-    return 0;
-  } catch (const RuntimeFault& fault) {
-    return fault.number();
-  }
-}
-
-template <class T>
-class FilesContract : public testing::Test {
+class FilesContract : public testing::TestWithParam<bool> {
  protected:
-  T bench_;
-  Files& files_ = bench_.files();
-  [[nodiscard]] std::string path(const std::string& name) const { return bench_.path(name); }
+  FilesContract() {
+    if (GetParam()) {
+      bench_ = std::make_unique<NativeBench>();
+    } else {
+      bench_ = std::make_unique<FakeBench>();
+    }
+  }
+  [[nodiscard]] Files& files() const { return bench_->files(); }
+  [[nodiscard]] std::string path(const std::string& name) const { return bench_->path(name); }
+  [[nodiscard]] std::string read(const std::string& name) const { return files().read(path(name)); }
+  void expect_no_reading(const std::string& name, int fault) const {
+    EXPECT_EQ(fault_of([&] { static_cast<void>(read(name)); }), fault);
+  }
+  void expect_no_writing(const std::string& name, int fault) const {
+    EXPECT_EQ(fault_of([&] { files().write(path(name), "x"); }), fault);
+    EXPECT_EQ(fault_of([&] { files().append(path(name), "x"); }), fault);
+    EXPECT_EQ(fault_of([&] { files().replace_tail(path(name), 0, "x"); }), fault);
+  }
+
+  std::unique_ptr<Bench> bench_;
 };
 
-std::string german_name() { return std::string(u8"Müller €.txt"_de); }
+INSTANTIATE_TEST_SUITE_P(Files, FilesContract, testing::Bool(),
+                         [](const auto& native) { return native.param ? "Native" : "Fake"; });
 
-using Benches = testing::Types<FakeBench, NativeBench>;
-TYPED_TEST_SUITE(FilesContract, Benches);
-
-TYPED_TEST(FilesContract, BytesComeBackAsTheyWereWritten) {
+TEST_P(FilesContract, BytesComeBackAsTheyWereWritten) {
   std::string all;
   for (int code = 0; code < 256; ++code) all.push_back(static_cast<char>(code));
   all += "\r\n\n\r\x1A tail";
-  this->files_.write(this->path("all.bin"), all);
-  EXPECT_EQ(this->files_.read(this->path("all.bin")), all);
-  EXPECT_EQ(this->files_.size(this->path("all.bin")), all.size());
-  this->files_.write(this->path("all.bin"), "short");
-  EXPECT_EQ(this->files_.read(this->path("all.bin")), "short");
-  this->files_.write(this->path("empty"), "");
-  EXPECT_TRUE(this->files_.exists(this->path("empty")));
-  EXPECT_EQ(this->files_.read(this->path("empty")), "");
+  files().write(path("all.bin"), all);
+  EXPECT_EQ(read("all.bin"), all);
+  EXPECT_EQ(files().size(path("all.bin")), all.size());
+  files().write(path("all.bin"), "short");
+  EXPECT_EQ(read("all.bin"), "short");
+  files().write(path("empty"), "");
+  EXPECT_TRUE(files().exists(path("empty")));
+  EXPECT_EQ(read("empty"), "");
 }
 
-TYPED_TEST(FilesContract, NamesWithUmlautsAndEuroSignAreOneFile) {
-  const std::string name = german_name();
-  this->files_.write(this->path(name), "1");
-  this->files_.append(this->path(name), "2");
-  EXPECT_TRUE(this->files_.exists(this->path(name)));
-  EXPECT_EQ(this->files_.read(this->path(name)), "12");
+TEST_P(FilesContract, NamesWithUmlautsAndEuroSignAreOneFile) {
+  constexpr std::string_view german = u8"Müller €.txt"_de;
+  const std::string name(german);
+  files().write(path(name), "1");
+  files().append(path(name), "2");
+  EXPECT_TRUE(files().exists(path(name)));
+  EXPECT_EQ(read(name), "12");
 }
 
-TYPED_TEST(FilesContract, AppendCreatesAndContinues) {
-  this->files_.append(this->path("log"), "one\r\n");
-  this->files_.append(this->path("log"), "two\r\n");
-  EXPECT_EQ(this->files_.read(this->path("log")), "one\r\ntwo\r\n");
+TEST_P(FilesContract, AppendCreatesAndContinues) {
+  files().append(path("log"), "one\r\n");
+  files().append(path("log"), "two\r\n");
+  EXPECT_EQ(read("log"), "one\r\ntwo\r\n");
 }
 
-TYPED_TEST(FilesContract, ReplacesTheTail) {
+TEST_P(FilesContract, ReplacesTheTail) {
   struct Case {
     std::string name, before;
     std::uint64_t keep;
@@ -130,69 +135,59 @@ TYPED_TEST(FilesContract, ReplacesTheTail) {
                         {"empty", "abc", 0, "", ""}};
   for (const Case& c : cases) {
     SCOPED_TRACE(c.name);
-    this->files_.write(this->path(c.name), c.before);
-    this->files_.replace_tail(this->path(c.name), c.keep, c.tail);
-    EXPECT_EQ(this->files_.read(this->path(c.name)), c.after);
+    files().write(path(c.name), c.before);
+    files().replace_tail(path(c.name), c.keep, c.tail);
+    EXPECT_EQ(read(c.name), c.after);
   }
-  this->files_.replace_tail(this->path("new"), 0, "created");
-  EXPECT_EQ(this->files_.read(this->path("new")), "created");
+  files().replace_tail(path("new"), 0, "created");
+  EXPECT_EQ(read("new"), "created");
 }
 
-TYPED_TEST(FilesContract, KeepingMoreThanThereIsChangesNothing) {
-  this->files_.write(this->path("book"), "abc");
-  EXPECT_EQ(fault_of([&] { this->files_.replace_tail(this->path("book"), 4, "x"); }),
-            kFaultInvalidCall);
-  EXPECT_EQ(this->files_.read(this->path("book")), "abc");
+TEST_P(FilesContract, KeepingMoreThanThereIsChangesNothing) {
+  files().write(path("book"), "abc");
+  EXPECT_EQ(fault_of([&] { files().replace_tail(path("book"), 4, "x"); }), kFaultInvalidCall);
+  EXPECT_EQ(read("book"), "abc");
 }
 
-TYPED_TEST(FilesContract, WhatIsNotThere) {
-  EXPECT_FALSE(this->files_.exists(this->path("none")));
-  EXPECT_EQ(this->files_.size(this->path("none")), 0U);
-  EXPECT_EQ(this->files_.stamp(this->path("none")), 0U);
-  EXPECT_EQ(fault_of([&] { (void)this->files_.read(this->path("none")); }), kFaultFileNotFound);
-  EXPECT_EQ(fault_of([&] { (void)this->files_.read(this->path("no\\file")); }), kFaultPathNotFound);
-  EXPECT_EQ(fault_of([&] { this->files_.write(this->path("no\\file"), "x"); }), kFaultPathNotFound);
-  EXPECT_EQ(fault_of([&] { this->files_.append(this->path("no\\file"), "x"); }),
-            kFaultPathNotFound);
-  EXPECT_EQ(fault_of([&] { this->files_.replace_tail(this->path("no\\file"), 0, "x"); }),
-            kFaultPathNotFound);
-  this->files_.remove(this->path("none"));
+TEST_P(FilesContract, WhatIsNotThere) {
+  EXPECT_FALSE(files().exists(path("none")));
+  EXPECT_EQ(files().size(path("none")), 0U);
+  EXPECT_EQ(files().stamp(path("none")), 0U);
+  expect_no_reading("none", kFaultFileNotFound);
+  expect_no_reading("no\\file", kFaultPathNotFound);
+  expect_no_writing("no\\file", kFaultPathNotFound);
+  files().remove(path("none"));
 }
 
-TYPED_TEST(FilesContract, AFolderIsNoFile) {
-  this->bench_.make_folder("folder");
-  EXPECT_FALSE(this->files_.exists(this->path("folder")));
-  EXPECT_EQ(this->files_.size(this->path("folder")), 0U);
-  EXPECT_EQ(fault_of([&] { (void)this->files_.read(this->path("folder")); }), kFaultPathAccess);
-  EXPECT_EQ(fault_of([&] { this->files_.write(this->path("folder"), "x"); }), kFaultPathAccess);
-  EXPECT_EQ(fault_of([&] { this->files_.replace_tail(this->path("folder"), 0, "x"); }),
-            kFaultPathAccess);
+TEST_P(FilesContract, AFolderIsNoFile) {
+  bench_->make_folder("folder");
+  EXPECT_FALSE(files().exists(path("folder")));
+  EXPECT_EQ(files().size(path("folder")), 0U);
+  expect_no_reading("folder", kFaultPathAccess);
+  expect_no_writing("folder", kFaultPathAccess);
 }
 
-TYPED_TEST(FilesContract, AProtectedFileIsReadAndNeverTouched) {
-  this->files_.write(this->path("book"), "old");
-  this->bench_.protect("book");
-  EXPECT_EQ(fault_of([&] { this->files_.write(this->path("book"), "x"); }), kFaultPathAccess);
-  EXPECT_EQ(fault_of([&] { this->files_.append(this->path("book"), "x"); }), kFaultPathAccess);
-  EXPECT_EQ(fault_of([&] { this->files_.replace_tail(this->path("book"), 0, "x"); }),
-            kFaultPathAccess);
-  this->files_.remove(this->path("book"));
-  EXPECT_EQ(this->files_.read(this->path("book")), "old");
+TEST_P(FilesContract, AProtectedFileIsReadAndNeverTouched) {
+  files().write(path("book"), "old");
+  bench_->protect("book");
+  expect_no_writing("book", kFaultPathAccess);
+  files().remove(path("book"));
+  EXPECT_EQ(read("book"), "old");
 }
 
-TYPED_TEST(FilesContract, TheStampTellsChangesOfSize) {
-  this->files_.write(this->path("list"), "a");
-  const std::uint64_t first = this->files_.stamp(this->path("list"));
+TEST_P(FilesContract, TheStampTellsChangesOfSize) {
+  files().write(path("list"), "a");
+  const std::uint64_t first = files().stamp(path("list"));
   EXPECT_NE(first, 0U);
-  EXPECT_EQ(this->files_.stamp(this->path("list")), first);
-  this->files_.append(this->path("list"), "b");
-  EXPECT_NE(this->files_.stamp(this->path("list")), first);
+  EXPECT_EQ(files().stamp(path("list")), first);
+  files().append(path("list"), "b");
+  EXPECT_NE(files().stamp(path("list")), first);
 }
 
-TYPED_TEST(FilesContract, RemovedFilesAreGone) {
-  this->files_.write(this->path("list"), "a");
-  this->files_.remove(this->path("list"));
-  EXPECT_FALSE(this->files_.exists(this->path("list")));
+TEST_P(FilesContract, RemovedFilesAreGone) {
+  files().write(path("list"), "a");
+  files().remove(path("list"));
+  EXPECT_FALSE(files().exists(path("list")));
 }
 
 }  // namespace

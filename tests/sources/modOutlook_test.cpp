@@ -19,14 +19,12 @@ namespace {
 using testing::ElementsAre;
 using testing::Pair;
 
-TEST(OutlookVersion, IsKnownByItsName) {
-  const std::pair<std::string_view, std::string_view> cases[] = {
-      {"6", u8"Outlook®"_de},         {"7", u8"Outlook®95"_de},
-      {"8", u8"Outlook®97"_de},       {"9", u8"Outlook®2000"_de},
-      {"10", u8"Outlook®2002 XP"_de}, {"11", u8"Outlook®2003"_de},
-      {"12", u8"Outlook®2007"_de},    {"13", u8"Outlook®Unknown"_de},
-      {"14", u8"Outlook®2010"_de},    {"15", u8"Outlook®2013"_de},
-      {"16", u8"Outlook®v16"_de},     {"32767", u8"Outlook®v32767"_de}};
+TEST(OutlookVersion, HasANameFromTheFirstToTheLastThatHadOne) {
+  const std::pair<std::string_view, std::string_view> cases[] = {{"6", u8"Outlook®"_de},
+                                                                 {"7", u8"Outlook®95"_de},
+                                                                 {"13", u8"Outlook®Unknown"_de},
+                                                                 {"15", u8"Outlook®2013"_de},
+                                                                 {"16", u8"Outlook®v16"_de}};
   for (const auto& [major, name] : cases) EXPECT_EQ(outlook_version_name(major), name) << major;
 }
 

@@ -5,21 +5,10 @@
 #include <string_view>
 #include <utility>
 
-#include "support/fault.h"
+#include "tests/shared/fault_of.h"
 
 namespace quenda {
 namespace {
-
-/// The number of the fault that the call raises, 0 for none.
-template <class Call>
-int fault_of(Call call) {
-  try {
-    call();
-  } catch (const RuntimeFault& fault) {
-    return fault.number();
-  }
-  return 0;
-}
 
 TEST(IsNumeric, DecidesAndConvertsAlike) {
   const std::pair<std::string_view, double> numbers[] = {{"03012345", 3012345},

@@ -1,9 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "platform/form.h"
 #include "support/modAPI_FileOpenDlg.h"
-#include "support/modPrivateDummy.h"
 #include "support/progress_percent.h"
 #include "support/shell.h"
 #include "tests/shared/error_service.h"
@@ -24,34 +22,7 @@ TEST(FileFilters, EndWithAllFiles) {
   EXPECT_THAT(filters("all"), ElementsAre(kAll));
   EXPECT_THAT(filters("unknown"), ElementsAre(kAll));
   EXPECT_THAT(filters("ispy"), ElementsAre(FileFilter{"ISpy log", "ISpy.log"}, kAll));
-  EXPECT_THAT(filters("pics"), ElementsAre(FileFilter{"Bilder (jpg, bmp, gif, png, ico)",
-                                                      "*.jpg;*.bmp;*.gif;*.png;*.ico"},
-                                           kAll));
   EXPECT_EQ(filters("html").size(), 4U);
-}
-
-TEST(FileOpenDialog, ReturnsTheChosenPathOrNothing) {
-  ErrorService service;
-  FakeDialogs dialogs;
-  Form form("fMain");
-  dialogs.paths = {"C:\\kontakte.csv"};
-  const auto open = [&] {
-    return modAPI_FileOpenDlg::FileOpenDialog(service.errors, dialogs, form, "all", kTexts);
-  };
-  EXPECT_EQ(open(), "C:\\kontakte.csv");
-  EXPECT_EQ(open(), "");
-}
-
-TEST(MsgBoxForward, NamesTheProgramWhereNoTitleIsGiven) {
-  ErrorService service;
-  FakeDialogs dialogs;
-  FakeSystem system;
-  dialogs.answers = {MessageAnswer::kNo};
-  EXPECT_EQ(modPrivateDummy::MsgBoxForward(service.errors, dialogs, system, "?",
-                                           MessageStyle::kQuestionYesNo, ""),
-            MessageAnswer::kNo);
-  EXPECT_EQ(dialogs.boxes[0].title, "Quenda - Import");
-  EXPECT_EQ(modPrivateDummy::message_title("Titel", "Import"), "Titel");
 }
 
 TEST(ShellEx, TurnsCodesIntoTextsAndTracesFailures) {
