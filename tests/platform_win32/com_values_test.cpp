@@ -2,15 +2,23 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "tests/shared/fault_of.h"
 
 namespace quenda {
 namespace {
 
-TEST(GermanDate, HasATimeOnlyWhereThereIsOne) {
+TEST(GermanDate, IsShortAndHasATimeOnlyWhereThereIsOne) {
   EXPECT_EQ(german_date(25569.0), "01.01.1970");
   EXPECT_EQ(german_date(45000.5), "15.03.2023 12:00:00");
-  EXPECT_EQ(german_date(949998.0), "01.01.4501") << "means none, and is given as Outlook gives it";
+  EXPECT_EQ(german_date(45000.9999999), "16.03.2023") << "nearest second";
+  EXPECT_EQ(german_date(949998.0), "01.01.4501") << "what the program gives for no date";
+  EXPECT_EQ(german_date(-1.25), "29.12.1899 06:00:00");
+  EXPECT_EQ(german_date(-657434.0), "01.01.0100");
+  for (const double none : {2958466.0, -657435.0, std::nan("")}) {
+    EXPECT_EQ(fault_of([&] { german_date(none); }), kFaultTypeMismatch) << none;
+  }
 }
 
 TEST(Variant, NothingIsTheEmptyTextAndNoNumberAFault) {
