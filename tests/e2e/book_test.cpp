@@ -76,9 +76,6 @@ TEST_F(Book, TheSecondImportRemembersColumnsSuffixesAndPlace) {
   forward(Page::kAddresses);
   click(main_.find("Telefon").find("2"));
   forward(Page::kEntries);
-  const Window retain = main_.find("vorhandenen Datensatz erhalten");
-  click(retain);
-  EXPECT_TRUE(becomes([&] { return retain.checked(); }));
   SetWindowPos(main_.handle(), nullptr, 150, 90, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
   const RECT place = main_.place();
   click_button(kApply);
@@ -86,7 +83,6 @@ TEST_F(Book, TheSecondImportRemembersColumnsSuffixesAndPlace) {
   EXPECT_THAT(message_of(box), HasSubstr("Es besteht keine DDE-Verbindung zu Quenda!"));
   confirm(box);
   expect_end();
-  EXPECT_THAT(suite_.read("data\\sett_import.ini"), HasSubstr("Ask=2"));
   EXPECT_THAT(suite_.book(), HasSubstr("Berg  (Firma);03023125701;0;0;0;0;12099 Berlin;"));
 
   start_alone();
@@ -101,8 +97,6 @@ TEST_F(Book, TheSecondImportRemembersColumnsSuffixesAndPlace) {
   EXPECT_EQ(main_.after("Rufnummer 1", 1).text(), "(Firma)");
   forward(Page::kAddresses);
   EXPECT_TRUE(main_.find("Telefon").find("2").checked());
-  forward(Page::kEntries);
-  EXPECT_TRUE(becomes([&] { return main_.find("vorhandenen Datensatz erhalten").checked(); }));
 }
 
 }  // namespace

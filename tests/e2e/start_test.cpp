@@ -32,12 +32,6 @@ TEST_F(Start, WithoutTheSwitchTheUserIsToldWhereTheImportIs) {
   }
 }
 
-TEST_F(Start, TheSwitchCountsInsideALongerWord) {
-  tool_ = Process(command("/import"));
-  find_window();
-  EXPECT_TRUE(on(Page::kSource));
-}
-
 TEST_F(Start, ASecondInstanceEndsSilently) {
   start_alone();
   const Process second(command("/i"));

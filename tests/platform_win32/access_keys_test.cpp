@@ -3,10 +3,15 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <fstream>
+#include <iterator>
+#include <set>
+
 #include "platform/form.h"
 #include "platform/simple_controls.h"
 #include "platform/text_box.h"
-#include "support/literal_1252.h"
+#include "support/text.h"
+#include "tests/shared/wizard_fixture.h"
 
 namespace quenda {
 namespace {
@@ -39,6 +44,34 @@ TEST(AccessKeys, UmlautsCountWithoutRegardToCaseAndSignsNeverDo) {
 TEST(AccessKeys, CaptionsThatRepeatTakeWhatTheOthersLeave) {
   EXPECT_THAT(with_access_keys({"Adr", "Adr", "Ad", "Ra"}),
               ElementsAre("A&dr", "Adr", "&Ad", "&Ra"));
+}
+
+TEST_F(WizardTest, EveryButtonOfAPageHasAnAltLetterOfItsOwnInBothLanguages) {
+  std::ifstream english(QUENDA_SOURCE_DIR "/base/language_en.ini", std::ios::binary);
+  machine.files.put("C:\\Quenda\\base\\language_en.ini", {std::istreambuf_iterator(english), {}});
+  for (const std::string language : {"", "en"}) {
+    machine.files.put("C:\\Quenda\\data\\Quenda.ini", "[General]\r\nLanguage=" + language + "\r\n");
+    start();
+    EXPECT_EQ(form->cmdFor.caption(), language.empty() ? "Weiter" : "Next");
+    for (int page = 0; page <= 4; ++page) {
+      SCOPED_TRACE(language + std::to_string(page));
+      form->wizard.CurrentPage = page;
+      form->ShowSite();
+      const auto controls = keyed_controls(*form);
+      std::vector<std::string> captions;
+      for (const Control* control : controls) captions.push_back(control->caption());
+      std::set<char> taken;
+      for (std::size_t i = 0; const std::string& caption : with_access_keys(captions)) {
+        const auto mark = caption.find('&');
+        EXPECT_TRUE(mark != caption.npos || controls[i]->kind() != ControlKind::kButton) << caption;
+        if (mark != caption.npos) {
+          EXPECT_TRUE(taken.insert(to_lower(caption[mark + 1])).second) << caption;
+        }
+        ++i;
+      }
+      EXPECT_GE(taken.size(), 4U);
+    }
+  }
 }
 
 TEST(AccessKeys, ButtonsOfTheFormComeFirstAndHiddenPagesNotAtAll) {
