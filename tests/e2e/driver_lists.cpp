@@ -73,12 +73,11 @@ std::string cell(const Window& table, const RemoteMemory& memory, int row, int c
 }  // namespace
 
 std::vector<std::string> entries_of(const Window& list) {
-  const bool combo = list.is(WC_COMBOBOXW);
   std::vector<std::string> entries;
-  const LRESULT count = send(list, combo ? CB_GETCOUNT : LB_GETCOUNT);
+  const LRESULT count = send(list, LB_GETCOUNT);
   for (LRESULT i = 0; i < count; ++i) {
     std::array<wchar_t, kLongestCell> units{};
-    send(list, combo ? CB_GETLBTEXT : LB_GETTEXT, static_cast<WPARAM>(i), as_lparam(units.data()));
+    send(list, LB_GETTEXT, static_cast<WPARAM>(i), as_lparam(units.data()));
     entries.push_back(nearest_1252(units.data()));
   }
   return entries;
@@ -86,11 +85,6 @@ std::vector<std::string> entries_of(const Window& list) {
 
 std::vector<std::string> selected_in(const Window& list) {
   const auto entries = entries_of(list);
-  if (list.is(WC_COMBOBOXW)) {
-    const LRESULT chosen = send(list, CB_GETCURSEL);
-    if (chosen < 0) return {};
-    return {entries.at(static_cast<std::size_t>(chosen))};
-  }
   std::vector<std::string> selected;
   for (std::size_t i = 0; i < entries.size(); ++i) {
     if (send(list, LB_GETSEL, i) > 0) selected.push_back(entries[i]);

@@ -11,9 +11,9 @@ namespace quenda {
 
 using TableRow = std::vector<std::string>;
 
-/// The entries of a list box or of a combo box.
+/// The entries of a list box.
 std::vector<std::string> entries_of(const Window& list);
-/// The selected entries of a list box; the one of a combo box.
+/// Those of them that are selected.
 std::vector<std::string> selected_in(const Window& list);
 /// Clicks on an entry of a list box until it is selected.
 void choose(const Window& list, std::string_view entry);

@@ -8,7 +8,7 @@
 namespace quenda {
 namespace {
 
-std::wstring from_utf8(std::string_view text) {
+std::wstring units_of(std::string_view text) {
   const int size = static_cast<int>(text.size());
   std::wstring units(text.size(), L'\0');
   const int length = MultiByteToWideChar(CP_UTF8, 0, text.data(), size, units.data(), size);
@@ -26,7 +26,7 @@ ScriptedItem contact_of(std::string_view text) {
   ScriptedItem item;
   for (const std::string_view property : split(text, "|")) {
     const auto [name, value] = key_and_value(property);
-    item.properties[from_utf8(name)] = from_utf8(replace_all(value, "\\n", "\r\n"));
+    item.properties[units_of(name)] = units_of(replace_all(value, "\\n", "\r\n"));
   }
   return item;
 }
@@ -50,7 +50,7 @@ OutlookScript read_outlook_script(std::string_view text) {
     const auto [key, value_of_key] = key_and_value(line);
     const std::string value(value_of_key);
     const auto number = [&] { return std::stoul(value); };
-    if (key == "version") script.version = from_utf8(value);
+    if (key == "version") script.version = units_of(value);
     if (key == "types" && value == "class") script.types = TypeNews::kClass;
     if (key == "types" && value == "nothing") script.types = TypeNews::kNothing;
     if (key == "refuses") script.refuses = value == "yes";
@@ -58,7 +58,7 @@ OutlookScript read_outlook_script(std::string_view text) {
     if (key == "busy_from") script.busy_from = number();
     if (key == "busy_for") script.busy_for = number();
     if (key == "dies_at") script.dies_at = number();
-    if (key == "missing") script.missing = from_utf8(value);
+    if (key == "missing") script.missing = units_of(value);
     if (key == "report") script.report = value;
     if (key == "contact") script.items.push_back(contact_of(value));
     if (key == "list") script.items.push_back({false, {}});

@@ -45,7 +45,7 @@ class Outlook final : public IClassFactory {
   HRESULT STDMETHODCALLTYPE LockServer(BOOL) override { return S_OK; }
   HRESULT STDMETHODCALLTYPE CreateInstance(IUnknown*, REFIID wanted, void** result) override {
     *result = nullptr;
-    world_.counts.last_change = GetTickCount64();
+    world_.last_change = GetTickCount64();
     if (script_.refuses) return E_ACCESSDENIED;
     if (script_.leaves > 0) {
       return --script_.leaves % 2 == 0 ? CO_E_SERVER_STOPPING : RPC_E_CALL_REJECTED;
@@ -113,7 +113,7 @@ IDispatch* Outlook::item(const ScriptedItem& item) {
 
 void Outlook::serve(REFCLSID class_id) {
   DWORD cookie = 0;
-  world_.counts.last_change = GetTickCount64();
+  world_.last_change = GetTickCount64();
   if (FAILED(CoRegisterClassObject(class_id, this, CLSCTX_LOCAL_SERVER, REGCLS_MULTIPLEUSE,
                                    &cookie))) {
     return;
@@ -123,17 +123,17 @@ void Outlook::serve(REFCLSID class_id) {
     MsgWaitForMultipleObjects(0, nullptr, FALSE, kLook, QS_ALLINPUT);
     MSG message{};
     while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != 0) DispatchMessageW(&message);
-    const ULONGLONG quiet = GetTickCount64() - world_.counts.last_change;
-    const bool used = world_.counts.calls > 0 || script_.refuses;
-    if (quiet > kIdleLimit || (used && world_.counts.live == 0 && quiet > kLinger)) break;
+    const ULONGLONG quiet = GetTickCount64() - world_.last_change;
+    const bool used = world_.calls > 0 || script_.refuses;
+    if (quiet > kIdleLimit || (used && world_.live == 0 && quiet > kLinger)) break;
   }
   CoRevokeClassObject(cookie);
 }
 
 void Outlook::report() const {
   std::ofstream(script_.report, std::ios::app)
-      << "live=" << world_.counts.live << " lookups=" << world_.counts.lookups
-      << " calls=" << world_.counts.calls << " rejected=" << world_.counts.rejected << '\n';
+      << "live=" << world_.live << " lookups=" << world_.lookups << " calls=" << world_.calls
+      << " rejected=" << world_.rejected << '\n';
 }
 
 std::string content_of(const std::filesystem::path& file) {

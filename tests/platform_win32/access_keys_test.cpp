@@ -48,12 +48,13 @@ TEST(AccessKeys, CaptionsThatRepeatTakeWhatTheOthersLeave) {
 
 TEST_F(WizardTest, EveryButtonOfAPageHasAnAltLetterOfItsOwnInBothLanguages) {
   std::ifstream english(QUENDA_SOURCE_DIR "/base/language_en.ini", std::ios::binary);
-  machine.files.put("C:\\Quenda\\base\\language_en.ini", {std::istreambuf_iterator(english), {}});
+  machine.files.put("C:\\Quenda\\base\\language_en.ini",
+                    std::string(std::istreambuf_iterator(english), {}));
   for (const std::string language : {"", "en"}) {
     machine.files.put("C:\\Quenda\\data\\Quenda.ini", "[General]\r\nLanguage=" + language + "\r\n");
     start();
     EXPECT_EQ(form->cmdFor.caption(), language.empty() ? "Weiter" : "Next");
-    for (int page = 0; page <= 4; ++page) {
+    for (std::int16_t page = 0; page <= 4; ++page) {
       SCOPED_TRACE(language + std::to_string(page));
       form->wizard.CurrentPage = page;
       form->ShowSite();
