@@ -115,6 +115,7 @@ TEST_F(LastPage, EditedEntryIsCleanedAndKeepsItsPlace) {
   enter();
   machine.events.on_modal = [&](Form& shown) {
     auto& dialog = dynamic_cast<fImportItemEdit&>(shown);
+    EXPECT_EQ(dialog.caption(), "Quenda - Kontakte importieren");
     EXPECT_EQ(dialog.txtName.text(), "Neu");
     dialog.txtNumber.set_focus();
     EXPECT_EQ(dialog.txtNumber.selection_length(), 3) << "as long as the name";

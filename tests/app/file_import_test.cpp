@@ -221,6 +221,7 @@ TEST_F(FileImport, AsksForTheOwnCodesUntilTheyAreGoodEnough) {
   int asked = 0;
   machine.events.on_modal = [&](Form& shown) {
     auto& dialog = dynamic_cast<fOVWInput&>(shown);
+    EXPECT_EQ(dialog.caption(), "Quenda - Import");
     EXPECT_EQ(dialog.txtLVW.text(), "0049");
     EXPECT_FALSE(dialog.cmdOK.enabled());
     if (++asked == 1) return;  // closed without an answer

@@ -23,6 +23,7 @@ class OutlookReading : public testing::Test {
   void read() {
     ComAutomation automation([this] { ++pumped_; });
     modOutlook outlook(service_.errors, automation);
+    contacts_.clear();
     outlook.isOutlookInstalled(true);
     name_ = outlook.version_name();
     came_through_ =

@@ -12,7 +12,7 @@
 namespace quenda {
 
 /// What an object tells of its type: the interface's name ("_ContactItem"), its class's name, or
-/// nothing, so that only the number in `Class` tells contacts from others.
+/// nothing but the number in `Class`, which tells contacts from others.
 enum class TypeNews { kInterface, kClass, kNothing };
 
 /// One item of the contacts folder.

@@ -95,10 +95,11 @@ class Outlook final : public IClassFactory {
 };
 
 IDispatch* Outlook::item(const ScriptedItem& item) {
-  if (!item.contact) {
-    return new ScriptedObject(world_, L"DistListItem", {{L"Class", gives_number(kListClass)}});
+  ScriptedObject::Members members;
+  if (script_.types == TypeNews::kNothing) {
+    members.emplace_back(L"Class", gives_number(item.contact ? kContactClass : kListClass));
   }
-  ScriptedObject::Members members = {{L"Class", gives_number(kContactClass)}};
+  if (!item.contact) return new ScriptedObject(world_, L"DistListItem", std::move(members));
   for (const std::string_view property : kContactProperties) {
     const std::wstring name(property.begin(), property.end());
     if (name == script_.missing) continue;

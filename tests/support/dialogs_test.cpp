@@ -22,6 +22,9 @@ TEST(FileFilters, EndWithAllFiles) {
   EXPECT_THAT(filters("all"), ElementsAre(kAll));
   EXPECT_THAT(filters("unknown"), ElementsAre(kAll));
   EXPECT_THAT(filters("ispy"), ElementsAre(FileFilter{"ISpy log", "ISpy.log"}, kAll));
+  EXPECT_THAT(filters("pics"), ElementsAre(FileFilter{"Bilder (jpg, bmp, gif, png, ico)",
+                                                      "*.jpg;*.bmp;*.gif;*.png;*.ico"},
+                                           kAll));
   EXPECT_EQ(filters("html").size(), 4U);
 }
 
