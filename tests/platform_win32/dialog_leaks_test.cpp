@@ -72,8 +72,8 @@ class DialogLeaks : public testing::Test, public LoopClient {
   DialogLeaks() {
     main_.Form_Load();
     events_.show(main_);
-    // Under the dialogs it would be drawn anew each time.
-    ShowWindow(window_of(main_), SW_HIDE);
+    // What lies under the dialogs is drawn anew each time.
+    main_.ShowSite(true);
     loop_.add(*this);
   }
   ~DialogLeaks() override {
@@ -81,7 +81,8 @@ class DialogLeaks : public testing::Test, public LoopClient {
     events_.close_all();
   }
 
-  void show(Form& dialog, const Button& leave_by) {
+  void show(Form& dialog, Button& leave_by) {
+    dialog_ = &dialog;
     button_ = &leave_by;
     events_.show_modal(dialog, main_);
   }
@@ -104,11 +105,9 @@ class DialogLeaks : public testing::Test, public LoopClient {
   }
   void show_changes() override {}
   void settle(bool idle) override {
-    if (!idle || button_ == nullptr || button_->peer() == nullptr) return;
-    const auto* const native = static_cast<NativeControl*>(button_->peer());
-    button_ = nullptr;
-    EXPECT_TRUE(IsWindowVisible(native->window()));
-    PostMessageW(native->window(), BM_CLICK, 0, 0);
+    if (!idle || button_ == nullptr) return;
+    EXPECT_TRUE(IsWindowVisible(window_of(*dialog_)));
+    std::exchange(button_, nullptr)->take_user_click();
   }
 
   FakeMachine machine_;
@@ -117,7 +116,8 @@ class DialogLeaks : public testing::Test, public LoopClient {
   App app_{{machine_.files, machine_.clock, events_, machine_.dialogs, machine_.system,
             machine_.host_link, machine_.automation}};
   fMain main_{app_};
-  const Button* button_ = nullptr;
+  const Form* dialog_ = nullptr;
+  Button* button_ = nullptr;
 };
 
 TEST_F(DialogLeaks, EditingAnEntry) {
