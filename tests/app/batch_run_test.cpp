@@ -165,29 +165,15 @@ TEST_F(BatchRunTest, FaultsAreReportedWithTheirProcedure) {
 TEST_F(BatchRunTest, WarnsOfOtherEncodings) {
   const std::string rows = ";Festnetz\r\nJ;030 5550123\r\n";
   options_.dry_run = true;
-  struct Case {
-    std::string content;
-    std::string warning;
-  };
-  const Case cases[] = {{"Name;Gr\xF6\xDF"
-                         "e" +
-                             rows,
-                         ""},
-                        {"Name;Gr\xC3\xB6\xC3\x9F"
-                         "e" +
-                             rows,
-                         "UTF-8"},
-                        {"Name;ASCII" + rows, ""},
-                        {"\xEF\xBB\xBFX;Name" + rows, "UTF-8"},
-                        {"Name;Gr\xC3\xB6\xDF"
-                         "e" +
-                             rows,
-                         ""}};
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.content);
-    take_file(c.content);
+  const std::pair<std::string, bool> cases[] = {{"Name;Gr\xFCn", false},
+                                                {"Name;Gr\xC3\xBCn", true},
+                                                {"Name;ASCII", false},
+                                                {"\xEF\xBB\xBFX;Name", true},
+                                                {"Name;Gr\xC3\xBC\xDFt", false}};
+  for (const auto& [header, utf8] : cases) {
+    take_file(header + rows);
     run();
-    EXPECT_EQ(errors_.str().find("UTF-8") != std::string::npos, !c.warning.empty());
+    EXPECT_EQ(errors_.str().find("UTF-8") != std::string::npos, utf8) << header;
   }
   take_file(std::string("\xFF\xFEN\0a\0", 6));
   run();

@@ -12,7 +12,6 @@ namespace {
 
 constexpr DWORD kPollInterval = 10;  // milliseconds
 constexpr UINT kAnswerTime = 5000;   // milliseconds; a window that is busy for longer has hung
-constexpr DWORD kTypeMask = 0xF;     // of a button's style
 
 BOOL CALLBACK collect(HWND window, LPARAM list) {
   if (IsWindowVisible(window) != 0) {
@@ -49,12 +48,6 @@ bool Window::is(std::wstring_view window_class) const {
                               static_cast<int>(window_class.size()), TRUE) == CSTR_EQUAL;
 }
 
-DWORD Window::style() const { return static_cast<DWORD>(GetWindowLongPtrW(handle_, GWL_STYLE)); }
-
-bool Window::button_of_type(DWORD type) const {
-  return is(WC_BUTTONW) && (style() & kTypeMask) == type;
-}
-
 bool Window::checked() const { return SendMessageW(handle_, BM_GETCHECK, 0, 0) == BST_CHECKED; }
 
 RECT Window::place() const {
@@ -80,7 +73,7 @@ std::string Window::text() const {
 }
 
 char Window::alt_letter() const {
-  if (is(WC_STATICW) && (style() & SS_NOPREFIX) != 0) return 0;
+  if (is(WC_STATICW) && (GetWindowLongPtrW(handle_, GWL_STYLE) & SS_NOPREFIX) != 0) return 0;
   if (!is(WC_STATICW) && !is(WC_BUTTONW)) return 0;
   const std::string text = raw_text();
   const auto mark = text.find('&');

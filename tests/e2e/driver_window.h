@@ -29,9 +29,6 @@ class Window {
   [[nodiscard]] bool enabled() const;
   [[nodiscard]] bool focused() const;
   [[nodiscard]] bool is(std::wstring_view window_class) const;
-  [[nodiscard]] DWORD style() const;
-  /// A push button, box, option or group; `type` is one of the BS_ types.
-  [[nodiscard]] bool button_of_type(DWORD type) const;
   /// Ticked or chosen.
   [[nodiscard]] bool checked() const;
   [[nodiscard]] RECT place() const;

@@ -7,6 +7,7 @@
 
 #include "platform/win32/automation_com.h"
 #include "sources/modOutlook.h"
+#include "support/literal_1252.h"
 #include "tests/outlook/outlook_standin.h"
 #include "tests/shared/error_service.h"
 
@@ -47,9 +48,7 @@ TEST_F(OutlookReading, ContactsAreKnownByWhateverTheProgramTellsOfItsTypes) {
                                  "list=\n"
                                  "contact=FirstName=Udo|BusinessTelephoneNumber=030 7654321\n");
     read();
-    EXPECT_EQ(name_,
-              "Outlook\xAE"
-              "2013");
+    EXPECT_EQ(name_, u8"Outlook®2013"_de);
     EXPECT_EQ(skipped_, 1);
     ASSERT_EQ(contacts_.size(), 3U);
     EXPECT_EQ(contacts_[0][0], "?") << "a character that the phone book cannot write";

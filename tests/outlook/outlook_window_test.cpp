@@ -51,30 +51,25 @@ TEST_F(OutlookWindow, ContactsReachTheBookAndThePhoneBookHearsIt) {
   const OutlookStandIn outlook(kThreeItems);
   start_by_phone_book();
   EXPECT_TRUE(panel_becomes(2, "3 Kontakte gefunden"));
-  EXPECT_TRUE(
-      main_.shows("Outlook\xAE"
-                  "2013  v15"));
+  EXPECT_TRUE(main_.shows(u8"Outlook®2013  v15"_de));
   open_outlook();
   EXPECT_TRUE(panel_becomes(3, u8"3 Einträge zum Import"_de));
-  EXPECT_THAT(rows_of(preview()), ElementsAre(ElementsAre("J\xF6rg Berg privat", "+49 30 5551234",
-                                                          "12345 Berlin, Weg 1 Hof 2"),
-                                              ElementsAre("Udo Muster gesch\xE4"
-                                                          "ftlich",
-                                                          "040 5556677", ","),
-                                              ElementsAre("Udo Muster mobil", "0171 5550000", "")));
+  EXPECT_THAT(
+      rows_of(preview()),
+      ElementsAre(ElementsAre("J\xF6rg Berg privat", "+49 30 5551234", "12345 Berlin, Weg 1 Hof 2"),
+                  ElementsAre(u8"Udo Muster geschäftlich"_de, "040 5556677", ","),
+                  ElementsAre("Udo Muster mobil", "0171 5550000", "")));
   click(button("Mobilfunknummer"));
   EXPECT_TRUE(becomes([&] { return row_count(preview()) == 2; }));
   forward(Page::kEntries);
   EXPECT_THAT(final_entries(), ElementsAre("J\xF6rg Berg privat 0305551234",
-                                           "Udo Muster gesch\xE4"
-                                           "ftlich 0405556677"));
+                                           u8"Udo Muster geschäftlich 0405556677"_de));
   click_button(kApply);
   expect_end();
   EXPECT_TRUE(phone_book_->hears("data"));
   EXPECT_EQ(suite_.book(),
-            "J\xF6rg Berg privat;0305551234;0;0;0;0;12345 Berlin, Weg 1 Hof 2;;[vcd()vcd]\r\n"
-            "Udo Muster gesch\xE4"
-            "ftlich;0405556677;0;0;0;0;,;;[vcd()vcd]\r\n");
+            u8"Jörg Berg privat;0305551234;0;0;0;0;12345 Berlin, Weg 1 Hof 2;;[vcd()vcd]\r\n"
+            u8"Udo Muster geschäftlich;0405556677;0;0;0;0;,;;[vcd()vcd]\r\n"_de);
   EXPECT_THAT(outlook.counted("live"), Each(0));
 }
 
