@@ -48,12 +48,7 @@ class RemoveDoubleEntries : public testing::Test {
 };
 
 TEST_F(RemoveDoubleEntries, DropsExactDoublesWhateverTheirLetterCase) {
-  EXPECT_EQ(remove({entry("M\xFCller", "030",
-                          "Stra\xDF"
-                          "e"),
-                    entry("M\xDCLLER", "030",
-                          "STRA\xDF"
-                          "E")}),
+  EXPECT_EQ(remove({entry("M\xFCller", "030", "Gru\xDF"), entry("M\xDCLLER", "030", "GRU\xDF")}),
             1U);
   EXPECT_TRUE(questions_.empty());
 }

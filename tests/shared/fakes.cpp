@@ -1,44 +1,8 @@
 #include "tests/shared/fakes.h"
 
-#include "platform/form.h"
 #include "support/fault.h"
 
 namespace quenda {
-
-MessageAnswer FakeDialogs::message_box(std::string_view text, MessageStyle style,
-                                       std::string_view title) {
-  boxes.push_back({std::string(text), style, std::string(title)});
-  if (answers.empty()) return MessageAnswer::kOk;
-  const MessageAnswer answer = answers.front();
-  answers.pop_front();
-  return answer;
-}
-
-std::string FakeDialogs::open_file(Form& /*owner*/, const std::vector<FileFilter>& wanted) {
-  filters.push_back(wanted);
-  if (paths.empty()) return {};
-  std::string path = std::move(paths.front());
-  paths.pop_front();
-  return path;
-}
-
-int FakeSystem::open_with_shell(Form* /*owner*/, std::string_view verb, std::string_view file,
-                                std::string_view /*parameters*/, std::string_view /*folder*/) {
-  opened.push_back(std::string(verb) + " " + std::string(file));
-  return shell_result;
-}
-
-void FakeEvents::show_modal(Form& form, Form& /*owner*/) {
-  if (on_modal) on_modal(form);
-  if (form.loaded()) form.unload();
-}
-
-void FakeHostLink::offer(std::string_view new_topic, std::string_view new_item,
-                         HostLinkEvents new_events) {
-  topic = new_topic;
-  item = new_item;
-  events = std::move(new_events);
-}
 
 namespace {
 

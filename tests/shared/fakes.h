@@ -14,6 +14,7 @@
 #include "platform/clock.h"
 #include "platform/dialogs.h"
 #include "platform/events.h"
+#include "platform/form.h"
 #include "platform/host_link.h"
 #include "platform/services.h"
 #include "platform/system.h"
@@ -45,8 +46,23 @@ class FakeDialogs : public Dialogs {
   std::vector<std::vector<FileFilter>> filters;  // of the file dialogs shown so far
 
   MessageAnswer message_box(std::string_view text, MessageStyle style,
-                            std::string_view title) override;
-  std::string open_file(Form& owner, const std::vector<FileFilter>& wanted) override;
+                            std::string_view title) override {
+    boxes.push_back({std::string(text), style, std::string(title)});
+    return taken_from(answers, MessageAnswer::kOk);
+  }
+  std::string open_file(Form& /*owner*/, const std::vector<FileFilter>& wanted) override {
+    filters.push_back(wanted);
+    return taken_from(paths, std::string());
+  }
+
+ private:
+  template <class T>
+  static T taken_from(std::deque<T>& prepared, T otherwise) {
+    if (prepared.empty()) return otherwise;
+    T first = std::move(prepared.front());
+    prepared.pop_front();
+    return first;
+  }
 };
 
 class FakeSystem : public System {
@@ -69,8 +85,11 @@ class FakeSystem : public System {
   [[nodiscard]] bool previous_instance() const override { return previous; }
   [[nodiscard]] bool protects_program_folders() const override { return protects; }
   [[nodiscard]] std::string short_date_today() const override { return today; }
-  int open_with_shell(Form* owner, std::string_view verb, std::string_view file,
-                      std::string_view parameters, std::string_view folder) override;
+  int open_with_shell(Form* /*owner*/, std::string_view verb, std::string_view file,
+                      std::string_view /*parameters*/, std::string_view /*folder*/) override {
+    opened.push_back(std::string(verb) + " " + std::string(file));
+    return shell_result;
+  }
 };
 
 /// The user: `on_yield` acts while the program works, `on_modal` while a dialog is open. A dialog
@@ -84,7 +103,10 @@ class FakeEvents : public Events {
     if (on_yield) on_yield();
   }
   void show(Form& /*form*/) override {}
-  void show_modal(Form& form, Form& /*owner*/) override;
+  void show_modal(Form& form, Form& /*owner*/) override {
+    if (on_modal) on_modal(form);
+    if (form.loaded()) form.unload();
+  }
 };
 
 class FakeHostLink : public HostLink {
@@ -96,7 +118,11 @@ class FakeHostLink : public HostLink {
   bool shut = false;
 
   void offer(std::string_view new_topic, std::string_view new_item,
-             HostLinkEvents new_events) override;
+             HostLinkEvents new_events) override {
+    topic = new_topic;
+    item = new_item;
+    events = std::move(new_events);
+  }
   void set_text(std::string_view text) override { texts.emplace_back(text); }
   void shut_down() noexcept override { shut = true; }
 };
