@@ -99,10 +99,10 @@ TEST_F(AreaCode, IsAskedForUntilItIsComplete) {
   EXPECT_TRUE(dialog.shows("In den Einstellungen von Quenda ist keine Ortsvorwahl eingetragen."));
   const Window area = dialog.after("Ortsvorwahl");
   EXPECT_TRUE(becomes([&] { return area.focused(); })) << focus_of(dialog).text();
-  for (const auto& [code, complete] : {std::pair("030", true), std::pair("30", false)}) {
-    fill(area, code);
-    EXPECT_TRUE(becomes([&] { return dialog.find(kApply).enabled() == complete; })) << code;
-  }
+  fill(area, "030");
+  EXPECT_TRUE(becomes([&] { return dialog.find(kApply).enabled(); }));
+  fill(area, "30");
+  EXPECT_TRUE(becomes([&] { return !dialog.find(kApply).enabled(); }));
   press_alt_f4();
   ASSERT_TRUE(becomes([&] { return !area.exists(); }));
   dialog = dialog_over(main_);
