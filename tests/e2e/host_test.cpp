@@ -61,6 +61,18 @@ TEST_F(Host, ImportGoesOnWhenTheHostDies) {
   write_unheard();
 }
 
+TEST_F(Host, TwoHostsHearTheSame) {
+  start_by_phone_book();
+  PhoneBook second(suite_.tool(), "--no-start");
+  EXPECT_TRUE(second.hears("ON"));
+  go_to(Page::kEntries);
+  click_button(kApply);
+  expect_end();
+  EXPECT_TRUE(phone_book_->hears("data"));
+  EXPECT_TRUE(second.hears("closed"));
+  EXPECT_THAT(second.heard(), ElementsAre("ON", "data", "closed"));
+}
+
 TEST_F(Host, AHostThatDiesOnTheFirstWordIsNoLoss) {
   phone_book_ = std::make_unique<PhoneBook>(suite_.tool(), "--die-after ON");
   find_window();
