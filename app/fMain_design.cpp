@@ -239,12 +239,16 @@ void fMain::Language() {
 
 void fMain::name_address_boxes() {
   for (std::size_t row = 0; row < kNumberRows; ++row) {
+    const std::string number = concat(texts.number, " ", std::to_string(row + 1));
+    const auto index = static_cast<int>(row);
+    txtIndex(index).set_spoken_name(concat(number, ": ", labNameExt.caption()));
+    txtAdresBind(index).set_spoken_name(concat(number, ": ", texts.address));
     for (const auto& box : address_boxes(row)) {
       const std::string address = std::to_string(box->index() + 1);
       box->set_caption(address);
       // Read aloud, "1" alone would say nothing.
-      box->set_spoken_name(concat(app_.text("Import_Label_AddressSelect"), ": ", texts.number, " ",
-                                  std::to_string(row + 1), ", ", texts.address, " ", address));
+      box->set_spoken_name(concat(app_.text("Import_Label_AddressSelect"), ": ", number, ", ",
+                                  texts.address, " ", address));
     }
   }
 }

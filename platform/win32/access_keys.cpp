@@ -170,6 +170,16 @@ std::vector<Control*> keyed_controls(const ControlHost& form) {
   return found;
 }
 
+std::string label_of_list(const ControlHost& form, const Control& control) {
+  if (!is_field(control) || control.kind() == ControlKind::kTextBox) return {};
+  const Control* before = nullptr;
+  for (const Control* sibling : in_tab_order(form, control.parent())) {
+    if (sibling == &control) break;
+    before = sibling;
+  }
+  return before != nullptr && before->kind() == ControlKind::kLabel ? before->caption() : "";
+}
+
 std::string without_access_key(std::string_view caption) { return replace_all(caption, "&", "&&"); }
 
 }  // namespace quenda

@@ -21,6 +21,10 @@ std::vector<std::string> with_access_keys(const std::vector<std::string>& captio
 /// same on every page.
 std::vector<Control*> keyed_controls(const ControlHost& form);
 
+/// The caption of the label right before a list, empty for other controls and without one. Screen
+/// readers name a text box by its label on their own.
+std::string label_of_list(const ControlHost& form, const Control& control);
+
 /// The caption with every "&" shown as such.
 std::string without_access_key(std::string_view caption);
 

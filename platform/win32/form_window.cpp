@@ -222,6 +222,14 @@ void FormWindow::tell_names() {
   }
 }
 
+std::string FormWindow::name_to_answer(const NativeControl& native) {
+  std::string name = native.control().spoken_name();
+  if (name.empty()) name = label_of_list(form_, native.control());
+  if (name.empty()) return name;
+  if (!names_) names_ = std::make_unique<SpokenNames>();
+  return names_->set(native.window(), name) ? std::string() : name;
+}
+
 void FormWindow::settle(bool idle) {
   if (!ready_ || !form_.loaded()) return;
   if (idle && names_changed_) tell_names();

@@ -41,6 +41,9 @@ class FormWindow : public ControlPeer, public LoopClient {
   [[nodiscard]] std::string keyed_caption(const Control& control) const;
   /// A caption is another or a control has come into view, so letters can have to change.
   void captions_changed() { captions_changed_ = true; }
+  /// The name that a control has to answer a screen reader with itself; empty where the system
+  /// knows it.
+  [[nodiscard]] std::string name_to_answer(const NativeControl& native);
   /// Has the spoken names told to the system, once the window is there.
   void names_changed() { names_changed_ = true; }
   /// A frame has come into view: its controls get their windows, if they have none yet, and the

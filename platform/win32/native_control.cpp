@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "platform/win32/form_window.h"
+#include "platform/win32/named_object.h"
 #include "platform/win32/text_win32.h"
 #include "support/fault.h"
 
@@ -148,6 +149,12 @@ LRESULT CALLBACK NativeControl::procedure(HWND window, UINT message, WPARAM wpar
                          : self->handle(message, wparam, lparam);
 }
 
+LRESULT NativeControl::object_named(WPARAM wparam, LPARAM lparam) {
+  if (static_cast<LONG>(lparam) != OBJID_CLIENT) return 0;
+  const std::string name = form_.name_to_answer(*this);
+  return name.empty() ? 0 : answer_with_name(window_, wparam, name);
+}
+
 LRESULT NativeControl::handle(UINT message, WPARAM wparam, LPARAM lparam) noexcept {
   struct Answer {
     bool taken = false;
@@ -157,7 +164,8 @@ LRESULT NativeControl::handle(UINT message, WPARAM wparam, LPARAM lparam) noexce
   const auto answer = loop.at_edge(
       [&] {
         Answer given;
-        given.taken = on_message(message, wparam, lparam, given.result);
+        if (message == WM_GETOBJECT) given.result = object_named(wparam, lparam);
+        given.taken = given.result != 0 || on_message(message, wparam, lparam, given.result);
         return given;
       },
       Answer{});

@@ -93,6 +93,8 @@ class NativeControl : public ControlPeer {
   [[nodiscard]] bool is_live() const;
   static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wparam,
                                     LPARAM lparam) noexcept;
+  /// The accessible object that a screen reader asks for, where the control has to give it; else 0.
+  LRESULT object_named(WPARAM wparam, LPARAM lparam);
   LRESULT handle(UINT message, WPARAM wparam, LPARAM lparam) noexcept;
 
   FormWindow& form_;

@@ -20,10 +20,10 @@ SpokenNames::SpokenNames() : service_(std::make_unique<Service>()) {
 
 SpokenNames::~SpokenNames() = default;
 
-void SpokenNames::set(HWND window, std::string_view name) {
-  if (!service_->properties) return;
-  service_->properties->SetHwndPropStr(window, static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF,
-                                       PROPID_ACC_NAME, wide(name).c_str());
+bool SpokenNames::set(HWND window, std::string_view name) {
+  return service_->properties && SUCCEEDED(service_->properties->SetHwndPropStr(
+                                     window, static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF,
+                                     PROPID_ACC_NAME, wide(name).c_str()));
 }
 
 }  // namespace quenda

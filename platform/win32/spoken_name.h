@@ -7,15 +7,15 @@
 
 namespace quenda {
 
-/// Gives windows names that screen readers say in place of their texts. A system without that
-/// service goes without.
+/// Gives windows names that screen readers say in place of their texts.
 class SpokenNames {
  public:
   SpokenNames();
   SpokenNames(const SpokenNames&) = delete;
   SpokenNames& operator=(const SpokenNames&) = delete;
   ~SpokenNames();
-  void set(HWND window, std::string_view name);
+  /// False on a system that keeps no such names, as Wine.
+  bool set(HWND window, std::string_view name);
 
  private:
   struct Service;

@@ -3,10 +3,12 @@
 #include "platform/win32/form_window.h"
 
 #include <gtest/gtest.h>
+#include <oleacc.h>
 #include <shlobj.h>
 
 #include <algorithm>
 
+#include "platform/win32/com_values.h"
 #include "platform/win32/text_win32.h"
 #include "tests/platform_win32/form_fixture.h"
 
@@ -133,6 +135,28 @@ TEST_F(FormWindowTest, ColumnsShareTheRoomOfAListButStayAsWideAsAskedFor) {
   GetClientRect(window(form_.view), &area);
   EXPECT_NEAR(width(0) + width(1), area.right, 25);
   EXPECT_NEAR(width(1), 2 * width(0), 6);
+}
+
+std::string read_aloud(HWND window) {
+  ComPtr<IAccessible> object;
+  AccessibleObjectFromWindow(window, static_cast<DWORD>(OBJID_CLIENT), IID_IAccessible,
+                             object.out_void());
+  Bstr name;
+  if (object) object->get_accName(*Variant(long{CHILDID_SELF}).get(), name.out());
+  return name.text();
+}
+
+TEST_F(FormWindowTest, BoxesAndListsTellAScreenReaderWhatTheyAre) {
+  Label label(form_, "labView");
+  label.set_caption("Vorschau");
+  label.set_tab_index(100);
+  form_.view.set_tab_index(101);
+  form_.box.set_caption("1");
+  form_.box.set_spoken_name("Adresse 1");
+  show();
+  const ApartmentScope apartment;
+  EXPECT_EQ(read_aloud(window(form_.box)), "Adresse 1");
+  EXPECT_EQ(read_aloud(window(form_.view)), "Vorschau");
 }
 
 /// An empty path drops nothing at all.
