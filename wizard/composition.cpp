@@ -98,7 +98,8 @@ Order address_order(std::string_view entry, int position) {
 std::string address_preview(const std::vector<std::string>& parts, const Order& order) {
   std::string joined;
   for (const std::size_t part : order) {
-    if (part < parts.size()) joined += parts[part];
+    if (part >= parts.size()) continue;
+    joined += parts[part];
     joined += '/';
   }
   std::string preview = replace_all(joined, "//", "/");

@@ -100,6 +100,7 @@ TEST(AddressPreview, LeavesNoStraySlashes) {
   EXPECT_EQ(address_preview({"Straße", "Ort"}, {1, 0}), "Ort/Straße");
   EXPECT_EQ(address_preview({"Straße", "", "Ort"}, {0, 1, 2}), "Straße/Ort");
   EXPECT_EQ(address_preview({"Ort"}, {1, 0, 2}), "Ort");
+  EXPECT_EQ(address_preview({"Ort"}, {0, 1, 2}), "Ort");
 }
 
 }  // namespace
