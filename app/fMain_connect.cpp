@@ -6,6 +6,14 @@
 
 // Which event of which control runs which procedure.
 namespace quenda {
+namespace {
+
+/// A separator that is pasted would split the entry's line; the key filter sees typed ones only.
+void keep_separators_out(TextBox& box) {
+  if (box.text().find(';') != std::string::npos) box.set_text(replace_all(box.text(), ";", ","));
+}
+
+}  // namespace
 
 void fMain::connect() {
   cmdBack.on_click = [this] { cmdBack_Click(); };
@@ -40,6 +48,7 @@ void fMain::connect() {
   }
   chkFlip.on_click = [this] { chkFlip_Click(); };
   for (const auto& box : txtIndex) {
+    box->on_change = [&box = *box] { keep_separators_out(box); };
     box->on_key_press = [this](std::int16_t& code) { txtIndex_KeyPress(code); };
   }
   cmbFlipAdress.on_click = [this] { cmbFlipAdress_Click(); };
@@ -67,7 +76,10 @@ void fMain::connect() {
     };
   }
   for (const auto& box : txtImport) {
-    box->on_change = [this] { txtImport_Change(); };
+    box->on_change = [this, &box = *box] {
+      keep_separators_out(box);
+      txtImport_Change();
+    };
     box->on_key_press = [this](std::int16_t& code) { txtImport_KeyPress(code); };
   }
 }

@@ -57,6 +57,8 @@ TEST_F(FileImport, RunsFromTheFileToTheBook) {
   EXPECT_EQ(form->txtHead(1).text(), "Mobil");
   form->txtIndex(1).type("mobil;x");
   EXPECT_EQ(form->txtIndex(1).text(), "mobil,x") << "no separator can be typed";
+  form->txtIndex(1).take_user_text("mobil;y");
+  EXPECT_EQ(form->txtIndex(1).text(), "mobil,y") << "nor pasted";
   form->txtIndex(1).set_text("mobil");
 
   forward();

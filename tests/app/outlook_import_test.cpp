@@ -46,6 +46,8 @@ TEST_F(OutlookImport, RunsToTheBookAndBackAgain) {
   EXPECT_EQ(form->StatusBar.panel(3), u8"3 Einträge zum Import"_de);
   form->chkImport(7).take_user_click();
   EXPECT_EQ(form->lstImport.count(), 2U) << "the preview follows the ticks";
+  form->txtImport(1).take_user_text("a;b");
+  EXPECT_EQ(form->lstImport.cell(0, 0), "Eva Muster a,b") << "no separator gets in";
   form->txtImport(1).take_user_text("zuhause");
   EXPECT_EQ(form->lstImport.cell(0, 0), "Eva Muster zuhause");
   form->chkFlipName.take_user_click();
