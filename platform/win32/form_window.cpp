@@ -211,11 +211,8 @@ bool FormWindow::translate(MSG& message) {
   return IsDialogMessageW(window(), &message) != 0;
 }
 
-/// The service of the system that takes them is loaded for the first name, so a window comes up
-/// without waiting for it.
 void FormWindow::tell_names() {
   names_changed_ = false;
-  if (!names_) names_ = std::make_unique<SpokenNames>();
   for (const auto& control : controls_) {
     const std::string& name = control->control().spoken_name();
     if (!name.empty() && control->window() != nullptr) names_->set(control->window(), name);
@@ -232,7 +229,7 @@ std::string FormWindow::name_to_answer(const NativeControl& native) {
 
 void FormWindow::settle(bool idle) {
   if (!ready_ || !form_.loaded()) return;
-  if (idle && names_changed_) tell_names();
+  if (idle && names_ && names_changed_) tell_names();
   focus_.settle(idle);
   show_changes();
 }

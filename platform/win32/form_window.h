@@ -42,9 +42,10 @@ class FormWindow : public ControlPeer, public LoopClient {
   /// A caption is another or a control has come into view, so letters can have to change.
   void captions_changed() { captions_changed_ = true; }
   /// The name that a control has to answer a screen reader with itself; empty where the system
-  /// knows it.
+  /// knows it. The service of the system that keeps names is loaded when a reader first asks: most
+  /// users have none, and need not wait for it.
   [[nodiscard]] std::string name_to_answer(const NativeControl& native);
-  /// Has the spoken names told to the system, once the window is there.
+  /// Has a reader that listens told of other names.
   void names_changed() { names_changed_ = true; }
   /// A frame has come into view: its controls get their windows, if they have none yet, and the
   /// focus when the work at hand is done.

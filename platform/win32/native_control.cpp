@@ -150,9 +150,10 @@ LRESULT CALLBACK NativeControl::procedure(HWND window, UINT message, WPARAM wpar
 }
 
 LRESULT NativeControl::object_named(WPARAM wparam, LPARAM lparam) {
-  if (static_cast<LONG>(lparam) != OBJID_CLIENT) return 0;
+  // Whatever the reader asks for: the system has to know the name by then.
   const std::string name = form_.name_to_answer(*this);
-  return name.empty() ? 0 : answer_with_name(window_, wparam, name);
+  const bool wanted = static_cast<LONG>(lparam) == OBJID_CLIENT;
+  return wanted && !name.empty() ? answer_with_name(window_, wparam, name) : 0;
 }
 
 LRESULT NativeControl::handle(UINT message, WPARAM wparam, LPARAM lparam) noexcept {
