@@ -26,13 +26,19 @@ Options& options() {
 
 /// The words on the way through the wizard, in either language.
 struct Words {
-  std::string_view file, next, edit, apply, keep, area_code, outlook;
+  std::string_view file, next, edit, apply, keep, area_code, outlook, no_outlook;
 };
-constexpr Words kGerman = {u8"Datei für den Import"_de, "Weiter",   "Bearbeiten",
-                           u8"Übernehmen"_de,           "Erhalten", "Ortsvorwahl",
-                           "Outlook-Kontakte"};
-constexpr Words kEnglish = {"File to import",  "Next", "Edit", "Apply", "Keep", "Area code",
-                            "Outlook contacts"};
+constexpr Words kGerman = {u8"Datei für den Import"_de,
+                           "Weiter",
+                           "Bearbeiten",
+                           u8"Übernehmen"_de,
+                           "Erhalten",
+                           "Ortsvorwahl",
+                           "Outlook-Kontakte",
+                           "Outlook nicht installiert!"};
+constexpr Words kEnglish = {
+    "File to import",           "Next", "Edit", "Apply", "Keep", "Area code", "Outlook contacts",
+    "Outlook is not installed!"};
 
 class Screenshots : public WizardTest {
  protected:
@@ -61,6 +67,7 @@ TEST_F(Screenshots, EveryPageAndDialog) {
   suite_.write("data\\Quenda.ini",
                concat("[General]\r\nmyVWL=49\r\nLanguage=", options().language, "\r\n"));
   start_by_phone_book();
+  ASSERT_TRUE(becomes([&] { return panel_of(main_, 2) == words_.no_outlook; }));
   keep(main_, "1_source");
   // Where a user would have it.
   const std::string file = "C:\\Kontakte\\kontakte.csv";
