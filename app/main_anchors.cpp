@@ -30,6 +30,8 @@ constexpr AnchorEntry kAnchors[] = {
     {"labIspy", Anchor::kBoth, Anchor::kStart},
     {"labOLver", Anchor::kBoth, Anchor::kStart},
     {"labOLhint", Anchor::kBoth, Anchor::kStart},
+    {"labHeader", Anchor::kShare, Anchor::kStart},
+    {"lstHeader", Anchor::kShare, Anchor::kStart},
     {"lstShow", Anchor::kBoth, Anchor::kBoth},
     {"cmbFlipAdress", Anchor::kBoth, Anchor::kStart},
     {"txtAdres", Anchor::kBoth, Anchor::kStart},

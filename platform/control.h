@@ -24,8 +24,9 @@ struct Place {
 };
 
 /// What a control does along one axis when its parent is larger than designed: keep its distance
-/// from the start, from the end, or from both by growing.
-enum class Anchor { kStart, kEnd, kBoth };
+/// from the start, from the end, or from both by growing; or keep its share of the parent, as
+/// neighbours in a row do (no frames: what lies in one does not grow with it).
+enum class Anchor { kStart, kEnd, kBoth, kShare };
 
 /// What kind of native control shows a control.
 enum class ControlKind {

@@ -16,13 +16,19 @@ int scaled(int value, int factor, int divisor) {
   return static_cast<int>((product + half) / divisor);
 }
 
-/// One axis of a control: where it starts and how long it is, after its parent has grown.
-std::pair<int, int> along(Anchor anchor, int start, int size, int growth) {
+/// One axis of a control: where it starts and how long it is, after its parent, `whole` as
+/// designed, has grown.
+std::pair<int, int> along(Anchor anchor, int start, int size, int growth, int whole) {
   switch (anchor) {
     case Anchor::kEnd:
       return {start + growth, size};
     case Anchor::kBoth:
       return {start, std::max(size + growth, 0)};
+    case Anchor::kShare: {
+      const int share_before = scaled(growth, start, std::max(whole, 1));
+      const int share_behind = scaled(growth, start + size, std::max(whole, 1));
+      return {start + share_before, std::max(size + share_behind - share_before, 0)};
+    }
     default:
       return {start, size};
   }
@@ -60,8 +66,11 @@ Pixels laid_out(const Control& control, int dpi, Growth form) {
   const int width = pixels_of(place.left + place.width, dpi) - left;
   const int height = pixels_of(place.top + place.height, dpi) - top;
   const Growth growth = growth_of(control.parent(), form);
-  const auto across = along(control.anchor_across(), left, width, growth.across);
-  const auto down = along(control.anchor_down(), top, height, growth.down);
+  const Place around = control.parent() == nullptr ? Place{} : control.parent()->place();
+  const auto across =
+      along(control.anchor_across(), left, width, growth.across, pixels_of(around.width, dpi));
+  const auto down =
+      along(control.anchor_down(), top, height, growth.down, pixels_of(around.height, dpi));
   return {across.first, down.first, across.second, down.second};
 }
 

@@ -48,6 +48,19 @@ TEST_F(LayoutTest, AControlGrowsOnlyAsFarAsItsFrameDoes) {
   EXPECT_EQ(laid_out(right_, 96, growth), (Pixels{50, 70, 50, 20}));
 }
 
+TEST_F(LayoutTest, NeighboursInARowShareWhatTheirFrameGains) {
+  page_.set_place({0, 0, 1500, 1500});
+  page_.set_anchors(Anchor::kBoth, Anchor::kStart);
+  left_.set_place({0, 0, 720, 300});
+  right_.set_place({780, 0, 720, 300});
+  for (Control* control : std::initializer_list<Control*>{&left_, &right_}) {
+    control->set_parent(&page_);
+    control->set_anchors(Anchor::kShare, Anchor::kStart);
+  }
+  EXPECT_EQ(laid_out(left_, 96, {100, 30}), (Pixels{0, 0, 96, 20}));
+  EXPECT_EQ(laid_out(right_, 96, {100, 30}), (Pixels{104, 0, 96, 20}));
+}
+
 TEST_F(LayoutTest, TabOrderPutsAFrameWhereItsFirstControlIsAndALabelBeforeItsField) {
   Label name{form_, "labName"};
   Button field{form_, "field"};
