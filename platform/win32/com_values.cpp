@@ -80,8 +80,8 @@ ComPtr<IDispatch> Variant::object() {
 std::string german_date(double date) {
   // Before the first day the fraction counts forward, too: -1.25 is 6 o'clock on 29.12.1899.
   const double day = std::trunc(date);
-  const auto seconds = std::chrono::seconds(std::lround(std::abs(date - day) * kSecondsPerDay));
   if (!(day >= kFirstDay && day <= kLastDay)) raise_fault(kFaultTypeMismatch);
+  const auto seconds = std::chrono::seconds(std::lround(std::abs(date - day) * kSecondsPerDay));
   const auto moment = kDayZero + std::chrono::days(static_cast<int>(day)) + seconds;
   const auto midnight = std::chrono::floor<std::chrono::days>(moment);
   const std::chrono::year_month_day on(midnight);
