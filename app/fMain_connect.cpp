@@ -1,8 +1,8 @@
-#include "app/app.h"
 #include "app/fMain.h"
 #include "platform/files.h"
 #include "platform/host_link.h"
-#include "support/text.h"
+#include "settings/app.h"
+#include "text/text.h"
 
 // Which event of which control runs which procedure.
 namespace quenda {
@@ -26,15 +26,12 @@ void fMain::connect() {
   on_got_focus = [this] { Form_GotFocus(); };
   on_drop_file = [this](std::string_view path) {
     // A dropped file is taken like a chosen one, as long as a source can be chosen.
-    if (!txtImpFile.reachable() || !app_.services.files.exists(path)) return;
+    if (!txtImpFile.reachable() || !app_.machine.files.exists(path)) return;
     txtImpFile.set_text("");
     txtImpFile.set_text(path);
   };
-  on_unusable_path = [this](std::string_view nearest) {
-    app_.message_box(concat(nearest, kCrLf, texts.import_not_available),
-                     MessageStyle::kInformation);
-  };
-  txtDDE.on_change = [this] { app_.services.host_link.set_text(txtDDE.text()); };
+  on_unusable_path = [this](std::string_view nearest) { app_.refuse_path(nearest); };
+  txtDDE.on_change = [this] { app_.machine.host_link.set_text(txtDDE.text()); };
   tmOLcheck.on_timer = [this] { tmOLcheck_Timer(); };
 
   cmdFile.on_click = [this] { cmdFile_Click(); };

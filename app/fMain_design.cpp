@@ -1,12 +1,12 @@
 #include <string_view>
 
-#include "app/app.h"
-#include "app/design.h"
 #include "app/fMain.h"
 #include "app/main_anchors.h"
-#include "support/literal_1252.h"
+#include "settings/app.h"
 #include "support/procedure.h"
-#include "support/text.h"
+#include "text/literal_1252.h"
+#include "text/text.h"
+#include "wizard/shell/design.h"
 
 // Where the controls of the main form lie and which texts they carry. Each label stands right
 // before its field in the tab order, so that screen readers name the field by it.

@@ -1,5 +1,5 @@
-#include "app/app.h"
 #include "app/fMain.h"
+#include "settings/app.h"
 #include "support/procedure.h"
 
 // Locking and colouring of controls, and the check boxes that bind numbers to addresses.

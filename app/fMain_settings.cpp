@@ -1,11 +1,11 @@
 #include <string>
 #include <string_view>
 
-#include "app/app.h"
 #include "app/fMain.h"
-#include "support/fault.h"
+#include "settings/app.h"
 #include "support/procedure.h"
-#include "support/text.h"
+#include "text/fault.h"
+#include "text/text.h"
 #include "wizard/header_columns.h"
 
 // What the settings remember of the controls, and back.

@@ -1,15 +1,15 @@
 #include <string>
 
-#include "app/app.h"
 #include "app/fMain.h"
-#include "platform/events.h"
+#include "platform/controls/events.h"
 #include "platform/host_link.h"
 #include "platform/system.h"
-#include "support/characters.h"
-#include "support/modProgress.h"
+#include "settings/app.h"
 #include "support/procedure.h"
 #include "support/shell.h"
-#include "support/text.h"
+#include "text/characters.h"
+#include "text/text.h"
+#include "wizard/shell/modProgress.h"
 
 namespace quenda {
 namespace {
@@ -24,7 +24,7 @@ bool changeable(const Control& control) {
 
 }  // namespace
 
-fMain::fMain(App& app) : Form("fMain"), app_(app), outlook_(app.errors, app.services.automation) {
+fMain::fMain(App& app) : Form("fMain"), app_(app), outlook_(app.errors, app.machine.automation) {
   design();
   connect();
 }
@@ -55,7 +55,7 @@ void fMain::Form_Load() {
     tmOLcheck.set_enabled(true);
     StatusBar.set_panel(2, texts.outlook_search);
     entry_lines_.clear();
-    app_.services.host_link.offer(
+    app_.machine.host_link.offer(
         "book", "txtDDE",
         {[this] { Form_LinkOpen(); }, [this] { Form_LinkClose(); }, [this] { Form_LinkError(); }});
   });
@@ -88,7 +88,7 @@ void fMain::Form_Unload() {
     if (txtDDE.text() != "data") txtDDE.set_text("cancel");
     wizard.abort = true;
     SaveWindowPosition();
-    app_.services.host_link.shut_down();
+    app_.machine.host_link.shut_down();
   });
   throw EndProgram();
 }
@@ -116,7 +116,7 @@ void fMain::cmdCancel_Click() {
 
 void fMain::cmdHelp_Click() {
   procedure(app_.errors, "fMain.cmdHelp_Click", {}, [&] {
-    modImport::ShellEx(app_.errors, app_.services.system, this, "Open", kHelpPage, "", "");
+    modImport::ShellEx(app_.errors, app_.machine.system, "Open", kHelpPage, "", "");
   });
 }
 
@@ -146,7 +146,7 @@ void fMain::step(std::size_t done, std::size_t total) {
 }
 
 void fMain::answer_events() {
-  app_.services.events.yield();
+  app_.machine.events.yield();
   if (wizard.abort) throw EndProgram();
 }
 

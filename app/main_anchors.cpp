@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "platform/form.h"
+#include "platform/controls/form.h"
 
 namespace quenda {
 namespace {

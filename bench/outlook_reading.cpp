@@ -7,9 +7,9 @@
 #include <string>
 #include <vector>
 
-#include "platform/win32/automation_com.h"
-#include "platform/win32/com_values.h"
-#include "sources/modOutlook.h"
+#include "platform/win32/com/automation_com.h"
+#include "platform/win32/com/com_values.h"
+#include "sources/pages/modOutlook.h"
 #include "tests/outlook/outlook_standin.h"
 #include "tests/shared/error_service.h"
 

@@ -13,8 +13,8 @@
 #include "book/number_cleaning.h"
 #include "sources/delimited_text.h"
 #include "sources/record_table.h"
-#include "support/characters.h"
-#include "support/text_rows.h"
+#include "text/characters.h"
+#include "text/text_rows.h"
 #include "wizard/composition.h"
 
 namespace quenda {

@@ -5,9 +5,9 @@
 #include <charconv>
 #include <initializer_list>
 
-#include "support/conversions.h"
-#include "support/fault.h"
-#include "support/text.h"
+#include "text/conversions.h"
+#include "text/fault.h"
+#include "text/text.h"
 
 namespace quenda {
 namespace {

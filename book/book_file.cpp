@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "support/text.h"
+#include "text/text.h"
 
 namespace quenda {
 

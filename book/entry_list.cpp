@@ -4,8 +4,8 @@
 #include <array>
 #include <string>
 
-#include "support/conversions.h"
-#include "support/text.h"
+#include "text/conversions.h"
+#include "text/text.h"
 
 namespace quenda {
 namespace {

@@ -4,8 +4,8 @@
 #include <functional>
 #include <string_view>
 
-#include "support/flat_table.h"
-#include "support/text_rows.h"
+#include "text/flat_table.h"
+#include "text/text_rows.h"
 
 // From entry lines ("name;number;address", "|" standing for a comma) to the rows of the final list.
 namespace quenda {

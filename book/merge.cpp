@@ -3,8 +3,8 @@
 #include <array>
 #include <cstdint>
 
-#include "support/text.h"
-#include "support/view_index.h"
+#include "text/text.h"
+#include "text/view_index.h"
 
 namespace quenda {
 namespace {

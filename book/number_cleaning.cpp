@@ -1,6 +1,6 @@
 #include "book/number_cleaning.h"
 
-#include "support/text.h"
+#include "text/text.h"
 
 namespace quenda {
 namespace {

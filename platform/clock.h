@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "support/local_time.h"
+#include "text/local_time.h"
 
 namespace quenda {
 

@@ -7,8 +7,6 @@
 
 namespace quenda {
 
-class Form;
-
 /// Sign and buttons of a message box; the numbers are those of Windows.
 enum class MessageStyle : int {
   kPlain = 0,
@@ -28,14 +26,22 @@ struct FileFilter {
   friend bool operator==(const FileFilter&, const FileFilter&) = default;
 };
 
+/// What the user chose; both texts are empty when the user cancelled.
+struct ChosenFile {
+  std::string path;
+  /// Instead of the path, when it has characters outside Windows-1252, so that the tool cannot name
+  /// the file: the path with those characters replaced.
+  std::string unusable;
+};
+
 class Dialogs {
  public:
   virtual ~Dialogs() = default;
   /// Shows a box over the active window and returns when the user has closed it.
   virtual MessageAnswer message_box(std::string_view text, MessageStyle style,
                                     std::string_view title) = 0;
-  /// Lets the user choose an existing file; the empty text when the user cancels.
-  virtual std::string open_file(Form& owner, const std::vector<FileFilter>& filters) = 0;
+  /// Lets the user choose an existing file, in a dialog over the active window.
+  virtual ChosenFile open_file(const std::vector<FileFilter>& filters) = 0;
 };
 
 }  // namespace quenda

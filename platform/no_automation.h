@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/automation.h"
-#include "support/fault.h"
+#include "text/fault.h"
 
 namespace quenda {
 

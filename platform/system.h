@@ -5,8 +5,6 @@
 
 namespace quenda {
 
-class Form;
-
 /// Numbers of the shell's special folders that the suite knows.
 enum SpecialFolder : int { kCommonApplicationData = 35, kProgramFiles = 38 };
 
@@ -29,9 +27,9 @@ class System {
   [[nodiscard]] virtual bool protects_program_folders() const = 0;
   /// Today in the short date format of the user's country ("02.03.2014").
   [[nodiscard]] virtual std::string short_date_today() const = 0;
-  /// Opens a document or an address with its program. The shell's result code: 33 and more is
-  /// success.
-  virtual int open_with_shell(Form* owner, std::string_view verb, std::string_view file,
+  /// Opens a document or an address with its program, over the active window. The shell's result
+  /// code: 33 and more is success.
+  virtual int open_with_shell(std::string_view verb, std::string_view file,
                               std::string_view parameters, std::string_view folder) = 0;
 };
 

@@ -4,7 +4,7 @@
 
 #include "settings/modAPI_INI.h"
 #include "support/procedure.h"
-#include "support/text.h"
+#include "text/text.h"
 
 namespace quenda {
 namespace {
@@ -68,8 +68,12 @@ constexpr std::array kHeaderNumbers = {
     NumberSetting{"Import", "AddChk31", 0, 0, 1, kAddCheck<2, 0>},
     NumberSetting{"Import", "AddChk32", 0, 0, 1, kAddCheck<2, 1>},
 };
-constexpr std::array<std::string_view, kHeaderKinds> kSelectionKeys = {
-    "SelNames", "SelNumbers", "SelAddress1", "SelAddress2"};
+struct SelectionSetting {
+  std::string_view key;
+  std::size_t columns;  // numbered from 1
+};
+constexpr std::array<SelectionSetting, kRememberedKinds> kSelections = {
+    {{"SelNames", 2}, {"SelNumbers", 3}, {"SelAddress1", 3}, {"SelAddress2", 3}}};
 
 std::string numbered(std::string_view key, std::size_t position) {
   return concat(key, std::to_string(position + 1));
@@ -131,12 +135,12 @@ void load_page_options(modAPI_INI& ini, ImportSettings& settings) {
 }
 
 void load_selections(modAPI_INI& ini, ImportSettings& settings) {
-  for (std::size_t kind = 0; kind < kHeaderKinds; ++kind) {
+  for (std::size_t kind = 0; kind < kRememberedKinds; ++kind) {
     settings.selection_counts[kind] = 0;
-    for (std::size_t i = 0; i < most_columns(kind); ++i) {
+    for (std::size_t i = 0; i < kSelections[kind].columns; ++i) {
       skip_faults({[&] {
         std::string& text = settings.selections[kind][i];
-        text = load_import_text(ini, numbered(kSelectionKeys[kind], i), "");
+        text = load_import_text(ini, numbered(kSelections[kind].key, i), "");
         if (!text.empty()) ++settings.selection_counts[kind];
       }});
     }
@@ -166,10 +170,10 @@ void save_page_options(modAPI_INI& ini, const ImportSettings& settings) {
 }
 
 void save_selections(modAPI_INI& ini, const ImportSettings& settings) {
-  for (std::size_t kind = 0; kind < kHeaderKinds; ++kind) {
+  for (std::size_t kind = 0; kind < kRememberedKinds; ++kind) {
     const auto count = static_cast<std::size_t>(settings.selection_counts[kind]);
-    for (std::size_t i = 0; i < most_columns(kind); ++i) {
-      save_import_text(ini, numbered(kSelectionKeys[kind], i),
+    for (std::size_t i = 0; i < kSelections[kind].columns; ++i) {
+      save_import_text(ini, numbered(kSelections[kind].key, i),
                        i < count ? settings.selections[kind][i] : std::string());
     }
   }

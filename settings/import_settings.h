@@ -6,11 +6,14 @@
 #include <string>
 #include <string_view>
 
-#include "wizard/header_columns.h"
-
 namespace quenda {
 
 class modAPI_INI;
+
+/// What columns are remembered for: names, numbers, address 1 and address 2, up to three columns
+/// each.
+inline constexpr std::size_t kRememberedKinds = 4;
+using RememberedColumns = std::array<std::array<std::string, 3>, kRememberedKinds>;
 
 /// Number boxes of the Outlook page, and characters of its address text.
 inline constexpr std::size_t kOutlookNumbers = 11;
@@ -39,8 +42,8 @@ struct ImportSettings {
   std::array<std::string, kOutlookNumbers> ol_name_ext;  // saved and never read back
 
   // The header texts of the chosen columns, and how many there are.
-  SelectionTable selections;
-  std::array<std::int32_t, kHeaderKinds> selection_counts{};
+  RememberedColumns selections;
+  std::array<std::int32_t, kRememberedKinds> selection_counts{};
 
   // The header pages. A suffix that is not in the file keeps the text that it has here.
   std::int32_t name_flip = 0;
@@ -52,8 +55,8 @@ struct ImportSettings {
 /// The tool's own settings file.
 inline constexpr std::string_view kImportSettingsFile = "\\data\\sett_import.ini";
 
-/// Each reads its group and leaves the rest alone. A value that cannot be read keeps the others
-/// from nothing.
+/// Each reads its group and leaves the rest alone. A value that cannot be read is left out, or
+/// else it would cost all those behind it.
 void load_general_values(modAPI_INI& ini, ImportSettings& settings);
 void load_window_position(modAPI_INI& ini, ImportSettings& settings);
 void load_page_options(modAPI_INI& ini, ImportSettings& settings);

@@ -1,9 +1,9 @@
 #include "settings/modAPI_INI.h"
 
 #include "platform/files.h"
-#include "support/conversions.h"
 #include "support/procedure.h"
-#include "support/text.h"
+#include "text/conversions.h"
+#include "text/text.h"
 
 namespace quenda {
 

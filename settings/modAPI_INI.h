@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "settings/ini_text.h"
+#include "settings/ini/ini_text.h"
 #include "settings/suite_paths.h"
 
 namespace quenda {

@@ -1,11 +1,11 @@
 #include "settings/modLanguage.h"
 
 #include "platform/files.h"
-#include "settings/language_keys.h"
+#include "settings/ini/language_keys.h"
 #include "settings/modAPI_INI.h"
 #include "support/clsFiles.h"
 #include "support/procedure.h"
-#include "support/text.h"
+#include "text/text.h"
 
 namespace quenda {
 namespace {

@@ -4,9 +4,9 @@
 #include "platform/system.h"
 #include "settings/modAPI_INI.h"
 #include "settings/suite_specs.h"
-#include "support/conversions.h"
 #include "support/procedure.h"
-#include "support/text.h"
+#include "text/conversions.h"
+#include "text/text.h"
 
 namespace quenda {
 namespace {

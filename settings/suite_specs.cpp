@@ -7,7 +7,7 @@
 #include "platform/files.h"
 #include "settings/modAPI_INI.h"
 #include "support/procedure.h"
-#include "support/text.h"
+#include "text/text.h"
 
 namespace quenda {
 namespace {

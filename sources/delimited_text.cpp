@@ -5,8 +5,8 @@
 #include <limits>
 #include <utility>
 
-#include "support/fault.h"
-#include "support/text.h"
+#include "text/fault.h"
+#include "text/text.h"
 
 namespace quenda {
 namespace {

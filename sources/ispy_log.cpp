@@ -1,7 +1,7 @@
 #include "sources/ispy_log.h"
 
-#include "support/conversions.h"
-#include "support/text.h"
+#include "text/conversions.h"
+#include "text/text.h"
 
 namespace quenda {
 

@@ -1,6 +1,6 @@
 #include "sources/outlook_contacts.h"
 
-#include "support/text.h"
+#include "text/text.h"
 
 namespace quenda {
 namespace {

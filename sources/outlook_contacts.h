@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "support/flat_table.h"
+#include "text/flat_table.h"
 
 // Contacts from Outlook as a table of number kinds, and the preview that the user's ticks make of
 // it.

@@ -3,8 +3,8 @@
 #include <cstring>
 #include <utility>
 
-#include "support/fault.h"
-#include "support/text.h"
+#include "text/fault.h"
+#include "text/text.h"
 
 namespace quenda {
 

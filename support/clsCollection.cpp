@@ -3,8 +3,8 @@
 #include <iterator>
 #include <utility>
 
-#include "support/conversions.h"
-#include "support/text.h"
+#include "text/conversions.h"
+#include "text/text.h"
 
 namespace quenda {
 namespace {

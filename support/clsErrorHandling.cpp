@@ -5,10 +5,10 @@
 #include "platform/files.h"
 #include "support/clsCollection.h"
 #include "support/clsFiles.h"
-#include "support/date_text.h"
 #include "support/procedure.h"
 #include "support/report_text.h"
-#include "support/text.h"
+#include "text/date_text.h"
+#include "text/text.h"
 
 namespace quenda {
 namespace {

@@ -9,8 +9,8 @@
 
 #include "platform/clock.h"
 #include "platform/dialogs.h"
-#include "support/fault.h"
 #include "support/trace_value.h"
+#include "text/fault.h"
 
 namespace quenda {
 

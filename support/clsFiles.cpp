@@ -4,9 +4,9 @@
 
 #include "platform/clock.h"
 #include "platform/files.h"
-#include "support/date_text.h"
 #include "support/procedure.h"
-#include "support/text.h"
+#include "text/date_text.h"
+#include "text/text.h"
 
 namespace quenda {
 namespace {

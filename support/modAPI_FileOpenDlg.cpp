@@ -3,7 +3,7 @@
 #include <array>
 
 #include "support/procedure.h"
-#include "support/text.h"
+#include "text/text.h"
 
 namespace quenda::modAPI_FileOpenDlg {
 namespace {
@@ -57,12 +57,12 @@ std::vector<FileFilter> fFilter(clsErrorHandling& errors, std::string_view key,
   return filters;
 }
 
-std::string FileOpenDialog(clsErrorHandling& errors, Dialogs& dialogs, Form& owner,
-                           std::string_view key, const FilterTexts& texts) {
-  std::string path;
+ChosenFile FileOpenDialog(clsErrorHandling& errors, Dialogs& dialogs, std::string_view key,
+                          const FilterTexts& texts) {
+  ChosenFile chosen;
   procedure(errors, "modAPI_FileOpenDlg.FileOpenDialog", {key},
-            [&] { path = dialogs.open_file(owner, fFilter(errors, key, texts)); });
-  return path;
+            [&] { chosen = dialogs.open_file(fFilter(errors, key, texts)); });
+  return chosen;
 }
 
 }  // namespace quenda::modAPI_FileOpenDlg

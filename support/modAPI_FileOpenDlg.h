@@ -25,9 +25,9 @@ namespace modAPI_FileOpenDlg {
 std::vector<FileFilter> fFilter(clsErrorHandling& errors, std::string_view key,
                                 const FilterTexts& texts);
 
-/// The path that the user chose; empty when the user cancelled.
-std::string FileOpenDialog(clsErrorHandling& errors, Dialogs& dialogs, Form& owner,
-                           std::string_view key, const FilterTexts& texts);
+/// What the user chose; empty when the user cancelled.
+ChosenFile FileOpenDialog(clsErrorHandling& errors, Dialogs& dialogs, std::string_view key,
+                          const FilterTexts& texts);
 
 }  // namespace modAPI_FileOpenDlg
 }  // namespace quenda

@@ -1,6 +1,6 @@
 #include "support/modAPI_GetOSSystem.h"
 
-#include "support/text.h"
+#include "text/text.h"
 
 namespace quenda::modAPI_GetOSSystem {
 

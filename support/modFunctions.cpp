@@ -1,7 +1,7 @@
 #include "support/modFunctions.h"
 
-#include "support/characters.h"
 #include "support/procedure.h"
+#include "text/characters.h"
 
 namespace quenda::modFunctions {
 

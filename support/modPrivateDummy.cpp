@@ -2,7 +2,7 @@
 
 #include "platform/system.h"
 #include "support/procedure.h"
-#include "support/text.h"
+#include "text/text.h"
 
 namespace quenda::modPrivateDummy {
 

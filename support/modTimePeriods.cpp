@@ -1,9 +1,9 @@
 #include "support/modTimePeriods.h"
 
 #include "platform/system.h"
-#include "support/date_text.h"
 #include "support/procedure.h"
-#include "support/text.h"
+#include "text/date_text.h"
+#include "text/text.h"
 
 namespace quenda {
 

@@ -9,7 +9,7 @@
 #include <utility>
 
 #include "support/clsErrorHandling.h"
-#include "support/fault.h"
+#include "text/fault.h"
 
 namespace quenda {
 

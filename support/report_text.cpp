@@ -3,8 +3,8 @@
 #include <cstdint>
 #include <cstdlib>
 
-#include "support/date_text.h"
-#include "support/text.h"
+#include "text/date_text.h"
+#include "text/text.h"
 
 namespace quenda {
 namespace {

@@ -3,8 +3,8 @@
 #include <string>
 #include <string_view>
 
-#include "support/local_time.h"
 #include "support/trace_value.h"
+#include "text/local_time.h"
 
 // The texts of trace lines and error reports.
 namespace quenda {

@@ -42,11 +42,11 @@ std::string_view shell_error_text(int code) {
 
 namespace modImport {
 
-std::string ShellEx(clsErrorHandling& errors, System& system, Form* window, std::string_view verb,
+std::string ShellEx(clsErrorHandling& errors, System& system, std::string_view verb,
                     std::string_view file, std::string_view parameters, std::string_view folder) {
   std::string error;
   procedure(errors, "modImport.ShellEx", {verb, file, parameters, folder}, [&] {
-    error = shell_error_text(system.open_with_shell(window, verb, file, parameters, folder));
+    error = shell_error_text(system.open_with_shell(verb, file, parameters, folder));
     if (!error.empty()) errors.LogDebug_Trace("Import_ShellEx", {verb, file, parameters, folder});
   });
   return error;

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <utility>
 
-#include "support/conversions.h"
-#include "support/fault.h"
-#include "support/text.h"
+#include "text/conversions.h"
+#include "text/fault.h"
+#include "text/text.h"
 
 namespace quenda {
 namespace {

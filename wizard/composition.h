@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "sources/record_table.h"
-#include "support/text_rows.h"
+#include "text/text_rows.h"
 
 // How one record becomes entry lines: name, cleaned number and address, one line per number.
 namespace quenda {

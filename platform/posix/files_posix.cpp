@@ -9,8 +9,8 @@
 #include <cerrno>
 #include <optional>
 
-#include "support/fault.h"
-#include "support/text.h"
+#include "text/fault.h"
+#include "text/text.h"
 
 namespace quenda {
 namespace {

@@ -9,7 +9,7 @@
 #include "platform/native_services.h"
 #include "platform/no_automation.h"
 #include "platform/posix/files_posix.h"
-#include "support/text.h"
+#include "text/text.h"
 
 namespace quenda {
 namespace {
@@ -75,9 +75,8 @@ std::string PosixSystem::short_date_today() const {
                 std::to_string(today.year));
 }
 
-int PosixSystem::open_with_shell(Form* /*owner*/, std::string_view /*verb*/,
-                                 std::string_view /*file*/, std::string_view /*parameters*/,
-                                 std::string_view /*folder*/) {
+int PosixSystem::open_with_shell(std::string_view /*verb*/, std::string_view /*file*/,
+                                 std::string_view /*parameters*/, std::string_view /*folder*/) {
   constexpr int kNoAssociation = 31;
   return kNoAssociation;
 }

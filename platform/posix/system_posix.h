@@ -27,8 +27,8 @@ class PosixSystem final : public System {
   [[nodiscard]] bool protects_program_folders() const override { return false; }
   [[nodiscard]] std::string short_date_today() const override;
   /// There is no shell that knows a program for every document; always "no association".
-  int open_with_shell(Form* owner, std::string_view verb, std::string_view file,
-                      std::string_view parameters, std::string_view folder) override;
+  int open_with_shell(std::string_view verb, std::string_view file, std::string_view parameters,
+                      std::string_view folder) override;
 };
 
 }  // namespace quenda

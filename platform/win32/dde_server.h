@@ -4,7 +4,7 @@
 #include <string>
 
 #include "platform/host_link.h"
-#include "platform/win32/message_loop.h"
+#include "platform/win32/windows/message_loop.h"
 #include "platform/win32/windows_headers.h"
 // windows.h has to come first.
 #include <ddeml.h>

@@ -2,8 +2,8 @@
 
 #include <memory>
 
-#include "platform/win32/automation_com.h"
 #include "platform/win32/clock_win32.h"
+#include "platform/win32/com/automation_com.h"
 #include "platform/win32/files_win32.h"
 #include "platform/win32/handles.h"
 #include "platform/win32/system_win32.h"

@@ -1,14 +1,14 @@
 #pragma once
 
-#include "platform/services.h"
-#include "platform/win32/automation_com.h"
+#include "platform/machine.h"
 #include "platform/win32/clock_win32.h"
+#include "platform/win32/com/automation_com.h"
 #include "platform/win32/dde_server.h"
-#include "platform/win32/dialogs_win32.h"
-#include "platform/win32/events_win32.h"
 #include "platform/win32/files_win32.h"
-#include "platform/win32/message_loop.h"
 #include "platform/win32/system_win32.h"
+#include "platform/win32/windows/dialogs_win32.h"
+#include "platform/win32/windows/events_win32.h"
+#include "platform/win32/windows/message_loop.h"
 
 namespace quenda {
 
@@ -17,7 +17,7 @@ class Win32Platform {
  public:
   Win32Platform() : link_(loop_, system_.executable_name()) {}
 
-  [[nodiscard]] Services services() {
+  [[nodiscard]] Machine machine() {
     return {files_, clock_, events_, dialogs_, system_, link_, automation_};
   }
   [[nodiscard]] Win32Events& events() { return events_; }

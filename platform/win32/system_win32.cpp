@@ -5,9 +5,9 @@
 
 #include <array>
 
-#include "platform/win32/com_support.h"
-#include "platform/win32/events_win32.h"
+#include "platform/win32/com/com_support.h"
 #include "platform/win32/text_win32.h"
+#include "platform/win32/windows/events_win32.h"
 
 namespace quenda {
 namespace {
@@ -79,13 +79,12 @@ std::string Win32System::short_date_today() const {
   return nearest_1252(date.data());
 }
 
-int Win32System::open_with_shell(Form* owner, std::string_view verb, std::string_view file,
+int Win32System::open_with_shell(std::string_view verb, std::string_view file,
                                  std::string_view parameters, std::string_view folder) {
   const ApartmentScope apartment;
-  const HWND window = owner == nullptr ? nullptr : window_of(*owner);
   const HINSTANCE result =
-      ShellExecuteW(window, wide(verb).c_str(), wide(file).c_str(), wide(parameters).c_str(),
-                    wide(folder).c_str(), SW_SHOWNORMAL);
+      ShellExecuteW(GetActiveWindow(), wide(verb).c_str(), wide(file).c_str(),
+                    wide(parameters).c_str(), wide(folder).c_str(), SW_SHOWNORMAL);
   return static_cast<int>(as_lparam(result));
 }
 

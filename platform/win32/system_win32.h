@@ -15,8 +15,8 @@ class Win32System : public System {
   [[nodiscard]] bool previous_instance() const override;
   [[nodiscard]] bool protects_program_folders() const override { return true; }
   [[nodiscard]] std::string short_date_today() const override;
-  int open_with_shell(Form* owner, std::string_view verb, std::string_view file,
-                      std::string_view parameters, std::string_view folder) override;
+  int open_with_shell(std::string_view verb, std::string_view file, std::string_view parameters,
+                      std::string_view folder) override;
 
  private:
   mutable KernelHandle instance_;

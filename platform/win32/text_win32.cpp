@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "support/code_page_1252.h"
+#include "text/code_page_1252.h"
 
 namespace quenda {
 

@@ -2,10 +2,10 @@
 
 #include <string>
 
-#include "app/fImportItemEdit.h"
-#include "app/fImportMsg.h"
-#include "support/literal_1252.h"
+#include "book/pages/fImportItemEdit.h"
+#include "book/pages/fImportMsg.h"
 #include "tests/shared/wizard_fixture.h"
+#include "text/literal_1252.h"
 
 // The last page: entries edited and deleted, and what becomes of the book.
 namespace quenda {

@@ -2,10 +2,10 @@
 
 #include <string>
 
-#include "app/fImportMsg.h"
-#include "app/fOVWInput.h"
-#include "support/literal_1252.h"
+#include "book/pages/fImportMsg.h"
+#include "book/pages/fOVWInput.h"
 #include "tests/shared/wizard_fixture.h"
+#include "text/literal_1252.h"
 
 // The wizard from a delimited file to the phone book, through the controls that the user touches.
 namespace quenda {

@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "support/literal_1252.h"
 #include "tests/shared/wizard_fixture.h"
+#include "text/literal_1252.h"
 
 // The call log as a source, through the controls.
 namespace quenda {

@@ -2,9 +2,9 @@
 
 #include <string>
 
-#include "support/literal_1252.h"
 #include "tests/shared/fake_outlook.h"
 #include "tests/shared/wizard_fixture.h"
+#include "text/literal_1252.h"
 
 // Outlook as a source, through the controls.
 namespace quenda {

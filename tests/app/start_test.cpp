@@ -3,8 +3,8 @@
 #include <map>
 #include <string>
 
-#include "support/literal_1252.h"
 #include "tests/shared/wizard_fixture.h"
+#include "text/literal_1252.h"
 
 // Start, host link, shutdown, and the controls that belong to no page.
 namespace quenda {

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/win32/text_win32.h"
-#include "support/text.h"
+#include "text/text.h"
 
 namespace quenda {
 namespace {

@@ -5,7 +5,7 @@
 
 #include "platform/win32/handles.h"
 #include "platform/win32/text_win32.h"
-#include "support/text.h"
+#include "text/text.h"
 
 namespace quenda {
 namespace {

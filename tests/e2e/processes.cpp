@@ -5,8 +5,8 @@
 #include <iterator>
 
 #include "platform/win32/text_win32.h"
-#include "support/text.h"
 #include "tests/e2e/driver_window.h"
+#include "text/text.h"
 
 namespace quenda {
 namespace {

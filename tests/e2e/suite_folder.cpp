@@ -3,9 +3,9 @@
 #include <filesystem>
 #include <fstream>
 
-#include "support/literal_1252.h"
-#include "support/text.h"
 #include "tests/e2e/processes.h"
+#include "text/literal_1252.h"
+#include "text/text.h"
 
 namespace quenda {
 namespace {

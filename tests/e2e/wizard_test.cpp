@@ -1,6 +1,6 @@
 #include "tests/e2e/wizard_test.h"
 
-#include "support/text.h"
+#include "text/text.h"
 
 namespace quenda {
 namespace {

@@ -7,13 +7,13 @@
 #include <string>
 #include <string_view>
 
-#include "support/literal_1252.h"
 #include "tests/e2e/driver_dialogs.h"
 #include "tests/e2e/driver_input.h"
 #include "tests/e2e/driver_lists.h"
 #include "tests/e2e/driver_window.h"
 #include "tests/e2e/processes.h"
 #include "tests/e2e/suite_folder.h"
+#include "text/literal_1252.h"
 
 namespace quenda {
 

@@ -4,9 +4,9 @@
 
 #include <string>
 
-#include "support/text.h"
 #include "tests/e2e/suite_folder.h"
 #include "tests/outlook/outlook_standin.h"
+#include "text/text.h"
 
 namespace quenda {
 namespace {

@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/win32/com_support.h"
+#include "platform/win32/com/com_support.h"
 #include "tests/outlook/outlook_script.h"
 // objbase.h has to come first.
 #include <ocidl.h>

@@ -5,11 +5,11 @@
 #include <string>
 #include <vector>
 
-#include "platform/win32/automation_com.h"
-#include "sources/modOutlook.h"
-#include "support/literal_1252.h"
+#include "platform/win32/com/automation_com.h"
+#include "sources/pages/modOutlook.h"
 #include "tests/outlook/outlook_standin.h"
 #include "tests/shared/error_service.h"
+#include "text/literal_1252.h"
 
 namespace quenda {
 namespace {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "support/text.h"
+#include "text/text.h"
 
 namespace quenda {
 namespace {

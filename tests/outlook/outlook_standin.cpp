@@ -7,9 +7,9 @@
 
 #include "platform/win32/handles.h"
 #include "platform/win32/text_win32.h"
-#include "support/text.h"
 #include "tests/e2e/driver_window.h"
 #include "tests/e2e/processes.h"
+#include "text/text.h"
 // windows.h has to come first.
 #include <objbase.h>
 

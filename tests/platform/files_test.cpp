@@ -9,10 +9,10 @@
 #include <string>
 
 #include "platform/native_services.h"
-#include "support/literal_1252.h"
 #include "tests/shared/fake_files.h"
 #include "tests/shared/fault_of.h"
 #include "tests/shared/temp_folder.h"
+#include "text/literal_1252.h"
 
 namespace quenda {
 namespace {

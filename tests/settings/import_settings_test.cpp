@@ -6,6 +6,7 @@
 #include <string>
 
 #include "tests/shared/settings_service.h"
+#include "wizard/header_columns.h"
 
 namespace quenda {
 namespace {

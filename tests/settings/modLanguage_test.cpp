@@ -11,9 +11,9 @@
 #include <string>
 #include <string_view>
 
-#include "settings/language_keys.h"
-#include "support/text.h"
+#include "settings/ini/language_keys.h"
 #include "tests/shared/settings_service.h"
+#include "text/text.h"
 
 namespace quenda {
 namespace {

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "support/fault.h"
-#include "support/text.h"
+#include "text/fault.h"
+#include "text/text.h"
 
 namespace quenda {
 namespace {

@@ -1,6 +1,6 @@
 #include "tests/shared/fakes.h"
 
-#include "support/fault.h"
+#include "text/fault.h"
 
 namespace quenda {
 

@@ -12,11 +12,11 @@
 
 #include "platform/automation.h"
 #include "platform/clock.h"
+#include "platform/controls/events.h"
+#include "platform/controls/form.h"
 #include "platform/dialogs.h"
-#include "platform/events.h"
-#include "platform/form.h"
 #include "platform/host_link.h"
-#include "platform/services.h"
+#include "platform/machine.h"
 #include "platform/system.h"
 #include "tests/shared/fake_files.h"
 
@@ -50,9 +50,9 @@ class FakeDialogs : public Dialogs {
     boxes.push_back({std::string(text), style, std::string(title)});
     return taken_from(answers, MessageAnswer::kOk);
   }
-  std::string open_file(Form& /*owner*/, const std::vector<FileFilter>& wanted) override {
+  ChosenFile open_file(const std::vector<FileFilter>& wanted) override {
     filters.push_back(wanted);
-    return taken_from(paths, std::string());
+    return {.path = taken_from(paths, std::string()), .unusable = {}};
   }
 
  private:
@@ -85,8 +85,8 @@ class FakeSystem : public System {
   [[nodiscard]] bool previous_instance() const override { return previous; }
   [[nodiscard]] bool protects_program_folders() const override { return protects; }
   [[nodiscard]] std::string short_date_today() const override { return today; }
-  int open_with_shell(Form* /*owner*/, std::string_view verb, std::string_view file,
-                      std::string_view /*parameters*/, std::string_view /*folder*/) override {
+  int open_with_shell(std::string_view verb, std::string_view file, std::string_view /*parameters*/,
+                      std::string_view /*folder*/) override {
     opened.push_back(std::string(verb) + " " + std::string(file));
     return shell_result;
   }
@@ -155,7 +155,7 @@ struct FakeMachine {
   FakeSystem system;
   FakeHostLink host_link;
   FakeAutomation automation;
-  Services services{files, clock, events, dialogs, system, host_link, automation};
+  Machine services{files, clock, events, dialogs, system, host_link, automation};
 };
 
 }  // namespace quenda

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/fault.h"
+#include "text/fault.h"
 
 namespace quenda {
 

@@ -7,8 +7,8 @@
 #include <string_view>
 #include <vector>
 
-#include "app/app.h"
 #include "app/fMain.h"
+#include "settings/app.h"
 #include "tests/shared/fakes.h"
 
 namespace quenda {

@@ -7,11 +7,11 @@
 #include <optional>
 #include <string>
 
-#include "support/literal_1252.h"
 #include "support/procedure.h"
 #include "support/report_text.h"
-#include "support/text.h"
 #include "tests/shared/error_service.h"
+#include "text/literal_1252.h"
+#include "text/text.h"
 
 namespace quenda {
 namespace {

@@ -5,8 +5,8 @@
 
 #include <string>
 
-#include "support/text.h"
 #include "tests/shared/error_service.h"
+#include "text/text.h"
 
 namespace quenda {
 namespace {

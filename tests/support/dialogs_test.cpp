@@ -2,9 +2,9 @@
 #include <gtest/gtest.h>
 
 #include "support/modAPI_FileOpenDlg.h"
-#include "support/progress_percent.h"
 #include "support/shell.h"
 #include "tests/shared/error_service.h"
+#include "wizard/shell/progress_percent.h"
 
 namespace quenda {
 namespace {
@@ -34,7 +34,7 @@ TEST(ShellEx, TurnsCodesIntoTextsAndTracesFailures) {
   FakeSystem system;
   const auto result = [&](int code) {
     system.shell_result = code;
-    return modImport::ShellEx(service.errors, system, nullptr, "Open", "a.txt", "", "");
+    return modImport::ShellEx(service.errors, system, "Open", "a.txt", "", "");
   };
   EXPECT_EQ(result(33), "");
   EXPECT_EQ(result(32), "DLL not found");

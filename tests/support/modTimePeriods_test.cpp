@@ -4,8 +4,8 @@
 
 #include <string>
 
-#include "support/date_text.h"
 #include "tests/shared/error_service.h"
+#include "text/date_text.h"
 
 namespace quenda {
 namespace {

@@ -7,7 +7,7 @@
 
 #include "book/number_cleaning.h"
 #include "sources/delimited_text.h"
-#include "support/fault.h"
+#include "text/fault.h"
 
 namespace quenda {
 namespace {

@@ -1,0 +1,99 @@
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "app/busy.h"
+#include "app/fMain.h"
+#include "book/book_file.h"
+#include "book/entry_list.h"
+#include "book/pages/fImportMsg.h"
+#include "book/pages/modImport.h"
+#include "platform/controls/events.h"
+#include "platform/files.h"
+#include "settings/app.h"
+#include "support/procedure.h"
+#include "text/text.h"
+
+namespace quenda {
+
+void fMain::Add() {
+  std::string book_text;
+  std::string_view line;  // the line of the book that is being read, for the report of a fault
+  const bool done = procedure_with_message(app_.errors, "fMain.Add", {}, line,
+                                           [&] { merge_into_book(book_text, line); });
+  if (!done) return;
+  if (!wizard.link_open) {
+    app_.message_box(concat(texts.dde_not_connected, kCrLf, texts.refresh_info),
+                     MessageStyle::kInformation);
+  }
+  unload();
+}
+
+void fMain::merge_into_book(std::string& book_text, std::string_view& line) {
+  BusyWork busy(*this);
+  const std::string path = concat(app_.paths.book_folder, "Quendabook.txt");
+  std::vector<BookEntry> entries;
+  if (app_.machine.files.exists(path)) {
+    StatusBar.set_panel(2, texts.load_book);
+    book_text = app_.machine.files.read(path);
+    read_book(book_text, entries, line);
+  }
+  const std::size_t in_book = entries.size();
+
+  StatusBar.set_panel(2, texts.filter_data);
+  append_new_entries(entries);
+  const std::size_t kept = modImport::RemoveDoubleEntriesTypedImportArray(
+      app_.errors, entries, merge,
+      [this](std::string_view number, const std::string& existing, const std::string& fresh) {
+        ask_about_double(number, existing, fresh);
+      },
+      busy.on_step());
+
+  // Entries that a replacement left without number count as kept, and doubles that the book itself
+  // held count against the new entries: as many new ones as such doubles are not written.
+  if (in_book >= kept) {
+    txtDDE.set_text("nodata");
+    return;
+  }
+  StatusBar.set_panel(2, texts.write_book);
+  const BookChange change = compose_book(book_text, entries, busy.on_step());
+  app_.machine.files.replace_tail(path, change.keep, change.tail);
+  txtDDE.set_text("data");
+}
+
+void fMain::read_book(std::string_view text, std::vector<BookEntry>& entries,
+                      std::string_view& line) {
+  entries.reserve(count_of(text, '\n') + 1 + lstImpFinal.count());
+  BookLines lines(text);
+  std::size_t characters = 0;
+  while (lines.next(line)) {
+    if (line.empty()) continue;
+    characters += line.size();
+    entries.push_back(read_book_line(line));
+    step(characters, text.size());
+  }
+  line = {};
+}
+
+void fMain::append_new_entries(std::vector<BookEntry>& entries) {
+  const FlatTable& rows = lstImpFinal.table();
+  entries.reserve(entries.size() + rows.rows());
+  for (std::size_t row = 0; row < rows.rows(); ++row) {
+    BookEntry entry;
+    entry.Name = rows.cell(row, kEntryName);
+    entry.Number = rows.cell(row, kEntryNumber);
+    entry.Address = rows.cell(row, kEntryAddress);
+    entries.push_back(entry);
+    step(row + 1, rows.rows());
+  }
+}
+
+void fMain::ask_about_double(std::string_view number, const std::string& existing,
+                             const std::string& fresh) {
+  fImportMsg dialog(app_, *this);
+  dialog.fill(number, existing, fresh);
+  app_.machine.events.show_modal(dialog, *this);
+  if (wizard.abort) throw EndProgram();
+}
+
+}  // namespace quenda

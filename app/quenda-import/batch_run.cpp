@@ -1,0 +1,296 @@
+#include "app/quenda-import/batch_run.h"
+
+#include <istream>
+#include <ostream>
+#include <string>
+#include <string_view>
+
+#include "app/fMain.h"
+#include "app/quenda-import/console_services.h"
+#include "book/entry_list.h"
+#include "book/pages/fImportMsg.h"
+#include "platform/files.h"
+#include "settings/app.h"
+#include "sources/file_encoding.h"
+#include "text/fault.h"
+#include "text/literal_1252.h"
+#include "text/text.h"
+
+namespace quenda {
+namespace {
+
+/// One run: the services of the terminal, the forms, and the user who knows beforehand what to do.
+class BatchRun {
+ public:
+  BatchRun(const BatchOptions& options, const BatchMachine& machine, const BatchConsole& console);
+
+  /// Does everything up to the end of the program.
+  void run();
+  [[nodiscard]] int status() const { return status_; }
+
+ private:
+  /// Says why the run ends, and ends it.
+  [[noreturn]] void refuse(std::string_view message);
+  void say(std::string_view message);
+
+  void take_file();
+  void take_outlook();
+  void warn_about_encoding();
+  void choose_columns();
+  void select_columns(std::size_t kind);
+  [[noreturn]] void refuse_columns();
+  void choose_names();
+  void choose_addresses();
+  void write_or_show();
+  void answer(Form& form);
+  void answer_double(fImportMsg& dialog);
+  /// Presses "Weiter"; the page that comes has to be the given one.
+  void go_on(int page);
+
+  const BatchOptions& options_;
+  const BatchMachine& machine_;
+  const BatchConsole& console_;
+  int status_ = kExitRefused;
+  bool fault_reported_ = false;
+
+  ProgressLine progress_;
+  ConsoleDialogs dialogs_;
+  ConsoleEvents events_;
+  ConsoleLink link_;
+  SuiteSystem system_;
+  App app_;
+  fMain main_;
+};
+
+std::string without_trailing_separator(std::string folder) {
+  while (folder.size() > 1 && (folder.back() == '/' || folder.back() == '\\')) folder.pop_back();
+  return folder;
+}
+
+BatchRun::BatchRun(const BatchOptions& options, const BatchMachine& machine,
+                   const BatchConsole& console)
+    : options_(options),
+      machine_(machine),
+      console_(console),
+      progress_(console.errors),
+      dialogs_(console.errors, progress_),
+      events_(machine.clock),
+      system_(machine.system, options.suite.empty() ? machine.system.program_folder()
+                                                    : without_trailing_separator(options.suite)),
+      app_(Machine{machine.files, machine.clock, events_, dialogs_, system_, link_,
+                   machine.automation}),
+      main_(app_) {
+  app_.ini.write_protection = true;
+  app_.errors.on_report = [this](std::string_view procedure, const RuntimeFault& fault,
+                                 std::string_view parameters) {
+    fault_reported_ = true;
+    say(concat(procedure, ": Fehler ", std::to_string(fault.number()), " ", fault.description(),
+               parameters.empty() ? "" : " - ", parameters));
+  };
+  events_.on_modal = [this](Form& form, Form& /*owner*/) { answer(form); };
+  if (console.progress && !options.quiet) {
+    events_.on_progress = [this] {
+      progress_.show(main_.StatusBar.panel(2), main_.PicProgress.percent());
+    };
+  }
+}
+
+void BatchRun::run() {
+  try {
+    main_.Form_Load();
+    if (options_.existing) main_.optAsk(*options_.existing).choose();
+    if (options_.min_name) main_.chkNameLen.set_ticked(*options_.min_name);
+    if (options_.country) main_.txtStateCode.set_text(*options_.country);
+    if (options_.area) main_.txtOVW.set_text(*options_.area);
+    if (options_.outlook) {
+      take_outlook();
+    } else {
+      take_file();
+    }
+    if (main_.source.kind() == Source::kFile) {
+      choose_columns();
+      choose_names();
+      choose_addresses();
+    }
+    go_on(kEntryPage);
+    write_or_show();
+  } catch (const EndProgram&) {
+    // The forms end the program in the end, and whenever they have to.
+  }
+  progress_.clear();
+  if (link_.result().empty()) return;
+  console_.out << link_.result() << '\n';
+  status_ = kExitDone;
+}
+
+void BatchRun::say(std::string_view message) {
+  progress_.clear();
+  console_.errors << "quenda-import: " << to_utf8(message) << '\n' << std::flush;
+}
+
+void BatchRun::refuse(std::string_view message) {
+  say(message);
+  throw EndProgram();
+}
+
+void BatchRun::go_on(int page) {
+  if (!main_.cmdFor.enabled()) refuse(u8"Der Assistent lässt es hier nicht weitergehen."_de);
+  main_.cmdFor.take_user_click();
+  if (main_.wizard.CurrentPage != page) refuse(u8"Die Datei kann nicht eingelesen werden."_de);
+}
+
+void BatchRun::take_file() {
+  if (!machine_.files.exists(options_.file)) {
+    refuse(concat("Die Datei \"", options_.file, "\" gibt es nicht."));
+  }
+  fault_reported_ = false;
+  main_.txtImpFile.set_text(options_.file);
+  if (fault_reported_)
+    refuse(concat("Die Datei \"", options_.file, "\" kann nicht gelesen werden."));
+  warn_about_encoding();
+  if (main_.source.IsISpyFile) return;
+  if (options_.delimiter && main_.cmbLimiter.enabled()) {
+    main_.cmbLimiter.set_list_index(*options_.delimiter);
+  }
+  if (!main_.cmdFor.enabled()) {
+    refuse(concat(main_.labLimError.caption(), u8" (--delimiter gibt es vor.)"_de));
+  }
+}
+
+void BatchRun::warn_about_encoding() {
+  switch (guess_encoding(*main_.source.ImportText)) {
+    case FileEncoding::kWindows1252:
+      break;
+    case FileEncoding::kUtf8:
+      say(u8"Warnung: Die Datei sieht nach UTF-8 aus, gelesen wird sie als Windows-1252."_de);
+      break;
+    case FileEncoding::kUtf16:
+      say(u8"Warnung: Die Datei sieht nach UTF-16 aus, gelesen wird sie als Windows-1252."_de);
+      break;
+  }
+}
+
+void BatchRun::take_outlook() {
+  main_.tmOLcheck.take_tick();
+  if (!main_.cmdOutlook.enabled()) refuse(main_.labOLver.caption());
+  fault_reported_ = false;
+  main_.cmdOutlook.take_user_click();
+  if (fault_reported_) refuse(main_.StatusBar.panel(2));
+  if (!main_.cmdFor.enabled()) refuse(concat("Outlook: ", main_.texts.data_not_found));
+}
+
+void BatchRun::choose_columns() {
+  if (options_.columns_given()) app_.settings.selections = {};
+  go_on(1);
+  for (std::size_t kind = 0; kind < kHeaderKinds; ++kind) select_columns(kind);
+  if (!main_.cmdFor.enabled()) refuse_columns();
+}
+
+void BatchRun::select_columns(std::size_t kind) {
+  ListBox& list = main_.lstHeader(static_cast<int>(kind));
+  for (const std::string& text : options_.columns.at(kind)) {
+    int position = 0;
+    while (position < list.count() && list.item(position) != text) ++position;
+    if (position == list.count()) {
+      refuse(concat("Die Datei hat keine Spalte \"", text, "\"."));
+    }
+    list.set_selected(position, true);
+  }
+}
+
+void BatchRun::refuse_columns() {
+  const int names = main_.lstHeader(kNames).selected_count();
+  const int numbers = main_.lstHeader(kNumbers).selected_count();
+  if (names == 0) refuse(u8"Es ist keine Spalte für den Namen ausgewählt (--name)."_de);
+  if (numbers == 0) refuse(u8"Es ist keine Spalte für eine Nummer ausgewählt (--number)."_de);
+  if (names > kMostColumns[kNames])
+    refuse(u8"Es sind zu viele Spalten für den Namen ausgewählt."_de);
+  refuse(u8"Es sind zu viele Spalten für Nummern ausgewählt."_de);
+}
+
+void BatchRun::choose_names() {
+  go_on(2);
+  if (options_.flip_name) main_.chkFlip.set_ticked(*options_.flip_name);
+  for (std::size_t row = 0; row < options_.suffixes.size(); ++row) {
+    if (!options_.suffixes[row]) continue;
+    TextBox& box = main_.txtIndex(static_cast<int>(row));
+    box.set_text("");
+    box.type(*options_.suffixes[row]);
+  }
+}
+
+void BatchRun::choose_addresses() {
+  go_on(3);
+  if (options_.address_order) {
+    if (*options_.address_order < main_.cmbFlipAdress.count()) {
+      main_.cmbFlipAdress.set_list_index(*options_.address_order);
+    } else {
+      say(concat("Warnung: Die Adresse hat keine Reihenfolge ",
+                 std::to_string(*options_.address_order), "; es bleibt bei der ersten."));
+    }
+  }
+  const ControlArray<CheckBox>* const rows[] = {&main_.chk1, &main_.chk2, &main_.chk3};
+  for (std::size_t row = 0; row < options_.bindings.size(); ++row) {
+    if (!options_.bindings[row]) continue;
+    for (const auto& box : *rows[row]) box->set_ticked(false);
+    if (const int address = *options_.bindings[row]; address > 0) {
+      (*rows[row])(address - 1).set_ticked(true);
+    }
+  }
+}
+
+void BatchRun::write_or_show() {
+  if (!main_.cmdFor.enabled()) {
+    refuse(fault_reported_ ? u8"Die Einträge konnten nicht zusammengestellt werden."_de
+                           : u8"Die Datei enthält nichts zum Einlesen."_de);
+  }
+  if (!options_.dry_run) {
+    main_.cmdFor.take_user_click();
+    return;
+  }
+  progress_.clear();
+  const FlatTable& rows = main_.lstImpFinal.table();
+  for (std::size_t row = 0; row < rows.rows(); ++row) {
+    console_.out << to_utf8(concat(rows.cell(row, kEntryName), "\t", rows.cell(row, kEntryNumber),
+                                   "\t", rows.cell(row, kEntryAddress), "\n"));
+  }
+  status_ = kExitDone;
+}
+
+void BatchRun::answer(Form& form) {
+  if (auto* dialog = dynamic_cast<fImportMsg*>(&form)) {
+    answer_double(*dialog);
+    return;
+  }
+  refuse(concat(u8"Die eigene Landesvorwahl \""_de, main_.txtStateCode.text(),
+                u8"\" oder Ortsvorwahl \""_de, main_.txtOVW.text(),
+                u8"\" ist nicht vollständig (--country 0049 --area 030)."_de));
+}
+
+void BatchRun::answer_double(fImportMsg& dialog) {
+  say(concat(dialog.labMsgNumber.caption(), "\n  ", u8"im Telefonbuch: "_de,
+             dialog.labMsgIn.caption(), "\n  ", u8"neu:            "_de,
+             dialog.labMsgNew.caption()));
+  if (console_.answers == nullptr) {
+    refuse(u8"Ohne Terminal kann nicht gefragt werden (--existing new oder --existing keep)."_de);
+  }
+  std::string answer;
+  do {
+    console_.errors << to_utf8(u8"b behalten, n neuen nehmen, B/N ebenso für alle weiteren? "_de)
+                    << std::flush;
+    if (!std::getline(*console_.answers, answer)) refuse(u8"Keine Antwort."_de);
+  } while (answer != "b" && answer != "n" && answer != "B" && answer != "N");
+  dialog.optAsk(answer == "B" || answer == "N" ? 1 : 0).choose();
+  dialog.cmdMsg(answer == "b" || answer == "B" ? 0 : 1).take_user_click();
+}
+
+}  // namespace
+
+int run_batch(const BatchOptions& options, const BatchMachine& machine,
+              const BatchConsole& console) {
+  BatchRun run(options, machine, console);
+  run.run();
+  return run.status();
+}
+
+}  // namespace quenda

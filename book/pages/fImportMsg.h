@@ -1,0 +1,43 @@
+#pragma once
+
+#include <string_view>
+
+#include "platform/controls/control_array.h"
+#include "platform/controls/form.h"
+#include "platform/controls/simple_controls.h"
+
+namespace quenda {
+
+struct App;
+class fMain;
+
+/// Asks what happens to a number that the book has under another name or address.
+class fImportMsg : public Form {
+ public:
+  fImportMsg(App& app, fMain& main);
+
+  /// The number, and the existing and the new entry in words.
+  void fill(std::string_view number, std::string_view existing, std::string_view fresh);
+  void Language();
+  /// Button 0 keeps the existing entry, button 1 takes the new one.
+  void cmdMsg_Click(int index);
+  /// The close box is no answer and is refused.
+  void Form_QueryUnload(bool& cancel, CloseReason reason);
+
+  Label labMsgNumber{*this, "labMsgNumber"};
+  Label labIn{*this, "labIn"};
+  Label labMsgIn{*this, "labMsgIn"};
+  Label labNew{*this, "labNew"};
+  Label labMsgNew{*this, "labMsgNew"};
+  ControlArray<OptionButton> optAsk{*this, "optAsk", {0, 1}};
+  ControlArray<Button> cmdMsg{*this, "cmdMsg", {0, 1}};
+
+ private:
+  void design();
+  void connect();
+
+  App& app_;
+  fMain& main_;
+};
+
+}  // namespace quenda

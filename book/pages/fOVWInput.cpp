@@ -1,0 +1,102 @@
+#include "book/pages/fOVWInput.h"
+
+#include "app/fMain.h"
+#include "book/number_cleaning.h"
+#include "settings/app.h"
+#include "support/procedure.h"
+#include "text/characters.h"
+#include "text/text.h"
+#include "wizard/shell/design.h"
+
+namespace quenda {
+namespace {
+
+constexpr DesignEntry kDesign[] = {
+    {"labRequired", -1, "", -1, {240, 180, 6240, 510}, -1, "Import_Label_ImportRequiredCodes"},
+    {"labWithoutAreaCode",
+     -1,
+     "",
+     -1,
+     {240, 720, 6240, 510},
+     -1,
+     "Import_Label_SettingsWithoutAreaCode"},
+    {"labOwnArea", -1, "", -1, {240, 1320, 6240, 255}, -1, "Import_Label_OwnArea"},
+    {"labLVW", -1, "", -1, {240, 1725, 2000, 255}, 0, "Settings_Label_CountryCode"},
+    {"txtLVW", -1, "", -1, {2340, 1680, 1300, 345}, 1, ""},
+    {"labFormatLVW", -1, "", -1, {3780, 1725, 2700, 255}, -1, "Import_Label_FormatCountryCode"},
+    {"labOVW", -1, "", -1, {240, 2205, 2000, 255}, 2, "Import_Label_MissingAreaCode1"},
+    {"txtOVW", -1, "", -1, {2340, 2160, 1300, 345}, 3, ""},
+    {"labFormatOVW", -1, "", -1, {3780, 2205, 2700, 255}, -1, "Import_Label_FormatAreaCode"},
+    {"cmdHelp", -1, "", -1, {240, 2760, 1400, 390}, 5, "Button_Help"},
+    {"cmdOK", -1, "", -1, {4880, 2760, 1600, 390}, 4, "Button_Resume"},
+};
+
+}  // namespace
+
+fOVWInput::fOVWInput(App& app, fMain& main) : Form("fOVWInput"), app_(app), main_(main) {
+  design();
+  connect();
+  Form_Load();
+}
+
+void fOVWInput::design() {
+  apply_design(*this, kDesign);
+  set_place({0, 0, 6720, 3330});
+  default_button = &cmdOK;
+}
+
+void fOVWInput::connect() {
+  const auto digits_only = [](std::int16_t& code) { code = filter_key(code, "num"); };
+  txtLVW.on_key_press = digits_only;
+  txtOVW.on_key_press = digits_only;
+  txtLVW.on_change = [this] { txtLVW_Change(); };
+  txtOVW.on_change = [this] { txtOVW_Change(); };
+  cmdOK.on_click = [this] { cmdOK_Click(); };
+  cmdHelp.on_click = [this] { cmdHelp_Click(); };
+  on_help = cmdHelp.on_click;
+  on_got_focus = [this] { txtOVW.set_focus(); };
+}
+
+void fOVWInput::Form_Load() {
+  procedure(app_.errors, "fOVWInput.Form_Load", {}, [&] {
+    Language();
+    const ImportSettings& settings = app_.settings;
+    txtLVW.set_text(concat("00", settings.own_country_code));
+    txtOVW.set_text(concat("0", settings.own_area_code));
+    // One of the two says why the codes are asked for: the suite has none, or those typed on the
+    // page before are not complete.
+    const bool no_area_code = settings.own_area_code.empty();
+    labWithoutAreaCode.set_visible(no_area_code);
+    labRequired.set_visible(true);
+    enable_ok();
+  });
+}
+
+void fOVWInput::Language() {
+  procedure(app_.errors, "fOVWInput.Language", {}, [&] {
+    set_caption(concat("Quenda - ", app_.text("Import_Title")));
+    load_captions(*this, kDesign, app_);
+  });
+}
+
+void fOVWInput::enable_ok() { cmdOK.set_enabled(own_codes_complete(txtLVW.text(), txtOVW.text())); }
+
+void fOVWInput::txtLVW_Change() {
+  procedure(app_.errors, "fOVWInput.txtLVW_Change", {}, [&] { enable_ok(); });
+}
+
+void fOVWInput::txtOVW_Change() {
+  procedure(app_.errors, "fOVWInput.txtOVW_Change", {}, [&] { enable_ok(); });
+}
+
+void fOVWInput::cmdOK_Click() {
+  procedure(app_.errors, "fOVWInput.cmdOK_Click", {}, [&] {
+    main_.txtOVW.set_text(txtOVW.text());
+    main_.txtStateCode.set_text(txtLVW.text());
+    unload();
+  });
+}
+
+void fOVWInput::cmdHelp_Click() { main_.cmdHelp_Click(); }
+
+}  // namespace quenda

@@ -1,0 +1,15 @@
+# One library for each folder that is a layer of its own. A layer is linked to those below it only, so
+# the linker refuses what tools/check_layers refuses.
+# Usage: quenda_layer(NAME [SOURCES ...] [SEES ...])
+function(quenda_layer name)
+  cmake_parse_arguments(PARSE_ARGV 1 layer "" "" "SOURCES;SEES")
+  if(layer_SOURCES)
+    add_library(${name} STATIC ${layer_SOURCES})
+    target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR})
+    target_link_libraries(${name} PUBLIC ${layer_SEES})
+  else()
+    add_library(${name} INTERFACE)
+    target_include_directories(${name} INTERFACE ${PROJECT_SOURCE_DIR})
+    target_link_libraries(${name} INTERFACE ${layer_SEES})
+  endif()
+endfunction()

@@ -1,0 +1,91 @@
+#include "platform/controls/list_view.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "text/fault.h"
+
+namespace quenda {
+
+void ListView::set_columns(std::vector<ListColumn> columns) {
+  columns_ = std::move(columns);
+  table_ = FlatTable(std::max<std::size_t>(columns_.size(), 1));
+  source_ = nullptr;
+  selected_ = -1;
+  refresh(Aspect::kColumns);
+  refresh(Aspect::kRows);
+}
+
+void ListView::set_column_heading(std::size_t column, std::string_view heading) {
+  if (column >= columns_.size()) raise_fault(kFaultIndexRange);
+  columns_[column].heading = heading;
+  refresh(Aspect::kColumns);
+}
+
+void ListView::set_column_kinds(const std::vector<ColumnKind>& kinds) {
+  for (std::size_t i = 0; i < columns_.size() && i < kinds.size(); ++i) columns_[i].kind = kinds[i];
+  refresh(Aspect::kColumns);
+}
+
+std::size_t ListView::count() const { return source_ != nullptr ? source_->rows() : table_.rows(); }
+
+std::string ListView::cell(std::size_t row, std::size_t column) const {
+  return source_ != nullptr ? source_->cell(row, column) : std::string(table_.cell(row, column));
+}
+
+void ListView::set_table(FlatTable table) {
+  table_ = std::move(table);
+  source_ = nullptr;
+  rows_changed();
+}
+
+void ListView::add_row(std::initializer_list<std::string_view> cells) {
+  table_.add_row(std::span(cells.begin(), cells.size()));
+  refresh(Aspect::kRows);
+}
+
+void ListView::set_cell(std::size_t row, std::size_t column, std::string_view text) {
+  table_.set_cell(row, column, text);
+  refresh(Aspect::kRows);
+}
+
+void ListView::remove_row(std::size_t row) {
+  table_.remove_row(row);
+  selected_ = -1;
+  refresh(Aspect::kRows);
+}
+
+void ListView::clear() {
+  table_.clear();
+  source_ = nullptr;
+  rows_changed();
+}
+
+void ListView::set_source(const RowSource* source) {
+  table_.clear();
+  source_ = source;
+  rows_changed();
+}
+
+void ListView::source_changed() { rows_changed(); }
+
+void ListView::rows_changed() {
+  selected_ = count() > 0 ? 0 : -1;
+  refresh(Aspect::kRows);
+}
+
+void ListView::select(int row) {
+  if (row < -1 || row >= static_cast<int>(count())) raise_fault(kFaultIndexRange);
+  selected_ = row;
+  refresh(Aspect::kIndex);
+}
+
+void ListView::take_user_double_click() {
+  if (reachable() && on_double_click) on_double_click();
+}
+
+void ListView::take_user_key_down(std::int16_t code) {
+  if (reachable() && on_key_down) on_key_down(code);
+}
+
+}  // namespace quenda

@@ -1,0 +1,231 @@
+#include "platform/win32/controls/list_view_peer.h"
+
+#include <algorithm>
+#include <string>
+
+#include "platform/win32/text_win32.h"
+#include "platform/win32/windows/form_window.h"
+#include "text/text.h"
+
+namespace quenda {
+namespace {
+
+class NativeListView : public PeerOf<ListView> {
+ public:
+  using PeerOf::PeerOf;
+
+  LRESULT on_notify(NMHDR& notice) override {
+    const LPARAM lparam = as_lparam(&notice);
+    switch (notice.code) {
+      case LVN_GETDISPINFOW:
+        give_text(from_lparam<NMLVDISPINFOW>(lparam)->item);
+        return 0;
+      case LVN_ODFINDITEMW:
+        return find(*from_lparam<NMLVFINDITEMW>(lparam));
+      case LVN_ITEMCHANGED:
+        take_change(*from_lparam<NMLISTVIEW>(lparam));
+        return 0;
+      case LVN_KEYDOWN:
+        typed().take_user_key_down(
+            static_cast<std::int16_t>(from_lparam<NMLVKEYDOWN>(lparam)->wVKey));
+        return 0;
+      case NM_DBLCLK:
+        if (from_lparam<NMITEMACTIVATE>(lparam)->iItem >= 0) typed().take_user_double_click();
+        return 0;
+      case NM_CUSTOMDRAW:
+        return draw(*from_lparam<NMLVCUSTOMDRAW>(lparam));
+      default:
+        return 0;
+    }
+  }
+
+  void apply_font() override {
+    NativeControl::apply_font();
+    refresh(Aspect::kColumns);
+  }
+
+ protected:
+  [[nodiscard]] WindowSpec spec() const override {
+    DWORD style = LVS_REPORT | LVS_OWNERDATA | LVS_SINGLESEL | LVS_NOSORTHEADER;
+    // Where something can be done with the selected row, it is seen from elsewhere, too; in a mere
+    // preview it would only hide the colours of the columns.
+    if (typed().on_double_click) style |= LVS_SHOWSELALWAYS;
+    return {WC_LISTVIEWW, true, style, WS_EX_CLIENTEDGE};
+  }
+
+  void prepare() override {
+    constexpr DWORD kStyles = LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER | LVS_EX_LABELTIP;
+    send(LVM_SETEXTENDEDLISTVIEWSTYLE, kStyles, kStyles);
+  }
+
+  void show(Aspect aspect) override {
+    switch (aspect) {
+      case Aspect::kColumns:
+        show_columns();
+        break;
+      case Aspect::kRows:
+        send(LVM_SETITEMCOUNT, typed().count(), LVSICF_NOSCROLL);
+        InvalidateRect(window(), nullptr, FALSE);
+        show_selection();
+        break;
+      case Aspect::kIndex:
+        show_selection();
+        break;
+      default:
+        break;
+    }
+  }
+
+  /// Enter belongs to a list that listens to keys, not to the form's default button.
+  bool on_message(UINT message, WPARAM& /*wparam*/, LPARAM lparam, LRESULT& result) override {
+    if (message == WM_SIZE && !shown_columns_.empty()) show_columns();
+    const auto* const key = from_lparam<MSG>(lparam);
+    if (message != WM_GETDLGCODE || key == nullptr || key->wParam != VK_RETURN) return false;
+    if (!typed().on_key_down) return false;
+    result = DLGC_WANTALLKEYS;
+    return true;
+  }
+
+ private:
+  struct ShownColumn {
+    std::wstring heading;
+    int width = 0;  // in pixels
+  };
+
+  void give_text(LVITEMW& item) const {
+    if ((item.mask & LVIF_TEXT) == 0 || item.cchTextMax <= 0) return;
+    const auto row = static_cast<std::size_t>(item.iItem);
+    const auto column = static_cast<std::size_t>(item.iSubItem);
+    item.pszText[0] = L'\0';
+    if (row >= typed().count() || column >= typed().columns().size()) return;
+    const std::string text = typed().cell(row, column);
+    const auto room = static_cast<std::size_t>(item.cchTextMax) - 1;
+    const std::wstring shown = wide(std::string_view(text).substr(0, room));
+    *std::copy(shown.begin(), shown.end(), item.pszText) = L'\0';
+  }
+
+  /// The next row whose first cell begins with the letters typed into the list, -1 for none.
+  [[nodiscard]] LRESULT find(const NMLVFINDITEMW& sought) const {
+    if ((sought.lvfi.flags & LVFI_STRING) == 0 || typed().columns().empty()) return -1;
+    const std::string start = nearest_1252(sought.lvfi.psz);
+    const std::size_t count = typed().count();
+    for (std::size_t i = 0; i < count; ++i) {
+      const std::size_t row = (static_cast<std::size_t>(std::max(sought.iStart, 0)) + i) % count;
+      const std::string text = typed().cell(row, 0);
+      if (equal_ignoring_case(std::string_view(text).substr(0, start.size()), start)) {
+        return static_cast<LRESULT>(row);
+      }
+    }
+    return -1;
+  }
+
+  [[nodiscard]] LRESULT draw(NMLVCUSTOMDRAW& drawn) const {
+    const DWORD stage = drawn.nmcd.dwDrawStage;
+    // First every row is asked for, then every cell of it; both are wished for by the same value.
+    if (stage == CDDS_PREPAINT || stage == CDDS_ITEMPREPAINT) return CDRF_NOTIFYITEMDRAW;
+    if (stage == (CDDS_ITEMPREPAINT | CDDS_SUBITEM)) tint(drawn);
+    return CDRF_DODEFAULT;
+  }
+
+  void tint(NMLVCUSTOMDRAW& drawn) const {
+    const auto column = static_cast<std::size_t>(drawn.iSubItem);
+    if (column >= typed().columns().size()) return;
+    const ColumnKind kind = typed().columns()[column].kind;
+    drawn.clrTextBk = column_color(kind);
+    const bool tinted = kind != ColumnKind::kNone && !high_contrast();
+    drawn.clrText = tinted ? RGB(0, 0, 0) : GetSysColor(COLOR_WINDOWTEXT);
+  }
+
+  /// The list is never asked which row is selected: it would look through all of them.
+  void take_change(const NMLISTVIEW& change) {
+    const bool was = (change.uOldState & LVIS_SELECTED) != 0;
+    const bool is = (change.uNewState & LVIS_SELECTED) != 0;
+    if (was == is) return;
+    const bool this_row = change.iItem == -1 || change.iItem == shown_row_;
+    if (is) {
+      shown_row_ = change.iItem;
+    } else if (this_row) {
+      shown_row_ = -1;
+    }
+    if (!muted()) typed().take_user_select(shown_row_);
+  }
+
+  /// The widths asked for, in pixels. Columns that leave room share it, so that a larger window
+  /// cuts no names.
+  [[nodiscard]] std::vector<int> column_widths() const {
+    std::vector<int> widths;
+    int sum = 0;
+    for (const ListColumn& column : typed().columns()) {
+      widths.push_back(pixels_of(column.width, form().dpi()));
+      sum += widths.back();
+    }
+    RECT area{};
+    GetWindowRect(window(), &area);
+    const auto dpi = static_cast<UINT>(form().dpi());
+    const int room = static_cast<int>(area.right - area.left) -
+                     GetSystemMetricsForDpi(SM_CXVSCROLL, dpi) -
+                     2 * GetSystemMetricsForDpi(SM_CXEDGE, dpi);
+    if (sum == 0 || sum >= room) return widths;
+    for (int& width : widths) width = MulDiv(width, room, sum);
+    return widths;
+  }
+
+  /// Only what differs is sent: a file may have thousands of columns, and the native heading places
+  /// all of them anew at each change.
+  void show_columns() {
+    const auto header = from_lparam<HWND__>(send(LVM_GETHEADER));
+    const auto& columns = typed().columns();
+    const std::vector<int> widths = column_widths();
+    auto shown = static_cast<std::size_t>(SendMessageW(header, HDM_GETITEMCOUNT, 0, 0));
+    const bool hidden = (GetWindowLongPtrW(window(), GWL_STYLE) & WS_VISIBLE) == 0;
+    send(WM_SETREDRAW, FALSE);
+    SendMessageW(header, WM_SETREDRAW, FALSE, 0);
+    while (shown > columns.size()) send(LVM_DELETECOLUMN, --shown);
+    shown_columns_.resize(columns.size());
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+      ShownColumn wanted{std::wstring(column_mark(columns[i].kind)), widths[i]};
+      wanted.heading += wide(columns[i].heading);
+      LVCOLUMNW column{};
+      column.mask = LVCF_SUBITEM;
+      if (i >= shown || shown_columns_[i].heading != wanted.heading) column.mask |= LVCF_TEXT;
+      // A width that the user has dragged stays until the control asks for another.
+      if (i >= shown || shown_columns_[i].width != wanted.width) column.mask |= LVCF_WIDTH;
+      if (column.mask == LVCF_SUBITEM) continue;
+      column.cx = wanted.width;
+      column.iSubItem = static_cast<int>(i);
+      column.pszText = wanted.heading.data();
+      send(i < shown ? LVM_SETCOLUMNW : LVM_INSERTCOLUMNW, i, as_lparam(&column));
+      shown_columns_[i] = std::move(wanted);
+    }
+    SendMessageW(header, WM_SETREDRAW, TRUE, 0);
+    send(WM_SETREDRAW, TRUE);
+    if (hidden) ShowWindow(window(), SW_HIDE);  // to draw again is to be visible
+    RedrawWindow(window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+  }
+
+  void show_selection() {
+    const int wanted = typed().selected();
+    if (shown_row_ == wanted) return;
+    LVITEMW item{};
+    item.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
+    if (shown_row_ >= 0) {
+      send(LVM_SETITEMSTATE, static_cast<WPARAM>(shown_row_), as_lparam(&item));
+    }
+    shown_row_ = wanted;
+    if (wanted < 0) return;
+    item.state = item.stateMask;
+    send(LVM_SETITEMSTATE, static_cast<WPARAM>(wanted), as_lparam(&item));
+    send(LVM_ENSUREVISIBLE, static_cast<WPARAM>(wanted), FALSE);
+  }
+
+  int shown_row_ = -1;
+  std::vector<ShownColumn> shown_columns_;  // as last asked for
+};
+
+}  // namespace
+
+std::unique_ptr<NativeControl> make_list_view(FormWindow& form, ListView& list) {
+  return std::make_unique<NativeListView>(form, list);
+}
+
+}  // namespace quenda

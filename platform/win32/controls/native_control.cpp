@@ -1,0 +1,182 @@
+#include "platform/win32/controls/native_control.h"
+
+#include <utility>
+
+#include "platform/win32/controls/named_object.h"
+#include "platform/win32/text_win32.h"
+#include "platform/win32/windows/form_window.h"
+#include "text/fault.h"
+
+namespace quenda {
+namespace {
+
+constexpr unsigned bit(Aspect aspect) { return 1U << static_cast<unsigned>(aspect); }
+
+/// In this order, so that entries are there before they are selected.
+constexpr Aspect kShown[] = {Aspect::kPlace, Aspect::kCaption, Aspect::kText,    Aspect::kColumns,
+                             Aspect::kRows,  Aspect::kItems,   Aspect::kIndex,   Aspect::kSelection,
+                             Aspect::kValue, Aspect::kColour,  Aspect::kEnabled, Aspect::kVisible};
+
+}  // namespace
+
+NativeControl::~NativeControl() {
+  if (window_ == nullptr) return;
+  SetWindowLongPtrW(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(system_procedure_));
+  SetWindowLongPtrW(window_, GWLP_USERDATA, 0);
+}
+
+void NativeControl::create(HWND parent, int id, bool begins_group) {
+  const WindowSpec made = spec();
+  const bool reached = made.takes_input && control_.tab_index() >= 0;
+  const DWORD tab_stop = reached ? WS_TABSTOP : 0;
+  auto* const number = from_lparam<HMENU__>(id);
+  const DWORD shown = control_.visible() ? WS_VISIBLE : 0;
+  const DWORD locked = is_live() ? 0 : WS_DISABLED;
+  const DWORD group = begins_group ? WS_GROUP : 0;
+  placed_ = laid_out(control_, form_.dpi(), form_.growth());
+  // Text and state go in here: to change them afterwards would cost as much as the window itself.
+  window_ = CreateWindowExW(made.extended, made.window_class, wide(made.text).c_str(),
+                            WS_CHILD | made.style | tab_stop | group | shown | locked, placed_.left,
+                            placed_.top, placed_.width, placed_.height, parent, number,
+                            GetModuleHandleW(nullptr), nullptr);
+  if (window_ == nullptr) raise_fault(kFaultOutOfMemory);
+  // By the window's own words: the subclassing of the common controls looks its data up twice for
+  // every message, which takes longer than all the rest of making a window.
+  SetWindowLongPtrW(window_, GWLP_USERDATA, as_lparam(this));
+  system_procedure_ = reinterpret_cast<WNDPROC>(SetWindowLongPtrW(
+      window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&NativeControl::procedure)));
+  apply_font();
+  prepare();
+}
+
+void NativeControl::refresh(Aspect aspect) {
+  switch (aspect) {
+    case Aspect::kZOrder:
+      in_front_ = true;
+      if (window_ == nullptr) break;
+      SetWindowPos(window_, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+      break;
+    case Aspect::kFocus:
+      form_.focus().want(*this);
+      break;
+    default:
+      if (aspect == Aspect::kCaption || aspect == Aspect::kVisible) form_.captions_changed();
+      noted_ |= bit(aspect);
+  }
+}
+
+void NativeControl::note_all() {
+  for (const Aspect aspect : kShown) {
+    if (aspect != Aspect::kColour) noted_ |= bit(aspect);
+  }
+}
+
+void NativeControl::show_changes() {
+  if (noted_ == 0) return;
+  if (window_ == nullptr) {
+    if (!control_.visible()) return;
+    form_.create_late(*this);
+  }
+  const unsigned noted = std::exchange(noted_, 0);
+  const Mute mute(*this);
+  for (const Aspect aspect : kShown) {
+    if ((noted & bit(aspect)) == 0) continue;
+    show_common(aspect);
+    show(aspect);
+  }
+}
+
+void NativeControl::show_common(Aspect aspect) {
+  switch (aspect) {
+    case Aspect::kPlace:
+      place();
+      break;
+    case Aspect::kCaption:
+      if (!control_.spoken_name().empty()) form_.names_changed();
+      break;
+    case Aspect::kEnabled:
+      if ((IsWindowEnabled(window_) != 0) != is_live()) {
+        EnableWindow(window_, is_live() ? TRUE : FALSE);
+      }
+      break;
+    case Aspect::kVisible:
+      if (((GetWindowLongPtrW(window_, GWL_STYLE) & WS_VISIBLE) != 0) != control_.visible()) {
+        ShowWindow(window_, control_.visible() ? SW_SHOWNA : SW_HIDE);
+      }
+      break;
+    case Aspect::kColour:
+      InvalidateRect(window_, nullptr, TRUE);
+      break;
+    default:
+      break;
+  }
+}
+
+bool NativeControl::is_live() const {
+  switch (control_.kind()) {
+    case ControlKind::kLabel:
+    case ControlKind::kFrame:
+    case ControlKind::kPicture:
+    case ControlKind::kStatusBar:
+      return control_.enabled();
+    default:
+      return control_.takes_input();
+  }
+}
+
+void NativeControl::place() {
+  const Pixels to = laid_out(control_, form_.dpi(), form_.growth());
+  if (to == placed_) return;
+  placed_ = to;
+  SetWindowPos(window_, nullptr, to.left, to.top, to.width, to.height,
+               SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS);
+}
+
+void NativeControl::apply_font() {
+  const HFONT font = form_.fonts().plain.get();
+  send(WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
+}
+
+void NativeControl::set_window_text(std::string_view text) const {
+  const std::wstring shown = wide(text);
+  if (window_text(window_) != shown) SetWindowTextW(window_, shown.c_str());
+}
+
+LRESULT CALLBACK NativeControl::procedure(HWND window, UINT message, WPARAM wparam,
+                                          LPARAM lparam) noexcept {
+  auto* const self = from_lparam<NativeControl>(GetWindowLongPtrW(window, GWLP_USERDATA));
+  return self == nullptr ? DefWindowProcW(window, message, wparam, lparam)
+                         : self->handle(message, wparam, lparam);
+}
+
+LRESULT NativeControl::object_named(WPARAM wparam, LPARAM lparam) {
+  // Whatever the reader asks for: the system has to know the name by then.
+  const std::string name = form_.name_to_answer(*this);
+  const bool wanted = static_cast<LONG>(lparam) == OBJID_CLIENT;
+  return wanted && !name.empty() ? answer_with_name(window_, wparam, name) : 0;
+}
+
+LRESULT NativeControl::handle(UINT message, WPARAM wparam, LPARAM lparam) noexcept {
+  struct Answer {
+    bool taken = false;
+    LRESULT result = 0;
+  };
+  MessageLoop& loop = form_.loop();
+  const auto answer = loop.at_edge(
+      [&] {
+        Answer given;
+        if (message == WM_GETOBJECT) given.result = object_named(wparam, lparam);
+        given.taken = given.result != 0 || on_message(message, wparam, lparam, given.result);
+        return given;
+      },
+      Answer{});
+  if (answer.taken) return answer.result;
+  const LRESULT result = CallWindowProcW(system_procedure_, window_, message, wparam, lparam);
+  if (message == WM_SETFOCUS) {
+    form_.focus().took(*this);
+    if (!muted_) loop.at_edge([&] { control_.take_user_focus(); });
+  }
+  return result;
+}
+
+}  // namespace quenda

@@ -1,0 +1,43 @@
+#include "platform/win32/controls/panel_window.h"
+
+namespace quenda {
+namespace {
+
+void register_class(const wchar_t* name, WNDPROC procedure, int extra) {
+  WNDCLASSEXW window_class{};
+  window_class.cbSize = sizeof window_class;
+  window_class.lpfnWndProc = procedure;
+  window_class.cbWndExtra = extra;
+  window_class.hInstance = GetModuleHandleW(nullptr);
+  window_class.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+  window_class.hbrBackground = GetSysColorBrush(COLOR_3DFACE);
+  window_class.lpszClassName = name;
+  RegisterClassExW(&window_class);
+}
+
+}  // namespace
+
+void register_window_classes() {
+  const INITCOMMONCONTROLSEX used{sizeof used, ICC_STANDARD_CLASSES | ICC_WIN95_CLASSES};
+  InitCommonControlsEx(&used);
+  register_class(kPanelClass, &DefWindowProcW, 0);
+  register_class(kPictureClass, &DefWindowProcW, 0);
+  register_class(kFormClass, &DefDlgProcW, DLGWINDOWEXTRA);
+}
+
+bool forward_to_parent(HWND area, UINT message, WPARAM wparam, LPARAM lparam, LRESULT& result) {
+  switch (message) {
+    case WM_COMMAND:
+    case WM_NOTIFY:
+    case WM_CTLCOLOREDIT:
+    case WM_CTLCOLORLISTBOX:
+    case WM_CTLCOLORBTN:
+    case WM_CTLCOLORSTATIC:
+      result = SendMessageW(GetParent(area), message, wparam, lparam);
+      return true;
+    default:
+      return false;
+  }
+}
+
+}  // namespace quenda

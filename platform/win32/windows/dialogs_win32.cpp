@@ -1,0 +1,92 @@
+#include "platform/win32/windows/dialogs_win32.h"
+
+#include <commdlg.h>
+
+#include <string>
+#include <utility>
+
+#include "platform/controls/form.h"
+#include "platform/win32/com/com_support.h"
+#include "platform/win32/text_win32.h"
+#include "platform/win32/windows/events_win32.h"
+
+namespace quenda {
+namespace {
+
+constexpr DWORD kLongestPath = 32768;
+/// The command by which the file list of the dialog changes to the view with size and date.
+constexpr WPARAM kDetailsView = 0x702C;
+
+/// Descriptions and patterns as the dialog wants them: each ended by NUL, one more at the end.
+std::wstring filter_text(const std::vector<FileFilter>& filters) {
+  std::wstring text;
+  for (const FileFilter& filter : filters) {
+    text += wide(filter.description);
+    text += L'\0';
+    text += wide(filter.pattern);
+    text += L'\0';
+  }
+  text += L'\0';
+  return text;
+}
+
+/// Shows the files with size and date, by which users tell exports apart.
+UINT_PTR CALLBACK show_details(HWND page, UINT message, WPARAM /*wparam*/, LPARAM lparam) noexcept {
+  if (message != WM_NOTIFY) return 0;
+  if (from_lparam<NMHDR>(lparam)->code != CDN_FOLDERCHANGE) return 0;
+  const HWND view = FindWindowExW(GetParent(page), nullptr, L"SHELLDLL_DefView", nullptr);
+  if (view != nullptr) SendMessageW(view, WM_COMMAND, kDetailsView, 0);
+  return 0;
+}
+
+/// The window that a message belongs to: the active one, or, while the user works in another
+/// program, the one that takes input, so that the message comes forward with it.
+HWND message_owner() {
+  HWND owner = GetActiveWindow();
+  if (owner != nullptr) return owner;
+  const auto take_usable = [](HWND window, LPARAM found) -> BOOL {
+    if (IsWindowVisible(window) == 0 || IsWindowEnabled(window) == 0) return TRUE;
+    *from_lparam<HWND>(found) = window;
+    return FALSE;
+  };
+  EnumThreadWindows(GetCurrentThreadId(), take_usable, as_lparam(&owner));
+  return owner;
+}
+
+}  // namespace
+
+MessageAnswer Win32Dialogs::message_box(std::string_view text, MessageStyle style,
+                                        std::string_view title) {
+  loop_.show_changes();
+  const HWND owner = message_owner();
+  const UINT modal = owner == nullptr ? MB_TASKMODAL : MB_APPLMODAL;
+  const UINT forward = GetActiveWindow() == nullptr ? MB_SETFOREGROUND : 0;
+  const int answer = MessageBoxW(owner, wide(text).c_str(), wide(title).c_str(),
+                                 static_cast<UINT>(style) | modal | forward);
+  loop_.rethrow();
+  return static_cast<MessageAnswer>(answer);
+}
+
+ChosenFile Win32Dialogs::open_file(const std::vector<FileFilter>& filters) {
+  loop_.show_changes();
+  const ApartmentScope apartment;
+  const std::wstring filter = filter_text(filters);
+  std::wstring path(kLongestPath, L'\0');
+  OPENFILENAMEW dialog{};
+  dialog.lStructSize = sizeof dialog;
+  dialog.hwndOwner = message_owner();
+  dialog.lpstrFilter = filters.empty() ? nullptr : filter.c_str();
+  dialog.lpstrFile = path.data();
+  dialog.nMaxFile = kLongestPath;
+  dialog.Flags = OFN_EXPLORER | OFN_ENABLEHOOK | OFN_ENABLESIZING | OFN_FILEMUSTEXIST |
+                 OFN_PATHMUSTEXIST | OFN_HIDEREADONLY | OFN_NOCHANGEDIR;
+  dialog.lpfnHook = &show_details;
+  const bool chosen = GetOpenFileNameW(&dialog) != 0;
+  loop_.rethrow();
+  if (!chosen) return {};
+  path.resize(path.find(L'\0'));
+  if (auto named = exact_1252(path)) return {.path = std::move(*named), .unusable = {}};
+  return {.path = {}, .unusable = nearest_1252(path)};
+}
+
+}  // namespace quenda

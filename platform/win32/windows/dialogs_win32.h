@@ -1,0 +1,19 @@
+#pragma once
+
+#include "platform/dialogs.h"
+#include "platform/win32/windows/message_loop.h"
+
+namespace quenda {
+
+class Win32Dialogs : public Dialogs {
+ public:
+  explicit Win32Dialogs(MessageLoop& loop) : loop_(loop) {}
+  MessageAnswer message_box(std::string_view text, MessageStyle style,
+                            std::string_view title) override;
+  ChosenFile open_file(const std::vector<FileFilter>& filters) override;
+
+ private:
+  MessageLoop& loop_;
+};
+
+}  // namespace quenda

@@ -1,0 +1,358 @@
+#include "platform/win32/windows/form_window.h"
+
+#include <shellapi.h>
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "platform/controls/simple_controls.h"
+#include "platform/controls/text_box.h"
+#include "platform/win32/controls/control_peers.h"
+#include "platform/win32/controls/panel_window.h"
+#include "platform/win32/text_win32.h"
+#include "platform/win32/windows/access_keys.h"
+#include "text/fault.h"
+
+namespace quenda {
+namespace {
+
+constexpr int kFirstId = 100;
+
+/// A dialog without controls, as the system wants it described: the fixed part, then menu, class
+/// and title as UTF-16 texts.
+struct DialogTemplate {
+  DLGTEMPLATE fixed{};
+  std::array<wchar_t, 16> texts{};
+};
+
+DialogTemplate dialog_template(const Form& form, bool over_owner) {
+  DialogTemplate made;
+  made.fixed.style = WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN;
+  made.fixed.style |= over_owner ? WS_POPUP | DS_MODALFRAME : WS_OVERLAPPED | WS_MINIMIZEBOX;
+  if (form.resizable()) made.fixed.style |= WS_THICKFRAME | WS_MAXIMIZEBOX;
+  made.fixed.dwExtendedStyle = WS_EX_CONTROLPARENT;
+  const std::wstring_view name = kFormClass;
+  std::copy(name.begin(), name.end(), made.texts.begin() + 1);
+  return made;
+}
+
+/// Arrow keys go round among the options of one array.
+bool begins_group(const Control* before, const Control& control) {
+  return before == nullptr || control.kind() != ControlKind::kOptionButton ||
+         before->kind() != control.kind() || before->name() != control.name();
+}
+
+}  // namespace
+
+FormWindow::FormWindow(MessageLoop& loop, Form& form, HWND owner)
+    : loop_(loop), form_(form), owner_(owner) {
+  register_window_classes();
+  const DialogTemplate made = dialog_template(form, owner != nullptr);
+  window_.reset(CreateDialogIndirectParamW(GetModuleHandleW(nullptr), &made.fixed, owner,
+                                           &FormWindow::procedure, as_lparam(this)));
+  if (!window_) raise_fault(kFaultOutOfMemory);
+  place_window();
+  give_access_keys();
+  create_controls(window(), nullptr);
+  if (form_.default_button != nullptr) {
+    SendMessageW(window(), DM_SETDEFID, static_cast<WPARAM>(id_of(*form_.default_button)), 0);
+  }
+  SetWindowTextW(window(), wide(form_.caption()).c_str());
+  DragAcceptFiles(window(), form_.on_drop_file ? TRUE : FALSE);
+  form_.attach(this);
+  loop_.add(*this);
+  show_changes();
+}
+
+FormWindow::~FormWindow() {
+  ready_ = false;
+  SetWindowLongPtrW(window(), DWLP_USER, 0);
+  loop_.remove(*this);
+  form_.attach(nullptr);
+  for (const auto& control : controls_) control->control().attach(nullptr);
+  controls_.clear();
+}
+
+void FormWindow::create_controls(HWND parent, const Control* frame) {
+  const Control* before = nullptr;
+  for (Control* control : in_tab_order(form_, frame)) {
+    controls_.push_back(make_native_control(*this, *control));
+    NativeControl& native = *controls_.back();
+    control->attach(&native);
+    native.note_all();
+    if (control->visible()) {
+      native.create(parent, id_of(*control), begins_group(before, *control));
+      if (control->kind() == ControlKind::kFrame) create_controls(native.window(), control);
+    }
+    before = control;
+  }
+}
+
+void FormWindow::create_late(NativeControl& native) {
+  const Control& control = native.control();
+  const Control* before = nullptr;
+  HWND behind = HWND_TOP;
+  for (const Control* sibling : in_tab_order(form_, control.parent())) {
+    if (sibling == &control) break;
+    before = sibling;
+    const NativeControl* const peer = peer_of(*sibling);
+    if (peer != nullptr && peer->window() != nullptr) behind = peer->window();
+  }
+  const HWND parent = control.parent() == nullptr ? window() : peer_of(*control.parent())->window();
+  native.create(parent, id_of(control), begins_group(before, control));
+  SetWindowPos(native.window(), native.in_front() ? HWND_TOP : behind, 0, 0, 0, 0,
+               SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+}
+
+int FormWindow::id_of(const Control& control) const {
+  const auto& all = form_.controls();
+  return kFirstId + static_cast<int>(std::find(all.begin(), all.end(), &control) - all.begin());
+}
+
+void FormWindow::page_shown(NativeControl& frame) {
+  const auto& all = form_.controls();
+  const bool empty = std::none_of(all.begin(), all.end(), [&](const Control* control) {
+    return control->parent() == &frame.control() && control->peer() != nullptr;
+  });
+  if (empty) create_controls(frame.window(), &frame.control());
+  captions_changed_ = true;
+  if (ready_) focus_.page_shown();
+}
+
+NativeControl* FormWindow::peer_of(const Control& control) {
+  return static_cast<NativeControl*>(control.peer());
+}
+
+NativeControl* FormWindow::peer_of(HWND window) const {
+  NativeControl* const native = peer_of(GetDlgCtrlID(window));
+  return native != nullptr && native->window() == window ? native : nullptr;
+}
+
+NativeControl* FormWindow::peer_of(int id) const {
+  const auto& all = form_.controls();
+  const int position = id - kFirstId;
+  if (position < 0 || position >= static_cast<int>(all.size())) return nullptr;
+  return peer_of(*all[static_cast<std::size_t>(position)]);
+}
+
+void FormWindow::show() {
+  ShowWindow(window(), SW_SHOWNORMAL);
+  SetForegroundWindow(window());
+  UpdateWindow(window());
+  ready_ = true;
+  show_icons();
+  // The system has chosen the first field; where the work begins is for the form to say.
+  focus_.page_shown();
+  settle(true);
+}
+
+void FormWindow::refresh(Aspect aspect) {
+  switch (aspect) {
+    case Aspect::kCaption:
+      SetWindowTextW(window(), wide(form_.caption()).c_str());
+      break;
+    case Aspect::kPlace:
+      place_window();
+      break;
+    case Aspect::kPointer:
+      show_pointer();
+      break;
+    case Aspect::kVisible:
+      // The form is unloaded; its window goes with this object. A dialog stays until its owner
+      // takes input again, or the system would bring another program's window forward.
+      if (owner_ == nullptr) ShowWindow(window(), SW_HIDE);
+      MessageLoop::wake();
+      break;
+    default:
+      break;  // redrawing is looked up when it matters
+  }
+}
+
+void FormWindow::show_changes() {
+  if (showing_ || !form_.redraw()) return;
+  showing_ = true;
+  if (std::exchange(captions_changed_, false)) give_access_keys();
+  // A frame that comes into view adds controls: NOLINTNEXTLINE(modernize-loop-convert)
+  for (std::size_t i = 0; i < controls_.size(); ++i) controls_[i]->show_changes();
+  showing_ = false;
+}
+
+void FormWindow::give_access_keys() {
+  const std::vector<Control*> found = keyed_controls(form_);
+  std::vector<std::string> captions;
+  captions.reserve(found.size());
+  for (const Control* control : found) captions.push_back(control->caption());
+  const auto own_buttons = std::count_if(found.begin(), found.end(), [](const Control* control) {
+    return control->parent() == nullptr;
+  });
+  captions = with_access_keys(captions, static_cast<std::size_t>(own_buttons));
+  for (std::size_t i = 0; i < found.size(); ++i) {
+    std::string& keyed = keyed_[found[i]];
+    if (keyed == captions[i]) continue;
+    keyed = std::move(captions[i]);
+    if (NativeControl* native = peer_of(*found[i])) native->refresh(Aspect::kCaption);
+  }
+}
+
+std::string FormWindow::keyed_caption(const Control& control) const {
+  const auto found = keyed_.find(&control);
+  return found == keyed_.end() ? control.caption() : found->second;
+}
+
+bool FormWindow::translate(MSG& message) {
+  if (message.message == WM_KEYDOWN && message.wParam == VK_F1 &&
+      GetAncestor(message.hwnd, GA_ROOT) == window()) {
+    loop_.at_edge([&] {
+      if (form_.on_help) form_.on_help();
+    });
+    return true;
+  }
+  return IsDialogMessageW(window(), &message) != 0;
+}
+
+void FormWindow::tell_names() {
+  names_changed_ = false;
+  for (const auto& control : controls_) {
+    const std::string& name = control->control().spoken_name();
+    if (!name.empty() && control->window() != nullptr) names_->set(control->window(), name);
+  }
+}
+
+std::string FormWindow::name_to_answer(const NativeControl& native) {
+  std::string name = native.control().spoken_name();
+  if (name.empty()) name = label_of_list(form_, native.control());
+  if (name.empty()) return name;
+  if (!names_) names_ = std::make_unique<SpokenNames>();
+  return names_->set(native.window(), name) ? std::string() : name;
+}
+
+void FormWindow::settle(bool idle) {
+  if (!ready_ || !form_.loaded()) return;
+  if (idle && names_ && names_changed_) tell_names();
+  focus_.settle(idle);
+  show_changes();
+}
+
+void FormWindow::show_pointer() const {
+  POINT at{};
+  GetCursorPos(&at);
+  const HWND under = WindowFromPoint(at);
+  if (under != window() && IsChild(window(), under) == 0) return;
+  SendMessageW(under, WM_SETCURSOR, reinterpret_cast<WPARAM>(under),
+               MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
+}
+
+void FormWindow::on_drop(WPARAM drop) {
+  auto* const dropped = from_lparam<HDROP__>(static_cast<LPARAM>(drop));
+  std::wstring path(DragQueryFileW(dropped, 0, nullptr, 0), L'\0');
+  DragQueryFileW(dropped, 0, path.data(), static_cast<UINT>(path.size()) + 1);
+  DragFinish(dropped);
+  if (path.empty() || !takes_input()) return;
+  if (const auto named = exact_1252(path)) {
+    if (form_.on_drop_file) form_.on_drop_file(*named);
+  } else if (form_.on_unusable_path) {
+    form_.on_unusable_path(nearest_1252(path));
+  }
+}
+
+/// A window under a dialog can still be sent messages by other programs.
+bool FormWindow::takes_input() const { return IsWindowEnabled(window()) != 0; }
+
+void FormWindow::close() {
+  if (takes_input()) form_.unload(CloseReason::kCloseBox);
+}
+
+void FormWindow::on_command(UINT code, int id, HWND control) {
+  if (NativeControl* native = peer_of(control)) return native->on_command(code);
+  if (id == IDCANCEL) {
+    if (form_.cancel_button != nullptr) form_.cancel_button->take_user_click();
+  } else if (id == IDOK) {
+    if (form_.default_button != nullptr) form_.default_button->take_user_click();
+  } else if (NativeControl* native = peer_of(id)) {
+    native->on_command(code);
+  }
+}
+
+INT_PTR FormWindow::color(WPARAM dc, HWND control) const {
+  const NativeControl* const native = peer_of(control);
+  if (native == nullptr) return FALSE;
+  const int color = system_color_behind(native->control());
+  auto* const surface = from_lparam<HDC__>(static_cast<LPARAM>(dc));
+  SetBkColor(surface, GetSysColor(color));
+  return as_lparam(GetSysColorBrush(color));
+}
+
+INT_PTR FormWindow::answer(LRESULT result) const {
+  SetWindowLongPtrW(window(), DWLP_MSGRESULT, result);
+  return TRUE;
+}
+
+INT_PTR FormWindow::on_message(UINT message, WPARAM wparam, LPARAM lparam) {
+  switch (message) {
+    case WM_COMMAND:
+      if (takes_input()) {
+        on_command(HIWORD(wparam), LOWORD(wparam), from_lparam<HWND__>(lparam));
+      }
+      return TRUE;
+    case WM_NOTIFY: {
+      auto& notice = *from_lparam<NMHDR>(lparam);
+      NativeControl* const native = peer_of(notice.hwndFrom);
+      return native == nullptr ? FALSE : answer(native->on_notify(notice));
+    }
+    case WM_CTLCOLOREDIT:
+    case WM_CTLCOLORLISTBOX:
+    case WM_CTLCOLORBTN:
+    case WM_CTLCOLORSTATIC:
+      return color(wparam, from_lparam<HWND__>(lparam));
+    case WM_SETCURSOR:
+      if (form_.pointer() != Pointer::kHourglass || LOWORD(lparam) != HTCLIENT) return FALSE;
+      SetCursor(LoadCursorW(nullptr, IDC_WAIT));
+      return answer(TRUE);
+    case WM_CLOSE:
+      close();
+      return TRUE;
+    case WM_QUERYENDSESSION:
+      return answer(TRUE);
+    case WM_ENDSESSION:
+      // Dialogs go with the main window: the end of the session answers no question.
+      if (wparam != 0 && owner_ == nullptr) form_.unload(CloseReason::kCode);
+      return TRUE;
+    case WM_SIZE:
+      on_size();
+      return TRUE;
+    case WM_MOVE:
+      on_move();
+      return TRUE;
+    case WM_GETMINMAXINFO:
+      limit_size(*from_lparam<MINMAXINFO>(lparam));
+      return TRUE;
+    case WM_DPICHANGED:
+      on_dpi(LOWORD(wparam), *from_lparam<RECT>(lparam));
+      return TRUE;
+    case WM_SETTINGCHANGE:
+      use_dpi(dpi_);
+      return FALSE;
+    case WM_DROPFILES:
+      on_drop(wparam);
+      return TRUE;
+    case WM_HELP:
+      return TRUE;  // F1 has been taken before
+    default:
+      return FALSE;
+  }
+}
+
+INT_PTR CALLBACK FormWindow::procedure(HWND window, UINT message, WPARAM wparam,
+                                       LPARAM lparam) noexcept {
+  if (message == WM_INITDIALOG) {
+    SetWindowLongPtrW(window, DWLP_USER, lparam);
+    return FALSE;
+  }
+  auto* const self = from_lparam<FormWindow>(GetWindowLongPtrW(window, DWLP_USER));
+  if (self == nullptr || !self->window_) return FALSE;
+  return self->loop_.at_edge([&] { return self->on_message(message, wparam, lparam); },
+                             INT_PTR{FALSE});
+}
+
+}  // namespace quenda

@@ -1,0 +1,141 @@
+// How large a form's window is and where it lies, at the DPI of the screen it is on.
+#include <algorithm>
+#include <utility>
+
+#include "platform/win32/windows/form_window.h"
+
+namespace quenda {
+namespace {
+
+constexpr int kIconResource = 1;
+
+/// Moves a window's place into the working area of the nearest screen: a place remembered from a
+/// screen that is gone must not hide the window.
+RECT on_screen(RECT place) {
+  MONITORINFO screen{};
+  screen.cbSize = sizeof screen;
+  if (GetMonitorInfoW(MonitorFromRect(&place, MONITOR_DEFAULTTONEAREST), &screen) == 0) {
+    return place;
+  }
+  const RECT& area = screen.rcWork;
+  OffsetRect(&place, std::min(area.right - place.right, 0L),
+             std::min(area.bottom - place.bottom, 0L));
+  OffsetRect(&place, std::max(area.left - place.left, 0L), std::max(area.top - place.top, 0L));
+  return place;
+}
+
+Icon load_icon(int width_metric, int height_metric, int dpi) {
+  const auto size = static_cast<UINT>(dpi);
+  return Icon(
+      static_cast<HICON>(LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(kIconResource),
+                                    IMAGE_ICON, GetSystemMetricsForDpi(width_metric, size),
+                                    GetSystemMetricsForDpi(height_metric, size), LR_DEFAULTCOLOR)));
+}
+
+}  // namespace
+
+void FormWindow::use_dpi(int dpi) {
+  dpi_ = dpi;
+  const std::optional<Fonts> before = std::exchange(fonts_, std::optional<Fonts>(dpi));
+  for (const auto& control : controls_) {
+    if (control->window() == nullptr) continue;
+    control->apply_font();
+    control->refresh(Aspect::kPlace);
+  }
+  if (ready_) show_icons();
+  RedrawWindow(window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+}
+
+void FormWindow::show_icons() {
+  Icon in_task_bar = load_icon(SM_CXICON, SM_CYICON, dpi_);
+  Icon in_title = load_icon(SM_CXSMICON, SM_CYSMICON, dpi_);
+  SendMessageW(window(), WM_SETICON, ICON_BIG, as_lparam(in_task_bar.get()));
+  SendMessageW(window(), WM_SETICON, ICON_SMALL, as_lparam(in_title.get()));
+  // Those before are out of use only now.
+  big_icon_ = std::move(in_task_bar);
+  small_icon_ = std::move(in_title);
+}
+
+/// What the title bar and the borders take at the window's DPI.
+SIZE FormWindow::border() const {
+  RECT area{};
+  AdjustWindowRectExForDpi(&area, static_cast<DWORD>(GetWindowLongPtrW(window(), GWL_STYLE)), FALSE,
+                           static_cast<DWORD>(GetWindowLongPtrW(window(), GWL_EXSTYLE)),
+                           static_cast<UINT>(dpi_));
+  return {area.right - area.left, area.bottom - area.top};
+}
+
+SIZE FormWindow::outer_size() const {
+  const SIZE around = border();
+  const int outer = form_.outer_width();
+  const LONG width =
+      outer > 0 ? pixels_of(outer, dpi_) : pixels_of(form_.place().width, dpi_) + around.cx;
+  return {width, pixels_of(form_.place().height, dpi_) + around.cy};
+}
+
+/// Positions are kept at the system's DPI, whatever screen the window is on, so that a remembered
+/// position leads back to the same point.
+void FormWindow::place_window() {
+  const bool was_ready = std::exchange(ready_, false);
+  const auto system = static_cast<int>(GetDpiForSystem());
+  RECT place{};
+  place.left = pixels_of(form_.place().left, system);
+  place.top = pixels_of(form_.place().top, system);
+  SetWindowPos(window(), nullptr, place.left, place.top, 0, 0,
+               SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+  use_dpi(static_cast<int>(GetDpiForWindow(window())));
+  const SIZE size = outer_size();
+  RECT owner{};
+  if (owner_ != nullptr && form_.place().left == 0 && form_.place().top == 0 &&
+      GetWindowRect(owner_, &owner) != 0) {
+    place.left = (owner.left + owner.right - size.cx) / 2;
+    place.top = owner.top + (owner.bottom - owner.top - size.cy) / 2;
+  }
+  place.right = place.left + size.cx;
+  place.bottom = place.top + size.cy;
+  place = on_screen(place);
+  SetWindowPos(window(), nullptr, place.left, place.top, size.cx, size.cy,
+               SWP_NOZORDER | SWP_NOACTIVATE);
+  ready_ = was_ready;
+}
+
+void FormWindow::on_dpi(int dpi, const RECT& place) {
+  const Growth grown{MulDiv(growth_.across, dpi, dpi_), MulDiv(growth_.down, dpi, dpi_)};
+  use_dpi(dpi);
+  const SIZE least = outer_size();
+  SetWindowPos(window(), nullptr, place.left, place.top,
+               std::max(place.right - place.left, least.cx + grown.across),
+               std::max(place.bottom - place.top, least.cy + grown.down),
+               SWP_NOZORDER | SWP_NOACTIVATE);
+  on_size();
+}
+
+void FormWindow::on_size() {
+  RECT area{};
+  if (IsIconic(window()) != 0 || GetClientRect(window(), &area) == 0) return;
+  growth_ = {};
+  if (form_.resizable()) {
+    const SIZE designed = outer_size();
+    const SIZE around = border();
+    growth_ = {static_cast<int>(area.right + around.cx - designed.cx),
+               static_cast<int>(area.bottom + around.cy - designed.cy)};
+  }
+  for (const auto& control : controls_) control->refresh(Aspect::kPlace);
+}
+
+void FormWindow::on_move() {
+  RECT place{};
+  if (!ready_ || IsIconic(window()) != 0 || IsZoomed(window()) != 0) return;
+  if (GetWindowRect(window(), &place) == 0) return;
+  const auto system = static_cast<int>(GetDpiForSystem());
+  form_.take_user_position(twips_of(static_cast<int>(place.left), system),
+                           twips_of(static_cast<int>(place.top), system));
+}
+
+void FormWindow::limit_size(MINMAXINFO& limits) const {
+  if (!form_.resizable() || !fonts_) return;
+  const SIZE least = outer_size();
+  limits.ptMinTrackSize = {least.cx, least.cy};
+}
+
+}  // namespace quenda

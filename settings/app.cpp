@@ -1,0 +1,64 @@
+#include "settings/app.h"
+
+#include <utility>
+
+#include "platform/system.h"
+#include "support/modAPI_FileOpenDlg.h"
+#include "support/modPrivateDummy.h"
+#include "text/text.h"
+
+namespace quenda {
+
+App::App(const Machine& services)
+    : machine(services),
+      errors(environment, machine.files, machine.clock),
+      ini(errors, machine.files, paths),
+      language(errors, machine.files, machine.clock, ini) {
+  errors.look_up_text = [this](std::string_view key, std::string_view german) {
+    return language.LoadLangKey(key, german);
+  };
+  errors.show_message = [this](std::string_view text, MessageStyle style, std::string_view title) {
+    modPrivateDummy::MsgBoxForward(errors, machine.dialogs, machine.system, text, style, title);
+  };
+}
+
+bool App::start() {
+  environment.program_code = "IMP";
+  if (machine.system.previous_instance()) return false;
+  paths.program_folder = machine.system.program_folder();
+  if (!LoadSavePaths(errors, ini, machine.files, machine.system, paths, specs)) return false;
+  environment.main_folder = paths.data_root;
+  apply_switches(specs, environment);
+
+  language.LanguageInit("");
+  load_shared_texts(language, shared_texts);
+  if (machine.system.command_line().find("/i") != std::string::npos) return true;
+  load_shared_texts(language, shared_texts);
+  message_box(
+      concat(text("Import_Msg_DirectCallNotProvided"), kCrLf, text("Import_Msg_UseMenuInBook")),
+      MessageStyle::kInformation);
+  return false;
+}
+
+MessageAnswer App::message_box(std::string_view text, MessageStyle style) {
+  return modPrivateDummy::MsgBoxForward(errors, machine.dialogs, machine.system, text, style, "");
+}
+
+std::string App::open_file(std::string_view filter_key) {
+  ChosenFile chosen = modAPI_FileOpenDlg::FileOpenDialog(
+      errors, machine.dialogs, filter_key,
+      {shared_texts.String_FilesAll, shared_texts.String_Pictures});
+  if (!chosen.unusable.empty()) refuse_path(chosen.unusable);
+  return std::move(chosen.path);
+}
+
+void App::refuse_path(std::string_view nearest) {
+  message_box(concat(nearest, kCrLf, text("Import_Info_ImportNotAvailable")),
+              MessageStyle::kInformation);
+}
+
+std::string App::version() const {
+  return concat(std::to_string(environment.major), ".", std::to_string(environment.minor));
+}
+
+}  // namespace quenda

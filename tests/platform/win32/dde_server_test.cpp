@@ -1,0 +1,216 @@
+// The host link with real hosts: each runs in a thread of its own with its own message loop, as
+// the phone book does in its process.
+#include "platform/win32/dde_server.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <functional>
+#include <mutex>
+#include <thread>
+
+#include "platform/win32/com/busy_filter.h"
+#include "platform/win32/handles.h"
+#include "platform/win32/text_win32.h"
+
+namespace quenda {
+namespace {
+
+using testing::ElementsAre;
+
+/// What a host has heard, in its order.
+class Heard {
+ public:
+  void add(std::string text) {
+    const std::lock_guard lock(mutex_);
+    texts_.push_back(std::move(text));
+  }
+  std::vector<std::string> all() {
+    const std::lock_guard lock(mutex_);
+    return texts_;
+  }
+
+ private:
+  std::mutex mutex_;
+  std::vector<std::string> texts_;
+};
+
+thread_local Heard* heard_here = nullptr;
+
+HDDEDATA CALLBACK host_callback(UINT type, UINT format, HCONV, HSZ, HSZ, HDDEDATA data, ULONG_PTR,
+                                ULONG_PTR) {
+  if (type == XTYP_DISCONNECT) heard_here->add("(end)");
+  if (type != XTYP_ADVDATA) return nullptr;
+  if (data == nullptr) {
+    heard_here->add("(news)");
+    return from_lparam<HDDEDATA__>(DDE_FACK);
+  }
+  wchar_t units[40] = {};
+  DdeGetData(data, from_lparam<BYTE>(as_lparam(units)), sizeof units - 2, 0);
+  heard_here->add(format == CF_TEXT ? std::string(from_lparam<char>(as_lparam(units)))
+                                    : nearest_1252(units));
+  return from_lparam<HDDEDATA__>(DDE_FACK);
+}
+
+/// A phone book that connects, watches the item in one form or several, and listens until told to
+/// leave. A warm one is told that there is news, and asks for it when it likes.
+class Host {
+ public:
+  enum class Watch { kHot, kWarm, kHotAfterAsking };
+  Host(MessageLoop& tool, const std::string& topic, const std::vector<UINT>& formats,
+       Watch watch = Watch::kHot)
+      : tool_(tool), thread_([=, this] { run(topic, formats, watch); }) {}
+  Host(MessageLoop& tool, const std::string& topic, UINT format)
+      : Host(tool, topic, std::vector<UINT>{format}) {}
+  ~Host() { leave(); }
+  Host(const Host&) = delete;
+  Host& operator=(const Host&) = delete;
+
+  /// The tool goes on meanwhile, since it has to agree to the end.
+  void leave() {
+    stop_ = true;
+    while (!gone_) {
+      tool_.pump();
+      Sleep(1);
+    }
+    if (thread_.joinable()) thread_.join();
+  }
+  std::vector<std::string> heard() { return heard_.all(); }
+  [[nodiscard]] bool refused() const { return refused_; }
+
+ private:
+  void run(const std::string& topic, const std::vector<UINT>& formats, Watch watch) {
+    heard_here = &heard_;
+    DWORD instance = 0;
+    DdeInitializeW(&instance, &host_callback, APPCMD_CLIENTONLY, 0);
+    const auto name = [&](std::string_view text) {
+      return DdeCreateStringHandleW(instance, wide(text).c_str(), CP_WINUNICODE);
+    };
+    const HCONV link = DdeConnect(instance, name("Import"), name(topic), nullptr);
+    refused_ = link == nullptr;
+    const UINT start = XTYP_ADVSTART | (watch == Watch::kWarm ? XTYPF_NODATA : 0);
+    for (const UINT format : formats) {
+      if (refused_) break;
+      if (watch == Watch::kHotAfterAsking) {
+        DdeFreeDataHandle(DdeClientTransaction(nullptr, 0, link, name("txtDDE"), format,
+                                               XTYP_REQUEST, 3000, nullptr));
+      }
+      DdeClientTransaction(nullptr, 0, link, name("txtDDE"), format, start, 3000, nullptr);
+    }
+    while (!stop_ && !refused_) {
+      MSG message{};
+      while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != 0) DispatchMessageW(&message);
+      Sleep(1);
+    }
+    if (!refused_) DdeDisconnect(link);
+    DdeUninitialize(instance);
+    gone_ = true;
+  }
+
+  MessageLoop& tool_;
+  Heard heard_;
+  std::atomic<bool> stop_ = false;
+  std::atomic<bool> gone_ = false;
+  std::atomic<bool> refused_ = false;
+  std::thread thread_;
+};
+
+class DdeServerTest : public testing::Test {
+ protected:
+  DdeServerTest() {
+    server_.offer("book", "txtDDE",
+                  {[this] {
+                     ++opened_;
+                     server_.set_text("ON");
+                   },
+                   [this] { ++closed_; }, [this] { ++failed_; }});
+  }
+
+  /// Handles messages until the condition holds, for so many milliseconds at most.
+  bool becomes(const std::function<bool()>& condition, ULONGLONG patience = 3000) {
+    const ULONGLONG end = GetTickCount64() + patience;
+    while (!condition() && GetTickCount64() < end) {
+      loop_.pump();
+      Sleep(1);
+    }
+    return condition();
+  }
+  bool hears(Host& host, const std::string& text) {
+    return becomes([&] {
+      const auto all = host.heard();
+      return !all.empty() && all.back() == text;
+    });
+  }
+
+  MessageLoop loop_;
+  DdeServer server_{loop_, "Import"};
+  int opened_ = 0;
+  int closed_ = 0;
+  int failed_ = 0;
+};
+
+TEST_F(DdeServerTest, EveryHostHearsEachTextOnceInEitherForm) {
+  Host first(loop_, "book", CF_TEXT);
+  ASSERT_TRUE(hears(first, "ON"));
+  Host second(loop_, "BOOK", CF_UNICODETEXT);
+  ASSERT_TRUE(hears(second, "ON"));
+  server_.set_text("data");
+  EXPECT_TRUE(hears(first, "data") && hears(second, "data"));
+  EXPECT_THAT(first.heard(), ElementsAre("ON", "data"));
+  EXPECT_THAT(second.heard(), ElementsAre("ON", "data"));
+  EXPECT_EQ(opened_, 2);
+}
+
+TEST_F(DdeServerTest, AHostThatWatchesInBothFormsHearsBoth) {
+  Host host(loop_, "book", {CF_TEXT, CF_UNICODETEXT});
+  ASSERT_TRUE(becomes([&] { return host.heard().size() == 2; }));
+  server_.set_text("data");
+  EXPECT_TRUE(becomes([&] { return host.heard().size() == 4; }));
+  EXPECT_THAT(host.heard(), ElementsAre("ON", "ON", "data", "data"));
+}
+
+TEST_F(DdeServerTest, AHostThatHasAskedBeforeIsToldThePresentTextAllTheSame) {
+  Host host(loop_, "book", {CF_TEXT}, Host::Watch::kHotAfterAsking);
+  EXPECT_TRUE(hears(host, "ON"));
+}
+
+TEST_F(DdeServerTest, AHostCanConnectWhileAnotherProgramKeepsTheToolWaiting) {
+  const ApartmentScope apartment;
+  BusyFilter filter;
+  Host host(loop_, "book", CF_TEXT);
+  const ULONGLONG end = GetTickCount64() + 3000;
+  while (host.heard().empty() && GetTickCount64() < end) {
+    filter.MessagePending(nullptr, 0, PENDINGTYPE_TOPLEVEL);
+    Sleep(1);
+  }
+  EXPECT_THAT(host.heard(), ElementsAre("ON"));
+}
+
+TEST_F(DdeServerTest, AHostThatOnlyWantsToKnowOfNewsIsToldOfEachOnce) {
+  Host host(loop_, "book", {CF_TEXT}, Host::Watch::kWarm);
+  ASSERT_TRUE(hears(host, "(news)"));
+  EXPECT_FALSE(becomes([&] { return host.heard().size() > 1; }, 2200)) << "there are no news";
+  server_.set_text("data");
+  EXPECT_TRUE(becomes([&] { return host.heard().size() == 2; }));
+}
+
+TEST_F(DdeServerTest, TheLinkIsClosedWhenTheLastHostHasLeft) {
+  Host first(loop_, "book", CF_TEXT);
+  Host second(loop_, "book", CF_TEXT);
+  ASSERT_TRUE(hears(first, "ON") && hears(second, "ON"));
+  first.leave();
+  EXPECT_FALSE(becomes([&] { return closed_ > 0; }, 300)) << "one still listens";
+  second.leave();
+  EXPECT_TRUE(becomes([&] { return closed_ == 1; }));
+  EXPECT_EQ(failed_, 0);
+}
+
+TEST_F(DdeServerTest, AnotherTopicIsRefused) {
+  Host stranger(loop_, "journal", CF_TEXT);
+  EXPECT_TRUE(becomes([&] { return stranger.refused(); }));
+  EXPECT_EQ(opened_, 0);
+}
+
+}  // namespace
+}  // namespace quenda

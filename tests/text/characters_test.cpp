@@ -1,0 +1,103 @@
+#include "text/characters.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "text/view_index.h"
+
+namespace quenda {
+namespace {
+
+TEST(StripCharacters, ReplacesEachCharacterAndJoinsPoints) {
+  EXPECT_EQ(strip_characters("0049 (30) 12-34", " -()", ""), "0049301234");
+  EXPECT_EQ(strip_characters("a-b/c", "-/", "."), "a.b.c");
+  EXPECT_EQ(strip_characters("a--b....c", "-", "."), "a.b.c");
+  EXPECT_EQ(strip_characters("..", "x", "y"), ".");
+  EXPECT_EQ(strip_characters("", "x", "y"), "");
+  EXPECT_EQ(strip_characters("abc", "", "y"), "abc");
+}
+
+TEST(StripCharacters, ReplacementIsTextForTheCharactersThatFollow) {
+  EXPECT_EQ(strip_characters("a1", "ab", "b-"), "b--1");
+}
+
+TEST(CountOccurrences, CountsOverlapsAndTakesLineBreaksByTheirCr) {
+  EXPECT_EQ(count_occurrences("aaaa", "aa"), 3U);
+  EXPECT_EQ(count_occurrences("a;b;;c", ";"), 3U);
+  EXPECT_EQ(count_occurrences("1\r\n2\r3\n", "\r\n"), 2U);
+  EXPECT_EQ(count_occurrences("abc", "abcd"), 0U);
+  EXPECT_EQ(count_occurrences("abc", ""), 3U);
+}
+
+TEST(FilterKey, LetsTheKeysOfItsModeThrough) {
+  // Of all keys from 1 to 255 those that come through as they are.
+  const std::pair<std::string_view, std::string> cases[] = {{"date", "\b .0123456789"},
+                                                            {"num", "\b0123456789"},
+                                                            {"numCR", "\b\r\0330123456789"},
+                                                            {"numCRwc", "\b\r\033*0123456789?"},
+                                                            {"numTel", "\b\r\033+0123456789"}};
+  for (const auto& [mode, keys] : cases) {
+    std::string passed;
+    for (std::int16_t key = 1; key < 256; ++key) {
+      if (filter_key(key, mode) == key) passed += static_cast<char>(key);
+    }
+    EXPECT_EQ(passed, keys) << mode;
+  }
+}
+
+TEST(FilterKey, ChangesSeparators) {
+  EXPECT_EQ(filter_key(';', "noSem"), ',');
+  EXPECT_EQ(filter_key(',', "date"), '.');
+  EXPECT_EQ(filter_key(0xFC, "noSem"), 0xFC);
+  EXPECT_EQ(filter_key(';', "whatever"), ';');
+  EXPECT_EQ(filter_key('x', "Num"), 'x') << "modes are told apart by letter case";
+}
+
+std::vector<std::string> without_repeats(const std::vector<std::string>& lines) {
+  TextRows rows;
+  for (const auto& line : lines) rows.add_row(line);
+  remove_repeated_lines(rows);
+  std::vector<std::string> result;
+  for (std::size_t i = 0; i < rows.size(); ++i) result.emplace_back(rows[i]);
+  return result;
+}
+
+TEST(RemoveRepeatedLines, KeepsTheFirstOfEachInOrder) {
+  using Lines = std::vector<std::string>;
+  EXPECT_EQ(without_repeats({"b", "a", "", "b", "B", "a ", "a"}), (Lines{"b", "a", "B", "a "}));
+  EXPECT_EQ(without_repeats({"", ""}), Lines{});
+  EXPECT_EQ(without_repeats({}), Lines{});
+}
+
+TEST(RemoveRepeatedLines, FindsRepeatsAmongManyLinesOfAllLengths) {
+  TextRows rows;
+  for (int round = 0; round < 3; ++round) {
+    for (int i = 0; i < 5000; ++i)
+      rows.add_row(std::string(static_cast<std::size_t>(i) % 40, 'x') + std::to_string(i));
+  }
+  remove_repeated_lines(rows);
+  ASSERT_EQ(rows.size(), 5000U);
+  EXPECT_EQ(rows[4999], std::string(39, 'x') + "4999");
+  EXPECT_EQ(rows[1], "x1");
+}
+
+TEST(ViewIndex, GrowsFindsAndReplaces) {
+  std::vector<std::string> keys;
+  const auto key_of = [&](std::uint32_t row) { return std::string_view(keys[row]); };
+  ViewIndex index;
+  for (std::uint32_t i = 0; i < 1000; ++i) {
+    keys.push_back("key" + std::to_string(i));
+    EXPECT_EQ(index.find_or_add(keys.back(), i, key_of), ViewIndex::kNone);
+  }
+  EXPECT_EQ(index.find("key777", key_of), 777U);
+  EXPECT_EQ(index.find("key1000", key_of), ViewIndex::kNone);
+  keys.emplace_back("key5");
+  index.replace("key5", 1000, key_of);
+  EXPECT_EQ(index.find_or_add("key5", 1, key_of), 1000U);
+}
+
+}  // namespace
+}  // namespace quenda

@@ -1,0 +1,115 @@
+#include "text/characters.h"
+
+#include <algorithm>
+#include <array>
+#include <vector>
+
+#include "text/text.h"
+#include "text/view_index.h"
+
+namespace quenda {
+namespace {
+
+constexpr std::int16_t kBackspace = 8;
+constexpr std::int16_t kEnter = 13;
+constexpr std::int16_t kEscape = 27;
+
+/// Keys of a mode that are let through besides the digits.
+struct KeyMode {
+  std::string_view mode;
+  std::string_view others;
+};
+
+constexpr std::string_view kEditKeys = "\x08\x1B\x0D";
+constexpr std::array kKeyModes = {
+    KeyMode{"date", "\x08 ."},          KeyMode{"num", "\x08"},
+    KeyMode{"numCR", kEditKeys},        KeyMode{"numCRwc", "\x08\x1B\x0D*?"},
+    KeyMode{"numTel", "\x08\x1B\x0D+"},
+};
+static_assert(kEditKeys[0] == kBackspace && kEditKeys[1] == kEscape && kEditKeys[2] == kEnter);
+
+std::string replace_each(std::string_view text, std::string_view characters,
+                         std::string_view replacement) {
+  std::string result(text);
+  if (replacement.find_first_of(characters) != replacement.npos) {
+    // One character after the other: the replacement of one is text for those that follow.
+    for (const char c : characters) result = replace_all(result, {&c, 1}, replacement);
+    return result;
+  }
+  std::array<bool, 256> listed{};
+  for (const char c : characters) listed[static_cast<unsigned char>(c)] = true;
+  const auto is_listed = [&](char c) { return listed[static_cast<unsigned char>(c)]; };
+  const auto first = std::find_if(result.begin(), result.end(), is_listed);
+  if (first == result.end()) return result;
+  std::size_t at = static_cast<std::size_t>(first - result.begin());
+  result.resize(at);
+  for (; at < text.size(); ++at) {
+    if (is_listed(text[at])) {
+      result += replacement;
+    } else {
+      result += text[at];
+    }
+  }
+  return result;
+}
+
+}  // namespace
+
+std::string strip_characters(std::string_view text, std::string_view characters,
+                             std::string_view replacement) {
+  std::string result = replace_each(text, characters, replacement);
+  std::size_t double_point = result.find("..");
+  if (double_point == result.npos) return result;
+  std::size_t written = double_point;
+  for (std::size_t i = double_point; i < result.size(); ++i) {
+    if (result[i] == '.' && written > 0 && result[written - 1] == '.') continue;
+    result[written++] = result[i];
+  }
+  result.resize(written);
+  return result;
+}
+
+std::size_t count_occurrences(std::string_view text, std::string_view part) {
+  if (part == kCrLf) part = part.substr(0, 1);
+  if (part.size() == 1) return count_of(text, part.front());
+  if (part.empty()) return text.size();
+  std::size_t count = 0;
+  for (auto at = text.find(part); at != text.npos; at = text.find(part, at + 1)) ++count;
+  return count;
+}
+
+std::int16_t filter_key(std::int16_t code, std::string_view mode) {
+  if (mode == "noSem") return code == ';' ? std::int16_t{','} : code;
+  for (const KeyMode& entry : kKeyModes) {
+    if (entry.mode != mode) continue;
+    if (mode == "date" && code == ',') return '.';
+    if (code < 0 || code > 0x7F) return 0;
+    const char key = static_cast<char>(code);
+    return is_digit(key) || (code != 0 && entry.others.find(key) != entry.others.npos)
+               ? code
+               : std::int16_t{0};
+  }
+  return code;
+}
+
+void remove_repeated_lines(TextRows& lines, const std::function<void()>& pause) {
+  constexpr std::size_t kAhead = 12;
+  constexpr std::size_t kLinesPerPause = 4096;
+  std::vector<std::uint64_t> hashes(lines.size());
+  for (std::size_t i = 0; i < hashes.size(); ++i) {
+    if (i % kLinesPerPause == 0) pause();
+    hashes[i] = hash_of(lines[i]);
+  }
+  ViewIndex kept(lines.size());
+  const auto kept_line = [&](std::uint32_t row) { return lines[row]; };
+  std::size_t at = 0;
+  lines.keep_rows([&](std::string_view line, std::size_t position) {
+    if (at % kLinesPerPause == 0) pause();
+    if (at + kAhead < hashes.size()) kept.announce(hashes[at + kAhead]);
+    const std::uint64_t hash = hashes[at++];
+    return !line.empty() && kept.find_or_add(line, hash, static_cast<std::uint32_t>(position),
+                                             kept_line) == ViewIndex::kNone;
+  });
+}
+
+}  // namespace quenda

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "text/text_rows.h"
+
+namespace quenda {
+
+/// The text with each of the characters replaced by the replacement. Afterwards ".." becomes "."
+/// until none is left, wherever the points come from.
+std::string strip_characters(std::string_view text, std::string_view characters,
+                             std::string_view replacement);
+
+/// At how many positions of the text the part begins; overlapping occurrences count. Line breaks
+/// (CR LF as part) are counted by their CR alone.
+std::size_t count_occurrences(std::string_view text, std::string_view part);
+
+/// What a typed key (Windows-1252 code) puts into a field, 0 for nothing. Modes: "noSem" turns ";"
+/// into ",", "date", "num", "numCR", "numCRwc", "numTel" let digits and a few more through; any
+/// other mode lets everything pass.
+std::int16_t filter_key(std::int16_t code, std::string_view mode);
+
+/// Drops empty lines and lines that are there already, letter for letter. The first one stays.
+/// `pause` is called every few thousand lines.
+void remove_repeated_lines(
+    TextRows& lines, const std::function<void()>& pause = [] {});
+
+}  // namespace quenda
