@@ -152,7 +152,7 @@ class fMain : public Form {
   // Values that forms and programs share.
   ImportSource source;
   WizardState wizard;
-  MergeState merge;
+  MergeMode merge_mode = MergeMode::kAsk;
   MainTexts texts;
   /// The entry being edited in fImportItemEdit; row -1 means none.
   struct EditedItem {
@@ -269,11 +269,12 @@ class fMain : public Form {
   [[nodiscard]] std::vector<std::string> address_names(std::size_t address) const;
   void refresh_bound_addresses();
   [[nodiscard]] Composition composition() const;
-  void merge_into_book(std::string& book_text, std::string_view& line);
+  /// Whether the merge came to its end; otherwise the user has been told why not.
+  bool merge_into_book(std::string& book_text, std::string_view& line);
   void read_book(std::string_view text, std::vector<BookEntry>& entries, std::string_view& line);
   void append_new_entries(std::vector<BookEntry>& entries);
-  void ask_about_double(std::string_view number, const std::string& existing,
-                        const std::string& fresh);
+  DoubleAnswer ask_about_double(std::string_view number, const std::string& existing,
+                                const std::string& fresh);
 
   App& app_;
   modOutlook outlook_;

@@ -121,7 +121,7 @@ void fMain::cmdDel_Click() {
 
 void fMain::optAsk_Click(int index) {
   procedure(app_.errors, "fMain.optAsk_Click", {index},
-            [&] { merge.mode = static_cast<MergeMode>(index); });
+            [&] { merge_mode = static_cast<MergeMode>(index); });
 }
 
 }  // namespace quenda

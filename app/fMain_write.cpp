@@ -1,3 +1,4 @@
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,6 +13,7 @@
 #include "platform/files.h"
 #include "settings/app.h"
 #include "support/procedure.h"
+#include "text/fault.h"
 #include "text/text.h"
 
 namespace quenda {
@@ -19,9 +21,10 @@ namespace quenda {
 void fMain::Add() {
   std::string book_text;
   std::string_view line;  // the line of the book that is being read, for the report of a fault
+  bool merged = false;
   const bool done = procedure_with_message(app_.errors, "fMain.Add", {}, line,
-                                           [&] { merge_into_book(book_text, line); });
-  if (!done) return;
+                                           [&] { merged = merge_into_book(book_text, line); });
+  if (!done || !merged) return;
   if (!wizard.link_open) {
     app_.message_box(concat(texts.dde_not_connected, kCrLf, texts.refresh_info),
                      MessageStyle::kInformation);
@@ -29,7 +32,7 @@ void fMain::Add() {
   unload();
 }
 
-void fMain::merge_into_book(std::string& book_text, std::string_view& line) {
+bool fMain::merge_into_book(std::string& book_text, std::string_view& line) {
   BusyWork busy(*this);
   const std::string path = concat(app_.paths.book_folder, "Quendabook.txt");
   std::vector<BookEntry> entries;
@@ -42,23 +45,25 @@ void fMain::merge_into_book(std::string& book_text, std::string_view& line) {
 
   StatusBar.set_panel(2, texts.filter_data);
   append_new_entries(entries);
-  const std::size_t kept = modImport::RemoveDoubleEntriesTypedImportArray(
-      app_.errors, entries, merge,
+  const std::optional<std::size_t> kept = modImport::RemoveDoubleEntriesTypedImportArray(
+      app_.errors, entries, merge_mode,
       [this](std::string_view number, const std::string& existing, const std::string& fresh) {
-        ask_about_double(number, existing, fresh);
+        return ask_about_double(number, existing, fresh);
       },
       busy.on_step());
+  if (!kept) return false;
 
   // Entries that a replacement left without number count as kept, and doubles that the book itself
   // held count against the new entries: as many new ones as such doubles are not written.
-  if (in_book >= kept) {
+  if (in_book >= *kept) {
     txtDDE.set_text("nodata");
-    return;
+    return true;
   }
   StatusBar.set_panel(2, texts.write_book);
   const BookChange change = compose_book(book_text, entries, busy.on_step());
   app_.machine.files.replace_tail(path, change.keep, change.tail);
   txtDDE.set_text("data");
+  return true;
 }
 
 void fMain::read_book(std::string_view text, std::vector<BookEntry>& entries,
@@ -88,12 +93,16 @@ void fMain::append_new_entries(std::vector<BookEntry>& entries) {
   }
 }
 
-void fMain::ask_about_double(std::string_view number, const std::string& existing,
-                             const std::string& fresh) {
-  fImportMsg dialog(app_, *this);
+DoubleAnswer fMain::ask_about_double(std::string_view number, const std::string& existing,
+                                     const std::string& fresh) {
+  fImportMsg dialog(app_);
   dialog.fill(number, existing, fresh);
   app_.machine.events.show_modal(dialog, *this);
   if (wizard.abort) throw EndProgram();
+  // Nothing is guessed for the user when the dialog could not be answered.
+  if (!dialog.answer) raise_fault(kFaultInvalidCall);
+  optAsk(static_cast<int>(mode_after(*dialog.answer))).choose();
+  return *dialog.answer;
 }
 
 }  // namespace quenda

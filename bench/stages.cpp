@@ -119,7 +119,7 @@ void RemoveDoubles(benchmark::State& state) {
   for ([[maybe_unused]] auto round : state) {
     std::vector<BookEntry> entries = twice;
     benchmark::DoNotOptimize(
-        remove_double_entries(entries, {MergeMode::kKeepExisting, false}, {}, kNoStep));
+        remove_double_entries(entries, MergeMode::kKeepExisting, {}, kNoStep));
   }
 }
 BENCHMARK(RemoveDoubles)->Unit(benchmark::kMillisecond);

@@ -49,15 +49,35 @@ class HashesAhead {
   std::size_t used_ = 0;
 };
 
+/// Decides which of two entries with one number stays.
+class DoubleDecision {
+ public:
+  DoubleDecision(MergeMode mode, const AskAboutDouble& ask) : mode_(mode), ask_(ask) {}
+
+  /// A nameless entry gives way without a question.
+  bool takes_new(const BookEntry& existing, const BookEntry& fresh) {
+    if (existing.Name.empty()) return true;
+    if (mode_ != MergeMode::kAsk) return mode_ == MergeMode::kTakeNew;
+    const DoubleAnswer answer = ask_(existing.Number, in_words(existing), in_words(fresh));
+    mode_ = mode_after(answer);
+    return answer.take_new;
+  }
+
+ private:
+  MergeMode mode_;
+  const AskAboutDouble& ask_;
+};
+
 }  // namespace
 
-std::size_t remove_double_entries(std::vector<BookEntry>& entries, const MergeState& state,
+std::size_t remove_double_entries(std::vector<BookEntry>& entries, MergeMode mode,
                                   const AskAboutDouble& ask,
                                   const std::function<void(std::size_t, std::size_t)>& on_step) {
   const std::size_t total = entries.size();
   const auto number_of = [&](std::uint32_t row) { return entries[row].Number; };
   ViewIndex by_number(total);
   HashesAhead hashes(entries, by_number);
+  DoubleDecision decision(mode, ask);
   std::size_t kept = 0;
   // The list is packed in place: what is kept never overtakes what is read.
   const auto keep = [&](const BookEntry& entry) { entries[kept++] = entry; };
@@ -76,10 +96,7 @@ std::size_t remove_double_entries(std::vector<BookEntry>& entries, const MergeSt
     }
     BookEntry& existing = entries[found];
     if (same_contact(existing, fresh)) continue;
-    if (!existing.Name.empty()) {
-      if (state.mode == MergeMode::kAsk) ask(existing.Number, in_words(existing), in_words(fresh));
-      if (state.mode != MergeMode::kTakeNew && !state.replace) continue;
-    }
+    if (!decision.takes_new(existing, fresh)) continue;
     fresh.Tag = existing.Tag;
     fresh.Count = existing.Count;
     by_number.replace(fresh.Number, next, number_of);

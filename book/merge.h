@@ -14,27 +14,32 @@ namespace quenda {
 /// of the options on the last page.
 enum class MergeMode : int { kAsk = 0, kTakeNew = 1, kKeepExisting = 2 };
 
-/// The user's answers so far. `replace` is the last answer to a question and outlives it: as long
-/// as it says so, a double replaces the existing entry in every mode.
-struct MergeState {
-  MergeMode mode = MergeMode::kAsk;
-  bool replace = false;
+/// The user's answer to the question about one double.
+struct DoubleAnswer {
+  bool take_new = false;
+  bool for_all = false;  // the answer goes for all doubles that follow, too
 };
 
+/// The mode that an answer leaves behind: asking again, unless the answer goes for all.
+constexpr MergeMode mode_after(const DoubleAnswer& answer) {
+  if (!answer.for_all) return MergeMode::kAsk;
+  return answer.take_new ? MergeMode::kTakeNew : MergeMode::kKeepExisting;
+}
+
 /// Asks the user about a number that is there already: the number, then the existing and the new
-/// entry in words. The answer goes into the MergeState that the removal works with.
-using AskAboutDouble = std::function<void(std::string_view number, const std::string& existing,
-                                          const std::string& fresh)>;
+/// entry in words.
+using AskAboutDouble = std::function<DoubleAnswer(
+    std::string_view number, const std::string& existing, const std::string& fresh)>;
 
 /// Removes doubles by telephone number (compared as exact texts) from a list in which the book's
 /// entries stand before the new ones; the earlier entry counts as the existing one, inside the book
 /// too. Equal names and addresses (letter case aside) make an exact double, which is dropped. A
 /// replacing entry moves to the end of the list, takes over `Tag` and `Count`, and leaves the
 /// replaced one behind without number. Entries without a number are dropped. Returns how many
-/// entries the list keeps, those without number by replacement included. `on_step` is told after
-/// each entry.
+/// entries the list keeps, those without number by replacement included. `mode` is where the run
+/// starts; answers for all change it for the rest of the run. `on_step` is told after each entry.
 std::size_t remove_double_entries(
-    std::vector<BookEntry>& entries, const MergeState& state, const AskAboutDouble& ask,
+    std::vector<BookEntry>& entries, MergeMode mode, const AskAboutDouble& ask,
     const std::function<void(std::size_t done, std::size_t total)>& on_step);
 
 }  // namespace quenda

@@ -1,6 +1,5 @@
 #include "book/pages/fImportMsg.h"
 
-#include "app/fMain.h"
 #include "settings/app.h"
 #include "support/procedure.h"
 #include "text/text.h"
@@ -23,7 +22,7 @@ constexpr DesignEntry kDesign[] = {
 
 }  // namespace
 
-fImportMsg::fImportMsg(App& app, fMain& main) : Form("fImportMsg"), app_(app), main_(main) {
+fImportMsg::fImportMsg(App& app) : Form("fImportMsg"), app_(app) {
   design();
   connect();
   Language();
@@ -60,11 +59,7 @@ void fImportMsg::fill(std::string_view number, std::string_view existing, std::s
 
 void fImportMsg::cmdMsg_Click(int index) {
   procedure(app_.errors, "fImportMsg.cmdMsg_Click", {index}, [&] {
-    const bool take_new = index == 1;
-    const auto for_all = take_new ? MergeMode::kTakeNew : MergeMode::kKeepExisting;
-    const auto mode = optAsk(1).chosen() ? for_all : MergeMode::kAsk;
-    main_.optAsk(static_cast<int>(mode)).choose();
-    main_.merge.replace = take_new;
+    answer = DoubleAnswer{.take_new = index == 1, .for_all = optAsk(1).chosen()};
     unload();
   });
 }

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <optional>
 #include <string_view>
 
+#include "book/merge.h"
 #include "platform/controls/control_array.h"
 #include "platform/controls/form.h"
 #include "platform/controls/simple_controls.h"
@@ -9,12 +11,14 @@
 namespace quenda {
 
 struct App;
-class fMain;
 
 /// Asks what happens to a number that the book has under another name or address.
 class fImportMsg : public Form {
  public:
-  fImportMsg(App& app, fMain& main);
+  explicit fImportMsg(App& app);
+
+  /// What the user has decided; nothing while the question stands.
+  std::optional<DoubleAnswer> answer;
 
   /// The number, and the existing and the new entry in words.
   void fill(std::string_view number, std::string_view existing, std::string_view fresh);
@@ -37,7 +41,6 @@ class fImportMsg : public Form {
   void connect();
 
   App& app_;
-  fMain& main_;
 };
 
 }  // namespace quenda

@@ -4,13 +4,14 @@
 
 namespace quenda::modImport {
 
-std::size_t RemoveDoubleEntriesTypedImportArray(
-    clsErrorHandling& errors, std::vector<BookEntry>& entries, const MergeState& state,
+std::optional<std::size_t> RemoveDoubleEntriesTypedImportArray(
+    clsErrorHandling& errors, std::vector<BookEntry>& entries, MergeMode mode,
     const AskAboutDouble& ask, const std::function<void(std::size_t, std::size_t)>& on_step) {
-  std::size_t kept = 0;
-  procedure(errors, "modImport.RemoveDoubleEntriesTypedImportArray", {},
-            [&] { kept = remove_double_entries(entries, state, ask, on_step); });
-  return kept;
+  std::optional<std::size_t> kept;
+  const bool done =
+      procedure_with_message(errors, "modImport.RemoveDoubleEntriesTypedImportArray", {}, {},
+                             [&] { kept = remove_double_entries(entries, mode, ask, on_step); });
+  return done ? kept : std::nullopt;
 }
 
 }  // namespace quenda::modImport

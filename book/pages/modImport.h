@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include "book/merge.h"
@@ -10,9 +11,10 @@
 namespace quenda::modImport {
 
 /// Removes doubles from the working list under the guard of the error service; see
-/// `remove_double_entries`. Returns the number of entries kept, 0 after a fault.
-std::size_t RemoveDoubleEntriesTypedImportArray(
-    clsErrorHandling& errors, std::vector<BookEntry>& entries, const MergeState& state,
+/// `remove_double_entries`. Returns the number of entries kept; nothing after a fault, which the
+/// user has then been shown, and which leaves the list of no use.
+[[nodiscard]] std::optional<std::size_t> RemoveDoubleEntriesTypedImportArray(
+    clsErrorHandling& errors, std::vector<BookEntry>& entries, MergeMode mode,
     const AskAboutDouble& ask,
     const std::function<void(std::size_t done, std::size_t total)>& on_step);
 

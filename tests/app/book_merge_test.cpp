@@ -62,6 +62,36 @@ TEST_F(LastPage, AsksAboutADoubleAndRefusesToBeClosedWithoutAnAnswer) {
   EXPECT_EQ(book(), "Neu;030123456;x;0;5;0;;;[vcd()vcd]\r\n" + line("Huber", "0897654321"));
 }
 
+TEST_F(LastPage, AnswerOfAFailedTryDoesNotDecideTheNextOne) {
+  machine.files.put(kBookPath, kOldLine);
+  enter();
+  int questions = 0;
+  machine.events.on_modal = [&](Form& shown) {
+    ++questions;
+    dynamic_cast<fImportMsg&>(shown).cmdMsg(1).take_user_click();
+  };
+  machine.files.refuse_writing(kBookPath, kFaultDiskFull);
+  forward();
+  EXPECT_EQ(questions, 1);
+  EXPECT_EQ(book(), kOldLine);
+  machine.files.put(kBookPath, kOldLine);
+  machine.files.refuse_writing(kBookPath, 0);
+  back();
+  form->optAsk(2).take_user_click();
+  finish();
+  EXPECT_EQ(book(), std::string(kOldLine) + line("Huber", "0897654321"));
+}
+
+TEST_F(LastPage, UnansweredQuestionIsAFaultThatLeavesTheBookAlone) {
+  machine.files.put(kBookPath, kOldLine);
+  enter();
+  forward();
+  EXPECT_EQ(last_box(), "Es ist ein Fehler aufgetreten!\r\nsiehe Datei: \\log\\error.log");
+  EXPECT_EQ(form->wizard.CurrentPage, kWritePage);
+  EXPECT_EQ(book(), kOldLine);
+  EXPECT_EQ(machine.host_link.texts, Texts{"ON"});
+}
+
 TEST_F(LastPage, DoublesInsideTheBookCountAgainstNewEntries) {
   // Three lines, of which two are doubles: with two new entries no more are kept than were read.
   machine.files.put(kBookPath, line("A", "1") + line("a", "1") + line("A", "1"));

@@ -22,11 +22,10 @@ class RemoveDoubleEntries : public testing::Test {
   std::size_t remove(std::vector<BookEntry> entries) {
     entries_ = std::move(entries);
     return remove_double_entries(
-        entries_, state_,
+        entries_, mode_,
         [this](std::string_view number, const std::string& existing, const std::string& fresh) {
           questions_.push_back(std::string(number) + ": " + existing + " / " + fresh);
-          state_.replace = take_new_;
-          if (for_all_) state_.mode = take_new_ ? MergeMode::kTakeNew : MergeMode::kKeepExisting;
+          return answer_;
         },
         [](auto, auto) {});
   }
@@ -41,9 +40,8 @@ class RemoveDoubleEntries : public testing::Test {
   using Lines = std::vector<std::string>;
 
   std::vector<BookEntry> entries_;
-  MergeState state_;
-  bool take_new_ = false;
-  bool for_all_ = false;
+  MergeMode mode_ = MergeMode::kAsk;
+  DoubleAnswer answer_;
   Lines questions_;
 };
 
@@ -54,14 +52,14 @@ TEST_F(RemoveDoubleEntries, DropsExactDoublesWhateverTheirLetterCase) {
 }
 
 TEST_F(RemoveDoubleEntries, KeepsTheExistingEntry) {
-  state_.mode = MergeMode::kKeepExisting;
+  mode_ = MergeMode::kKeepExisting;
   EXPECT_EQ(remove({entry("Alt", "030"), entry("Neu", "030"), entry("Neu", "031")}), 2U);
   EXPECT_EQ(written(), (Lines{"Alt:030", "Neu:031"}));
   EXPECT_TRUE(questions_.empty());
 }
 
 TEST_F(RemoveDoubleEntries, ReplacingEntryMovesToTheEndAndKeepsTagAndCountOnly) {
-  state_.mode = MergeMode::kTakeNew;
+  mode_ = MergeMode::kTakeNew;
   BookEntry existing = entry("Alt", "030");
   existing.Tag = "x";
   existing.Count = 7;
@@ -76,7 +74,7 @@ TEST_F(RemoveDoubleEntries, ReplacingEntryMovesToTheEndAndKeepsTagAndCountOnly) 
 }
 
 TEST_F(RemoveDoubleEntries, ReplacedNumberIsFoundAgainUnderItsNewEntry) {
-  state_.mode = MergeMode::kTakeNew;
+  mode_ = MergeMode::kTakeNew;
   EXPECT_EQ(remove({entry("Eins", "030"), entry("Zwei", "030"), entry("Drei", "030"),
                     entry("drei", "030")}),
             3U);
@@ -89,23 +87,18 @@ TEST_F(RemoveDoubleEntries, AsksForEachDoubleUntilAnAnswerIsForAll) {
   remove(entries);
   EXPECT_EQ(questions_, (Lines{"1: A  x / B  y", "1: A  x / C  z"}));
   questions_.clear();
-  for_all_ = true;
-  take_new_ = true;
-  remove(entries);
-  EXPECT_EQ(questions_.size(), 1U);
-  EXPECT_EQ(written(), Lines{"C:1"});
-}
-
-TEST_F(RemoveDoubleEntries, LastAnswerOutlivesItsQuestion) {
-  // Once "take the new one" was the answer, doubles replace in the keeping mode too.
-  state_ = {MergeMode::kKeepExisting, true};
-  remove({entry("Alt", "030"), entry("Neu", "030")});
-  EXPECT_EQ(written(), Lines{"Neu:030"});
+  for (const auto& [take_new, left] : {std::pair{true, "C:1"}, std::pair{false, "A:1"}}) {
+    questions_.clear();
+    answer_ = {.take_new = take_new, .for_all = true};
+    remove(entries);
+    EXPECT_EQ(questions_.size(), 1U);
+    EXPECT_EQ(written(), Lines{left});
+  }
 }
 
 TEST_F(RemoveDoubleEntries, NamelessEntryIsReplacedWithoutAQuestionInEveryMode) {
   for (const auto mode : {MergeMode::kAsk, MergeMode::kKeepExisting}) {
-    state_ = {mode, false};
+    mode_ = mode;
     remove({entry("", "030", "Ort"), entry("Neu", "030")});
     EXPECT_EQ(written(), Lines{"Neu:030"});
   }

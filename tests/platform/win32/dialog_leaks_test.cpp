@@ -130,7 +130,7 @@ TEST_F(DialogLeaks, EditingAnEntry) {
 
 TEST_F(DialogLeaks, AskingAboutANumberThatExists) {
   expect_nothing_left([&] {
-    fImportMsg dialog(app_, main_);
+    fImportMsg dialog(app_);
     dialog.fill("030", "Alt", "Neu");
     show(dialog, dialog.cmdMsg(0));
   });
