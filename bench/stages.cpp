@@ -118,8 +118,7 @@ void RemoveDoubles(benchmark::State& state) {
   twice.insert(twice.end(), once.rbegin(), once.rend());
   for ([[maybe_unused]] auto round : state) {
     std::vector<BookEntry> entries = twice;
-    benchmark::DoNotOptimize(
-        remove_double_entries(entries, MergeMode::kKeepExisting, {}, kNoStep));
+    benchmark::DoNotOptimize(remove_double_entries(entries, MergeMode::kKeepExisting, {}, kNoStep));
   }
 }
 BENCHMARK(RemoveDoubles)->Unit(benchmark::kMillisecond);
