@@ -9,25 +9,6 @@ die() { printf '%s\n' "$*" >&2; exit 1; }
 # script's own status comes out: in a plain trap a failing command would become the status.
 at_exit() { trap "status=\$?; set +e; $1; exit \$status" EXIT; }
 
-# Installs what is missing of the Debian packages named.
-need_packages() {
-  local missing=() package
-  for package; do
-    [[ $(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null) == installed ]] ||
-      missing+=("$package")
-  done
-  [ ${#missing[@]} -eq 0 ] && return
-  say "Installing ${missing[*]}"
-  local as_root=()
-  if [ "$(id -u)" -ne 0 ]; then
-    command -v sudo >/dev/null || die "Please install as root: apt-get install ${missing[*]}"
-    as_root=(sudo)
-  fi
-  "${as_root[@]}" apt-get update -q
-  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
-    apt-get install -q -y --no-install-recommends "${missing[@]}"
-}
-
 # The tracked files that fit the patterns, below the project's root.
 tracked() {
   local list
