@@ -22,7 +22,7 @@ constexpr std::uint64_t kLargeFile = 8UL * 1024 * 1024;  // bytes
 void fMain::cmdFile_Click() {
   procedure(app_.errors, "fMain.cmdFile_Click", {}, [&] {
     txtImpFile.set_text("");
-    const std::string path = app_.open_file("all");
+    const std::string path = app_.open_file(FilterSet::kAll);
     if (!path.empty()) txtImpFile.set_text(path);
   });
 }

@@ -19,7 +19,7 @@ namespace quenda {
 void fMain::cmdIspy_Click() {
   procedure(app_.errors, "fMain.cmdIspy_Click", {}, [&] {
     txtImpFile.set_text("");
-    const std::string path = app_.open_file("ispy");
+    const std::string path = app_.open_file(FilterSet::kISpy);
     if (!path.empty()) txtImpFile.set_text(path);
   });
 }

@@ -126,12 +126,12 @@ void fMain::txtImport_Change() {
 
 void fMain::txtImport_KeyPress(std::int16_t& code) {
   procedure(app_.errors, "fMain.txtImport_KeyPress", {code},
-            [&] { code = filter_key(code, "noSem"); });
+            [&] { code = filter_key(code, KeyFilter::kNoSem); });
 }
 
 void fMain::txtIndex_KeyPress(std::int16_t& code) {
   procedure(app_.errors, "fMain.txtIndex_KeyPress", {code},
-            [&] { code = filter_key(code, "noSem"); });
+            [&] { code = filter_key(code, KeyFilter::kNoSem); });
 }
 
 void fMain::step(std::size_t done, std::size_t total) {

@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "platform/system.h"
-#include "support/modAPI_FileOpenDlg.h"
 #include "support/modPrivateDummy.h"
 #include "text/text.h"
 
@@ -44,9 +43,9 @@ MessageAnswer App::message_box(std::string_view text, MessageStyle style) {
   return modPrivateDummy::MsgBoxForward(errors, machine.dialogs, machine.system, text, style, "");
 }
 
-std::string App::open_file(std::string_view filter_key) {
+std::string App::open_file(FilterSet filters) {
   ChosenFile chosen = modAPI_FileOpenDlg::FileOpenDialog(
-      errors, machine.dialogs, filter_key,
+      errors, machine.dialogs, filters,
       {shared_texts.String_FilesAll, shared_texts.String_Pictures});
   if (!chosen.unusable.empty()) refuse_path(chosen.unusable);
   return std::move(chosen.path);

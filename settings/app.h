@@ -12,6 +12,7 @@
 #include "settings/suite_paths.h"
 #include "settings/suite_specs.h"
 #include "support/clsErrorHandling.h"
+#include "support/modAPI_FileOpenDlg.h"
 
 namespace quenda {
 
@@ -39,7 +40,7 @@ struct App {
   MessageAnswer message_box(std::string_view text, MessageStyle style);
   /// Lets the user choose a file with a set of filters; empty when the user cancels, and, after a
   /// word about it, when the tool cannot name the file.
-  std::string open_file(std::string_view filter_key);
+  std::string open_file(FilterSet filters);
   /// Tells the user that a file cannot be taken, because its path has characters outside
   /// Windows-1252; `nearest` is the path with those characters replaced.
   void refuse_path(std::string_view nearest);

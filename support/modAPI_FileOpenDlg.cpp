@@ -1,6 +1,8 @@
 #include "support/modAPI_FileOpenDlg.h"
 
 #include <array>
+#include <cstddef>
+#include <string_view>
 
 #include "support/procedure.h"
 #include "text/text.h"
@@ -8,8 +10,16 @@
 namespace quenda::modAPI_FileOpenDlg {
 namespace {
 
+/// The names of the sets in trace lines.
+constexpr std::array<std::string_view, 14> kSetNames = {
+    "all",    "journal", "ispy", "progs", "restore", "pics", "html",
+    "htmlex", "htm",     "xls",  "txt",   "csv",     "log",  "wav",
+};
+
+std::string_view name_of(FilterSet set) { return kSetNames.at(static_cast<std::size_t>(set)); }
+
 struct FilterRow {
-  std::string_view key;
+  FilterSet set;
   std::string_view description;
   std::string_view pattern;
 };
@@ -19,36 +29,35 @@ constexpr std::string_view kActivePatterns = "*.asp;*.php;*.php3;*.php4";
 constexpr std::string_view kScriptPatterns = "*.cgi;*.pl";
 
 constexpr std::array kFilterRows = {
-    FilterRow{"journal", "Quenda-Journale", "*.txt.*"},
-    FilterRow{"ispy", "ISpy log", "ISpy.log"},
-    FilterRow{"progs", "Programme", "*.exe;*.com;*.cmd;*.bat"},
-    FilterRow{"restore", "Sicherungen", "*.txt;*.ini;*.dat"},
-    FilterRow{"html", "HTML", kHtmlPatterns},
-    FilterRow{"html", "Active pages", kActivePatterns},
-    FilterRow{"html", "Scripts", kScriptPatterns},
-    FilterRow{"htmlex", "HTML *.htm;*.html;*.shtml", kHtmlPatterns},
-    FilterRow{"htmlex", "Active pages *.asp;*.php;*.php3;*.php4", kActivePatterns},
-    FilterRow{"htmlex", "Scripts *.cgi;*.pl", kScriptPatterns},
-    FilterRow{"htm", "HTML *.html", "*.html"},
-    FilterRow{"htm", "HTML *.htm", "*.htm"},
-    FilterRow{"xls", "Excel *.xls", "*.xls"},
-    FilterRow{"txt", "Text *.txt", "*.txt"},
-    FilterRow{"csv", "CSV *.csv", "*.csv"},
-    FilterRow{"log", "Logs", "2*.txt"},
-    FilterRow{"wav", "Sound", "*.wav"},
+    FilterRow{FilterSet::kJournal, "Quenda-Journale", "*.txt.*"},
+    FilterRow{FilterSet::kISpy, "ISpy log", "ISpy.log"},
+    FilterRow{FilterSet::kProgs, "Programme", "*.exe;*.com;*.cmd;*.bat"},
+    FilterRow{FilterSet::kRestore, "Sicherungen", "*.txt;*.ini;*.dat"},
+    FilterRow{FilterSet::kHtml, "HTML", kHtmlPatterns},
+    FilterRow{FilterSet::kHtml, "Active pages", kActivePatterns},
+    FilterRow{FilterSet::kHtml, "Scripts", kScriptPatterns},
+    FilterRow{FilterSet::kHtmlex, "HTML *.htm;*.html;*.shtml", kHtmlPatterns},
+    FilterRow{FilterSet::kHtmlex, "Active pages *.asp;*.php;*.php3;*.php4", kActivePatterns},
+    FilterRow{FilterSet::kHtmlex, "Scripts *.cgi;*.pl", kScriptPatterns},
+    FilterRow{FilterSet::kHtm, "HTML *.html", "*.html"},
+    FilterRow{FilterSet::kHtm, "HTML *.htm", "*.htm"},
+    FilterRow{FilterSet::kXls, "Excel *.xls", "*.xls"},
+    FilterRow{FilterSet::kTxt, "Text *.txt", "*.txt"},
+    FilterRow{FilterSet::kCsv, "CSV *.csv", "*.csv"},
+    FilterRow{FilterSet::kLog, "Logs", "2*.txt"},
+    FilterRow{FilterSet::kWav, "Sound", "*.wav"},
 };
 
 }  // namespace
 
-std::vector<FileFilter> fFilter(clsErrorHandling& errors, std::string_view key,
-                                const FilterTexts& texts) {
+std::vector<FileFilter> fFilter(clsErrorHandling& errors, FilterSet set, const FilterTexts& texts) {
   std::vector<FileFilter> filters;
-  procedure(errors, "modAPI_FileOpenDlg.fFilter", {key}, [&] {
+  procedure(errors, "modAPI_FileOpenDlg.fFilter", {name_of(set)}, [&] {
     for (const FilterRow& row : kFilterRows) {
-      if (row.key == key)
+      if (row.set == set)
         filters.push_back({std::string(row.description), std::string(row.pattern)});
     }
-    if (key == "pics") {
+    if (set == FilterSet::kPics) {
       filters.push_back(
           {concat(texts.pictures, " (jpg, bmp, gif, png, ico)"), "*.jpg;*.bmp;*.gif;*.png;*.ico"});
     }
@@ -57,11 +66,11 @@ std::vector<FileFilter> fFilter(clsErrorHandling& errors, std::string_view key,
   return filters;
 }
 
-ChosenFile FileOpenDialog(clsErrorHandling& errors, Dialogs& dialogs, std::string_view key,
+ChosenFile FileOpenDialog(clsErrorHandling& errors, Dialogs& dialogs, FilterSet set,
                           const FilterTexts& texts) {
   ChosenFile chosen;
-  procedure(errors, "modAPI_FileOpenDlg.FileOpenDialog", {key},
-            [&] { chosen = dialogs.open_file(fFilter(errors, key, texts)); });
+  procedure(errors, "modAPI_FileOpenDlg.FileOpenDialog", {name_of(set)},
+            [&] { chosen = dialogs.open_file(fFilter(errors, set, texts)); });
   return chosen;
 }
 

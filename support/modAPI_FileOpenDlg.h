@@ -1,7 +1,6 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "platform/dialogs.h"
@@ -16,17 +15,32 @@ struct FilterTexts {
   std::string pictures;   // "Bilder"
 };
 
+/// The suite's sets of filters. All files are the last choice of each.
+enum class FilterSet {
+  kAll,
+  kJournal,
+  kISpy,
+  kProgs,
+  kRestore,
+  kPics,
+  kHtml,
+  kHtmlex,
+  kHtm,
+  kXls,
+  kTxt,
+  kCsv,
+  kLog,
+  kWav,
+};
+
 /// The system's file open dialog with the suite's sets of filters.
 namespace modAPI_FileOpenDlg {
 
-/// The filters of a set: "all", "journal", "ispy", "progs", "restore", "pics", "html", "htmlex",
-/// "htm", "xls", "txt", "csv", "log", "wav". All files are the last choice of every set, and the
-/// only one of a set that does not exist.
-std::vector<FileFilter> fFilter(clsErrorHandling& errors, std::string_view key,
-                                const FilterTexts& texts);
+/// The filters of a set.
+std::vector<FileFilter> fFilter(clsErrorHandling& errors, FilterSet set, const FilterTexts& texts);
 
 /// What the user chose; empty when the user cancelled.
-ChosenFile FileOpenDialog(clsErrorHandling& errors, Dialogs& dialogs, std::string_view key,
+ChosenFile FileOpenDialog(clsErrorHandling& errors, Dialogs& dialogs, FilterSet set,
                           const FilterTexts& texts);
 
 }  // namespace modAPI_FileOpenDlg

@@ -14,19 +14,26 @@ constexpr std::int16_t kBackspace = 8;
 constexpr std::int16_t kEnter = 13;
 constexpr std::int16_t kEscape = 27;
 
-/// Keys of a mode that are let through besides the digits.
-struct KeyMode {
-  std::string_view mode;
-  std::string_view others;
-};
-
 constexpr std::string_view kEditKeys = "\x08\x1B\x0D";
-constexpr std::array kKeyModes = {
-    KeyMode{"date", "\x08 ."},          KeyMode{"num", "\x08"},
-    KeyMode{"numCR", kEditKeys},        KeyMode{"numCRwc", "\x08\x1B\x0D*?"},
-    KeyMode{"numTel", "\x08\x1B\x0D+"},
-};
 static_assert(kEditKeys[0] == kBackspace && kEditKeys[1] == kEscape && kEditKeys[2] == kEnter);
+
+/// The keys that a filter lets through besides the digits.
+constexpr std::string_view other_keys(KeyFilter filter) {
+  switch (filter) {
+    case KeyFilter::kDate:
+      return "\x08 .";
+    case KeyFilter::kNumCR:
+      return kEditKeys;
+    case KeyFilter::kNumCRwc:
+      return "\x08\x1B\x0D*?";
+    case KeyFilter::kNumTel:
+      return "\x08\x1B\x0D+";
+    case KeyFilter::kNum:
+    case KeyFilter::kNoSem:
+      break;
+  }
+  return "\x08";
+}
 
 std::string replace_each(std::string_view text, std::string_view characters,
                          std::string_view replacement) {
@@ -78,18 +85,13 @@ std::size_t count_occurrences(std::string_view text, std::string_view part) {
   return count;
 }
 
-std::int16_t filter_key(std::int16_t code, std::string_view mode) {
-  if (mode == "noSem") return code == ';' ? std::int16_t{','} : code;
-  for (const KeyMode& entry : kKeyModes) {
-    if (entry.mode != mode) continue;
-    if (mode == "date" && code == ',') return '.';
-    if (code < 0 || code > 0x7F) return 0;
-    const char key = static_cast<char>(code);
-    return is_digit(key) || (code != 0 && entry.others.find(key) != entry.others.npos)
-               ? code
-               : std::int16_t{0};
-  }
-  return code;
+std::int16_t filter_key(std::int16_t code, KeyFilter filter) {
+  if (filter == KeyFilter::kNoSem) return code == ';' ? std::int16_t{','} : code;
+  if (filter == KeyFilter::kDate && code == ',') return '.';
+  if (code <= 0 || code > 0x7F) return 0;
+  const char key = static_cast<char>(code);
+  return is_digit(key) || other_keys(filter).find(key) != std::string_view::npos ? code
+                                                                                 : std::int16_t{0};
 }
 
 void remove_repeated_lines(TextRows& lines, const std::function<void()>& pause) {

@@ -19,10 +19,18 @@ std::string strip_characters(std::string_view text, std::string_view characters,
 /// (CR LF as part) are counted by their CR alone.
 std::size_t count_occurrences(std::string_view text, std::string_view part);
 
-/// What a typed key (Windows-1252 code) puts into a field, 0 for nothing. Modes: "noSem" turns ";"
-/// into ",", "date", "num", "numCR", "numCRwc", "numTel" let digits and a few more through; any
-/// other mode lets everything pass.
-std::int16_t filter_key(std::int16_t code, std::string_view mode);
+/// Which keys a field takes.
+enum class KeyFilter {
+  kNoSem,    // all; ";" becomes ",", or else it would shift the fields of an entry
+  kDate,     // digits, backspace, blank, "."; "," becomes "."
+  kNum,      // digits, backspace
+  kNumCR,    // these, escape and enter
+  kNumCRwc,  // these, "*" and "?"
+  kNumTel,   // digits, backspace, escape, enter, "+"
+};
+
+/// What a typed key (Windows-1252 code) puts into a field, 0 for nothing.
+std::int16_t filter_key(std::int16_t code, KeyFilter filter);
 
 /// Drops empty lines and lines that are there already, letter for letter. The first one stays.
 /// `pause` is called every few thousand lines.

@@ -42,10 +42,12 @@ void fImportItemEdit::connect() {
     button->on_click = [this, index = button->index()] { cmdEdit_Click(index); };
   }
   // No typed text may break the phone book's field separator; numbers take digits only.
-  const auto without_semicolon = [](std::int16_t& code) { code = filter_key(code, "noSem"); };
+  const auto without_semicolon = [](std::int16_t& code) {
+    code = filter_key(code, KeyFilter::kNoSem);
+  };
   txtName.on_key_press = without_semicolon;
   txtAdress.on_key_press = without_semicolon;
-  txtNumber.on_key_press = [](std::int16_t& code) { code = filter_key(code, "num"); };
+  txtNumber.on_key_press = [](std::int16_t& code) { code = filter_key(code, KeyFilter::kNum); };
   const auto size_of = [](const TextBox& box) { return static_cast<int>(box.text().size()); };
   txtName.on_got_focus = [this, size_of] { txtName.select(0, size_of(txtName)); };
   txtAdress.on_got_focus = [this, size_of] { txtAdress.select(0, size_of(txtAdress)); };

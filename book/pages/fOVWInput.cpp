@@ -46,7 +46,7 @@ void fOVWInput::design() {
 }
 
 void fOVWInput::connect() {
-  const auto digits_only = [](std::int16_t& code) { code = filter_key(code, "num"); };
+  const auto digits_only = [](std::int16_t& code) { code = filter_key(code, KeyFilter::kNum); };
   txtLVW.on_key_press = digits_only;
   txtOVW.on_key_press = digits_only;
   txtLVW.on_change = [this] { txtLVW_Change(); };

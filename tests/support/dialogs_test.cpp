@@ -16,16 +16,15 @@ const FileFilter kAll = {"Alle Dateien", "*.*"};
 
 TEST(FileFilters, EndWithAllFiles) {
   ErrorService service;
-  const auto filters = [&](std::string_view key) {
-    return modAPI_FileOpenDlg::fFilter(service.errors, key, kTexts);
+  const auto filters = [&](FilterSet set) {
+    return modAPI_FileOpenDlg::fFilter(service.errors, set, kTexts);
   };
-  EXPECT_THAT(filters("all"), ElementsAre(kAll));
-  EXPECT_THAT(filters("unknown"), ElementsAre(kAll));
-  EXPECT_THAT(filters("ispy"), ElementsAre(FileFilter{"ISpy log", "ISpy.log"}, kAll));
-  EXPECT_THAT(filters("pics"), ElementsAre(FileFilter{"Bilder (jpg, bmp, gif, png, ico)",
-                                                      "*.jpg;*.bmp;*.gif;*.png;*.ico"},
-                                           kAll));
-  EXPECT_EQ(filters("html").size(), 4U);
+  EXPECT_THAT(filters(FilterSet::kAll), ElementsAre(kAll));
+  EXPECT_THAT(filters(FilterSet::kISpy), ElementsAre(FileFilter{"ISpy log", "ISpy.log"}, kAll));
+  EXPECT_THAT(filters(FilterSet::kPics), ElementsAre(FileFilter{"Bilder (jpg, bmp, gif, png, ico)",
+                                                                "*.jpg;*.bmp;*.gif;*.png;*.ico"},
+                                                     kAll));
+  EXPECT_EQ(filters(FilterSet::kHtml).size(), 4U);
 }
 
 TEST(ShellEx, TurnsCodesIntoTextsAndTracesFailures) {
