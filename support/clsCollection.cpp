@@ -3,7 +3,9 @@
 #include <iterator>
 #include <utility>
 
+#include "support/procedure.h"
 #include "text/conversions.h"
+#include "text/fault.h"
 #include "text/text.h"
 
 namespace quenda {
@@ -31,7 +33,7 @@ bool clsCollection::Queue_Add(std::string_view text) {
   }
   ++running_key_;
   const bool added = append(std::string(text), concat("Key", std::to_string(running_key_)), true);
-  while (queue_limit_ != 0 && Count() > queue_limit_) erase(items_.begin());
+  while (queue_limit_ != 0 && !items_.empty() && Count() > queue_limit_) erase(items_.begin());
   const auto& raised = info_delay_ != 0 && Count() <= info_delay_ ? QueueTimerStart : QueueAdded;
   if (raised) raised();
   return added;
@@ -43,10 +45,12 @@ std::string clsCollection::Queue_ReadLast() {
   return text;
 }
 
-std::string clsCollection::Queue_ViewLast() const { return Queue_GetByIndex(1); }
+std::string clsCollection::Queue_ViewLast() const { return text_of(GetItemByIndex(1)); }
 
 std::string clsCollection::Queue_GetByIndex(std::int32_t position) const {
-  return text_of(GetItemByIndex(position));
+  const auto item = at(position);
+  if (item == items_.end()) raise_fault(kFaultIndexRange);
+  return text_of(item->value);
 }
 
 // The collection.
@@ -118,8 +122,8 @@ bool clsCollection::RemoveByKeyName(std::string_view key) {
 }
 
 bool clsCollection::RemoveByIndex(std::string_view position) {
-  if (!is_numeric(position)) return false;
-  const double number = to_number(position);
+  double number = 0;
+  skip_faults({[&] { number = to_number(position); }});
   if (number < 1 || number > Count()) return false;
   erase(std::next(items_.begin(), static_cast<std::ptrdiff_t>(number) - 1));
   return true;

@@ -18,7 +18,7 @@ using CollectionValue = std::variant<std::string, CollectionObject>;
 
 /// Values in the order in which they came, some of them under a key of their own, positions from 1;
 /// also a queue of texts that tells how it fills. Keys are told apart by letter case. A missing key
-/// or position gives an empty value, never a fault.
+/// or position gives an empty value; only `Queue_GetByIndex` raises.
 class clsCollection {
  public:
   struct Item {
@@ -31,6 +31,14 @@ class clsCollection {
   /// Most texts that wait in the queue.
   static constexpr std::size_t kMostQueued = 10000;
 
+  clsCollection() = default;
+  // The keys point into the list: a copy's would point into the other one. `Clone` copies values.
+  clsCollection(const clsCollection&) = delete;
+  clsCollection& operator=(const clsCollection&) = delete;
+  clsCollection(clsCollection&&) = default;
+  clsCollection& operator=(clsCollection&&) = default;
+  ~clsCollection() = default;
+
   std::function<void()> QueueAdded;
   std::function<void()> QueueFull;
   std::function<void(std::int32_t size)> QueueSize;  // never raised
@@ -38,7 +46,7 @@ class clsCollection {
 
   /// The values without their keys.
   [[nodiscard]] clsCollection Clone() const;
-  /// Most texts kept, the oldest go; 0 for all.
+  /// Most texts kept, the oldest go; 0 for all, below 0 for none.
   void Queue_Limit(std::int16_t limit) { queue_limit_ = limit; }
   /// Up to that many texts raise QueueTimerStart, more raise QueueAdded; 0 always raises
   /// QueueAdded.
@@ -48,6 +56,7 @@ class clsCollection {
   /// Takes the oldest text out of the queue.
   std::string Queue_ReadLast();
   [[nodiscard]] std::string Queue_ViewLast() const;
+  /// Raises 9 where no text waits at the position.
   [[nodiscard]] std::string Queue_GetByIndex(std::int32_t position) const;
 
   bool Add(CollectionValue value);
@@ -61,7 +70,7 @@ class clsCollection {
   [[nodiscard]] std::string ItemByKeyValue(std::string_view key, std::string_view standard) const;
   [[nodiscard]] std::string GetItemByIndexByKeyValue(std::int32_t position) const;
   bool RemoveByKeyName(std::string_view key);
-  /// The position as text; anything but a number removes nothing.
+  /// The position as text; what is no number, or too large for one, removes nothing.
   bool RemoveByIndex(std::string_view position);
   bool RemoveFirst();
   [[nodiscard]] const Items& GetCollection() const { return items_; }

@@ -3,9 +3,14 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <type_traits>
+
+#include "tests/shared/fault_of.h"
 
 namespace quenda {
 namespace {
+
+static_assert(!std::is_copy_constructible_v<clsCollection>, "a copy's keys would lead here");
 
 TEST(Queue, TellsHowItFills) {
   clsCollection queue;
@@ -18,6 +23,7 @@ TEST(Queue, TellsHowItFills) {
   EXPECT_EQ(queue.Queue_ViewLast(), "1");
   EXPECT_EQ(queue.Queue_ReadLast(), "1");
   EXPECT_EQ(queue.Queue_GetByIndex(2), "3");
+  EXPECT_EQ(fault_of([&] { return queue.Queue_GetByIndex(3); }), 9);
   EXPECT_EQ(queue.Count(), 2);
 }
 
@@ -28,6 +34,9 @@ TEST(Queue, KeepsTheNewestUpToItsLimit) {
   EXPECT_EQ(queue.Count(), 3);
   EXPECT_EQ(queue.Queue_ReadLast(), "3");
   EXPECT_EQ(std::get<std::string>(queue.ItemByKey("Key5")), "5");
+  queue.Queue_Limit(-1);
+  EXPECT_TRUE(queue.Queue_Add("6"));
+  EXPECT_EQ(queue.Count(), 0);
 }
 
 TEST(Queue, RefusesThe10001stText) {
@@ -70,7 +79,7 @@ TEST(Collection, HasUniqueKeysAndKeyValueTexts) {
 TEST(Collection, RemovesAndRenamesAndClonesValuesWithoutKeys) {
   clsCollection items;
   for (const auto* key : {"a", "b", "c", "d"}) items.AddByKeyValue(key, std::string(key));
-  EXPECT_FALSE(items.RemoveByIndex("x"));
+  for (const auto* none : {"x", "", "0", "1E400"}) EXPECT_FALSE(items.RemoveByIndex(none)) << none;
   EXPECT_FALSE(items.RemoveByIndex("5"));
   EXPECT_TRUE(items.RemoveByIndex("2"));
   EXPECT_TRUE(items.RemoveByKeyName("c"));
