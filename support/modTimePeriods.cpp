@@ -37,12 +37,13 @@ LocalTime modTimePeriods::CDateNew(std::string_view date, std::string_view time)
   LocalTime moment;
   procedure(errors_, "modTimePeriods.CDateNew", {date, time}, [&] {
     std::string clock_part = time.empty() ? std::string() : concat(" ", trim(time));
-    auto found = date_value(concat(date, clock_part));
+    const int this_year = clock_.now().year;
+    auto found = date_value(concat(date, clock_part), this_year);
     if (!found) {
       std::string day_part = replace_all(replace_all(date, ".", "-"), "/", "-");
       clock_part = replace_all(clock_part, ".", ":");
-      found = date_value(concat(day_part, clock_part));
-      if (!found) found = date_value(concat(DateClean(day_part), clock_part));
+      found = date_value(concat(day_part, clock_part), this_year);
+      if (!found) found = date_value(concat(DateClean(day_part), clock_part), this_year);
     }
     moment = found.value_or(LocalTime());
   });

@@ -10,7 +10,8 @@ namespace quenda {
 class clsErrorHandling;
 class System;
 
-/// Loose date texts as dates, and now as text.
+/// Loose date texts as dates, and now as text. Other programs of the suite use it; this one does
+/// not.
 class modTimePeriods {
  public:
   modTimePeriods(clsErrorHandling& errors, const Clock& clock, const System& system)

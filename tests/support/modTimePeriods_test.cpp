@@ -23,6 +23,7 @@ TEST(GetFormatedDateByString, HasThreeFormsAndHandsTheSeparatorBack) {
   EXPECT_EQ(f.periods.GetFormatedDateByString("24.12.1970", separator, false, true), "24.12.");
   EXPECT_EQ(separator, ".");
   EXPECT_EQ(f.periods.GetFormatedDateByString("1.2.2003", separator, false, false), "01.02.2003");
+  EXPECT_EQ(f.periods.GetFormatedDateByString("24.12.800", separator, false, false), "24.12.0800");
   EXPECT_EQ(f.periods.GetFormatedTimeNow(), "17:05:09");
 }
 
@@ -49,6 +50,21 @@ TEST(CDateNew, ReadsLooseTexts) {
       {"2014.03.02", "", {2014, 3, 2, 0, 0, 0}},
       {"2014/3/2", "17.05.09", {2014, 3, 2, 17, 5, 9}},
       {"Geb. 12.03.1970", "", {1970, 3, 12, 0, 0, 0}},
+      {"2. M\xE4rz 2014", "", {2014, 3, 2, 0, 0, 0}},
+      {"2-mrz-14", "7:05", {2014, 3, 2, 7, 5, 0}},
+      {"Dezember 24, 1970", "", {1970, 12, 24, 0, 0, 0}},
+      {"24. Dez", "", {2014, 12, 24, 0, 0, 0}},
+      {"Mai 1970", "", {1970, 5, 1, 0, 0, 0}},
+      {"24.12.", "", {2014, 12, 24, 0, 0, 0}},
+      {"24/12", "17:05", {2014, 12, 24, 17, 5, 0}},
+      {"12/24", "", {2014, 12, 24, 0, 0, 0}},
+      {"3.1970", "", {1970, 3, 1, 0, 0, 0}},
+      {"1970-03", "", {1970, 3, 1, 0, 0, 0}},
+      {"30. Feb 2014", "", none},
+      {"1 2 Mai 2014", "", none},
+      {"Mai", "", none},
+      {"2 Mai Juni", "", none},
+      {"14", "", none},
       {"29.02.2012", "", {2012, 2, 29, 0, 0, 0}},
       {"29.02.2013", "", none},
       {"31.04.2014", "", none},
@@ -67,8 +83,8 @@ TEST(CDateNew, ReadsLooseTexts) {
 }
 
 TEST(CDateNew, PutsShortYearsIntoTwoCenturies) {
-  EXPECT_EQ(date_value("1.1.29")->year, 2029);
-  EXPECT_EQ(date_value("1.1.30")->year, 1930);
+  EXPECT_EQ(date_value("1.1.29", 2014)->year, 2029);
+  EXPECT_EQ(date_value("1.1.30", 2014)->year, 1930);
 }
 
 TEST(DateClean, LosesOnlyWhatStandsBeforeTheDate) {
