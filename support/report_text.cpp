@@ -16,7 +16,8 @@ void append_value(std::string& text, const TraceValue& value) {
 
 /// Days since a fixed day, by the civil calendar.
 std::int64_t day_number(const LocalTime& date) {
-  const std::int64_t year = date.month > 2 ? date.year : date.year - 1;
+  // Widened first: the year before the smallest one has no place in an int.
+  const std::int64_t year = std::int64_t{date.year} - (date.month > 2 ? 0 : 1);
   const std::int64_t month = date.month > 2 ? date.month - 3 : date.month + 9;
   return 365 * year + year / 4 - year / 100 + year / 400 + (153 * month + 2) / 5 + date.day;
 }
