@@ -1,6 +1,6 @@
 #include "support/clsErrorHandling.h"
 
-#include <utility>
+#include <variant>
 
 #include "platform/files.h"
 #include "support/clsCollection.h"
@@ -49,62 +49,58 @@ void clsErrorHandling::show(std::string_view text, MessageStyle style, std::stri
   if (show_message) show_message(text, style, title);
 }
 
-void clsErrorHandling::set_pending(const RuntimeFault& fault, int statement) {
-  pending_ = fault;
-  pending_statement_ = statement;
-}
-
 const clsErrorHandling::MessageTexts& clsErrorHandling::LoadMessageTexts() {
   if (!message_texts_) {
-    const auto text = [&](std::string_view key, std::string_view german) {
-      return look_up_text ? look_up_text(key, german) : std::string(german);
+    const auto text = [&](std::string_view key) {
+      return look_up_text ? look_up_text(key) : std::string(key);
     };
-    message_texts_ = {
-        text("Message_ErrorRaised", "Es ist ein Fehler aufgetreten!"),
-        text("Message_SeeFile", "siehe Datei"),
-        text("Message_TracingIsActive", "Die Ablaufverfolgung ist aktiv!"),
-        text("Message_MuchDataInShortTime",
-             "Es werden in kurzer Zeit extrem viele Daten gespeichert!"),
-    };
+    message_texts_ = {text("Message_ErrorRaised"), text("Message_SeeFile"),
+                      text("Message_TracingIsActive"), text("Message_MuchDataInShortTime")};
   }
   return *message_texts_;
 }
 
 // Reports.
 
-void clsErrorHandling::ErrorLogForceWrite(std::string_view procedure, TraceValues parameters) {
-  ComposeErrorReport(procedure, parameters, false, true);
+void clsErrorHandling::ErrorLogForceWrite(std::string_view procedure, TraceValues parameters,
+                                          const RuntimeFault& fault, int statement) {
+  ComposeErrorReport(procedure, parameters, fault, statement, ReportKind::kForced);
 }
 
-void clsErrorHandling::ErrorLogWithMsgBox(std::string_view procedure, TraceValues parameters) {
-  ComposeErrorReport(procedure, parameters, true, false);
+void clsErrorHandling::ErrorLogWithMsgBox(std::string_view procedure, TraceValues parameters,
+                                          const RuntimeFault& fault, int statement) {
+  ComposeErrorReport(procedure, parameters, fault, statement, ReportKind::kWithBox);
 }
 
-void clsErrorHandling::ErrorLogNew(std::string_view procedure, TraceValues parameters) {
-  ComposeErrorReport(procedure, parameters, false, false);
+void clsErrorHandling::ErrorLogNew(std::string_view procedure, TraceValues parameters,
+                                   const RuntimeFault& fault, int statement) {
+  ComposeErrorReport(procedure, parameters, fault, statement, ReportKind::kSilent);
 }
 
 void clsErrorHandling::ComposeErrorReport(std::string_view procedure, TraceValues parameters,
-                                          bool show_box, bool force) {
+                                          const RuntimeFault& fault, int statement,
+                                          ReportKind kind) {
   bool reported = false;
   skip_faults({[&] {
-    report(procedure, parameter_text(parameters), show_box, force);
+    report(procedure, parameter_text(parameters), fault, statement, kind);
     reported = true;
   }});
-  pending_.reset();
-  if (reported) return;
-  // The description of what went wrong is gone with the error state: the second line stays empty.
+  // A box that fails is reported here. If that report fails as well, the two would call each other
+  // until the stack is full.
+  if (reported || telling_of_failure_) return;
+  telling_of_failure_ = true;
+  // What went wrong is not known any more: the second line stays empty.
   skip_faults(
       {[&] { show(concat("Error in ExceptionHandler", kCrLf), MessageStyle::kExclamation, ""); }});
+  telling_of_failure_ = false;
 }
 
 void clsErrorHandling::report(std::string_view procedure, const std::string& parameters,
-                              bool show_box, bool force) {
-  const std::optional<RuntimeFault> pending = std::exchange(pending_, std::nullopt);
-  const int number = pending ? pending->number() : 0;
+                              const RuntimeFault& fault, int statement, ReportKind kind) {
+  const int number = fault.number();
+  const bool force = kind == ReportKind::kForced;
   if (number == kFaultModelessWhileModal || (!force && number == 0)) return;
-  const std::string description = pending ? pending->description() : std::string();
-  const int statement = pending ? std::exchange(pending_statement_, 0) : 0;
+  const std::string description = number == 0 ? std::string() : fault.description();
   const std::string line = statement == 0 ? std::string() : std::to_string(statement);
   LogDebug_Trace("!ERROR!", {concat(line, " - ", std::to_string(number)), description});
   const std::string elapsed = environment_.program_code == "PRG"
@@ -118,8 +114,8 @@ void clsErrorHandling::report(std::string_view procedure, const std::string& par
                                     .description = description,
                                     .parameters = parameters,
                                     .forced = force});
-  if (on_report) on_report(procedure, pending.value_or(RuntimeFault(0)), parameters);
-  if (!show_box) return;
+  if (on_report) on_report(procedure, fault, parameters);
+  if (kind != ReportKind::kWithBox) return;
   const MessageTexts& texts = LoadMessageTexts();
   show(concat(texts.ErrorRaised, kCrLf, texts.SeeFile, ": ", FileLogError()),
        MessageStyle::kExclamation, "");
@@ -171,11 +167,12 @@ void clsErrorHandling::QueueTraceLine(std::string_view procedure, TraceValues pa
 void clsErrorHandling::WriteTraceQueue() {
   if (environment_.main_folder.empty()) return;
   skip_faults({[&] {
-    const std::string path = log_path(kTraceLog);
-    files_.append(path, "");  // while the file cannot be opened, the lines stay in the queue
     std::string lines;
-    while (oTraceQueue_->Count() > 0) lines.append(oTraceQueue_->Queue_ReadLast()).append(kCrLf);
-    files_.append(path, lines);
+    for (const clsCollection::Item& item : oTraceQueue_->GetCollection()) {
+      lines.append(std::get<std::string>(item.value)).append(kCrLf);
+    }
+    files_.append(log_path(kTraceLog), lines);  // a fault here leaves the lines in the queue
+    oTraceQueue_->Clear();
   }});
 }
 

@@ -58,17 +58,20 @@ class clsErrorHandling {
   [[nodiscard]] std::string program_and_version() const;
   [[nodiscard]] const std::string& main_folder() const { return environment_.main_folder; }
 
-  /// The fault that the next report is about, and the statement that it came from (0 for none).
-  void set_pending(const RuntimeFault& fault, int statement);
-
   /// The error log as messages to the user name it. The reports themselves are in no file; in trace
   /// mode the trace log has them.
   [[nodiscard]] static std::string_view FileLogError() { return "\\log\\error.log"; }
   /// Whether the first trace entry tells the user that tracing is on, and starts a new trace log.
   void TraceInfoMessage(bool show) { trace_info_message_ = show; }
-  void ErrorLogForceWrite(std::string_view procedure, TraceValues parameters);
-  void ErrorLogWithMsgBox(std::string_view procedure, TraceValues parameters);
-  void ErrorLogNew(std::string_view procedure, TraceValues parameters);
+  /// Reports a fault and the statement that it came from, 0 where the procedure does not count
+  /// them. Nothing is reported for the fault 0, but by `ErrorLogForceWrite`.
+  void ErrorLogForceWrite(std::string_view procedure, TraceValues parameters,
+                          const RuntimeFault& fault = RuntimeFault(0), int statement = 0);
+  /// The user sees a box, too.
+  void ErrorLogWithMsgBox(std::string_view procedure, TraceValues parameters,
+                          const RuntimeFault& fault, int statement);
+  void ErrorLogNew(std::string_view procedure, TraceValues parameters, const RuntimeFault& fault,
+                   int statement);
   void LogDebug_Trace(std::string_view procedure, TraceValues parameters);
   /// Keeps the next `count` trace entries out of the log.
   void TraceHideNextSteps(std::int16_t count);
@@ -87,9 +90,9 @@ class clsErrorHandling {
   /// Shows a box through `show_message`.
   void show(std::string_view text, MessageStyle style, std::string_view title);
 
-  /// Set when the services exist that report here themselves. Without them messages keep their
-  /// German texts, and boxes are not shown.
-  std::function<std::string(std::string_view key, std::string_view german)> look_up_text;
+  /// Set when the services exist that report here themselves. Without them a message shows the keys
+  /// of its texts, and boxes are not shown.
+  std::function<std::string(std::string_view key)> look_up_text;
   std::function<void(std::string_view text, MessageStyle style, std::string_view title)>
       show_message;
   /// Told about every report that is not suppressed.
@@ -106,9 +109,12 @@ class clsErrorHandling {
   };
 
   const MessageTexts& LoadMessageTexts();
-  void ComposeErrorReport(std::string_view procedure, TraceValues parameters, bool show_box,
-                          bool force);
-  void report(std::string_view procedure, const std::string& parameters, bool show_box, bool force);
+  enum class ReportKind { kSilent, kWithBox, kForced };
+
+  void ComposeErrorReport(std::string_view procedure, TraceValues parameters,
+                          const RuntimeFault& fault, int statement, ReportKind kind);
+  void report(std::string_view procedure, const std::string& parameters, const RuntimeFault& fault,
+              int statement, ReportKind kind);
   void Trace_Flush();
   void DeleteTraceFile();
   bool CanTrace();
@@ -128,8 +134,7 @@ class clsErrorHandling {
   std::string last_traced_;
   int repeat_count_ = 0;
   std::unique_ptr<clsCollection> oTraceQueue_;
-  std::optional<RuntimeFault> pending_;
-  int pending_statement_ = 0;
+  bool telling_of_failure_ = false;
   std::string last_report_;
 };
 

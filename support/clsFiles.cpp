@@ -70,8 +70,7 @@ bool clsFiles::MakeFile(std::string_view path, std::string_view text, bool appen
         }
       },
       [&](const RuntimeFault& fault, int statement) {
-        errors_.set_pending(fault, statement);
-        errors_.ErrorLogNew("clsFiles_MakeFile", {});
+        errors_.ErrorLogNew("clsFiles_MakeFile", {}, fault, statement);
       });
 }
 

@@ -61,8 +61,7 @@ template <class Body>
 bool procedure(clsErrorHandling& errors, std::string_view name, TraceValues traced, Body&& body) {
   if (errors.tracing()) errors.LogDebug_Trace(name, traced);
   return procedure_detail::trap(errors, body, [&](const RuntimeFault& fault, int statement) {
-    errors.set_pending(fault, statement);
-    errors.ErrorLogNew(name, {});
+    errors.ErrorLogNew(name, {}, fault, statement);
   });
 }
 
@@ -73,11 +72,10 @@ bool procedure_with_message(clsErrorHandling& errors, std::string_view name, Tra
                             const std::string_view& worked_on, Body&& body) {
   if (errors.tracing()) errors.LogDebug_Trace(name, traced);
   return procedure_detail::trap(errors, body, [&](const RuntimeFault& fault, int statement) {
-    errors.set_pending(fault, statement);
     if (worked_on.empty()) {
-      errors.ErrorLogWithMsgBox(name, {});
+      errors.ErrorLogWithMsgBox(name, {}, fault, statement);
     } else {
-      errors.ErrorLogWithMsgBox(name, {worked_on});
+      errors.ErrorLogWithMsgBox(name, {worked_on}, fault, statement);
     }
   });
 }

@@ -57,8 +57,7 @@ void modOutlook::isOutlookInstalled(bool read_count) {
       },
       [&](const RuntimeFault& fault, int statement) {
         if (fault.number() != kFaultNoComponent) {
-          errors_.set_pending(fault, statement);
-          errors_.ErrorLogNew("modOutlook.isOutlookInstalled", {});
+          errors_.ErrorLogNew("modOutlook.isOutlookInstalled", {}, fault, statement);
         }
         installed_ = false;
       });

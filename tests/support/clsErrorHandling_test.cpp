@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <limits>
 #include <new>
 #include <optional>
 #include <string>
@@ -36,6 +37,8 @@ TEST(ReportText, CountsElapsedTimeAcrossMonths) {
   EXPECT_EQ(ElapsedTimeText(start, {2014, 3, 1, 0, 2, 3}), "0:01:02:03");
   EXPECT_EQ(ElapsedTimeText({2014, 3, 11, 0, 2, 3}, start), "10:01:02:03");
   EXPECT_EQ(ElapsedTimeText({2013, 12, 31, 0, 0, 0}, {2014, 1, 1, 0, 0, 0}), "1:00:00:00");
+  constexpr int kFirst = std::numeric_limits<int>::min();
+  EXPECT_EQ(ElapsedTimeText({kFirst, 1, 1, 0, 0, 0}, {kFirst, 1, 2, 0, 0, 0}), "1:00:00:00");
 }
 
 TEST(ErrorReport, IsOneLine) {
@@ -57,13 +60,13 @@ TEST(ErrorReport, IsOneLine) {
     service.environment.program_code = c.program_code;
     service.clock.time.minute += 1;
     service.clock.time.second += 5;
-    if (c.number != 0) service.errors.set_pending(RuntimeFault(c.number), c.statement);
     const std::initializer_list<TraceValue> parameters = {c.parameter};
     const TraceValues none;
     if (c.number == 0) {
       service.errors.ErrorLogForceWrite("fMain.X", none);
     } else {
-      service.errors.ErrorLogNew("fMain.X", c.parameter.empty() ? none : parameters);
+      service.errors.ErrorLogNew("fMain.X", c.parameter.empty() ? none : parameters,
+                                 RuntimeFault(c.number), c.statement);
     }
     EXPECT_EQ(service.errors.last_report(),
               replace_all(c.line, "@", RuntimeFault(9).description()));
@@ -72,35 +75,33 @@ TEST(ErrorReport, IsOneLine) {
 
 TEST(ErrorReport, IsSuppressedWithoutFaultAndForModelessForms) {
   ErrorService service;
-  service.errors.ErrorLogNew("fMain.X", {});
-  service.errors.set_pending(RuntimeFault(401), 3);
-  service.errors.ErrorLogWithMsgBox("fMain.X", {});
-  service.errors.set_pending(RuntimeFault(6), 0);
-  service.errors.ErrorLogNew("fMain.Y", {});
-  service.errors.ErrorLogNew("fMain.Z", {});
+  service.errors.ErrorLogNew("fMain.X", {}, RuntimeFault(0), 0);
+  service.errors.ErrorLogWithMsgBox("fMain.X", {}, RuntimeFault(401), 3);
+  service.errors.ErrorLogNew("fMain.Y", {}, RuntimeFault(6), 0);
   EXPECT_THAT(service.reports, ElementsAre(Pair("fMain.Y", 6)));
   EXPECT_TRUE(service.boxes.empty());
 }
 
 TEST(ErrorReport, BoxNamesTheErrorLogInTheUsersLanguage) {
   ErrorService service;
-  service.errors.look_up_text = [](std::string_view key, std::string_view german) {
-    return key == "Message_SeeFile" ? std::string("see file") : std::string(german);
-  };
-  service.errors.set_pending(RuntimeFault(9), 0);
-  service.errors.ErrorLogWithMsgBox("fMain.Add", {"a line"});
+  service.errors.look_up_text = [](std::string_view key) { return concat("<", key, ">"); };
+  service.errors.ErrorLogWithMsgBox("fMain.Add", {"a line"}, RuntimeFault(9), 0);
   EXPECT_THAT(service.boxes, ElementsAre(FakeDialogs::Box{
-                                 "Es ist ein Fehler aufgetreten!\r\nsee file: \\log\\error.log",
+                                 "<Message_ErrorRaised>\r\n<Message_SeeFile>: \\log\\error.log",
                                  MessageStyle::kExclamation, ""}));
 }
 
 TEST(ErrorReport, ThatFailsItselfShowsABoxAndStops) {
   ErrorService service;
   service.errors.on_report = [](auto, const auto&, auto) { raise_fault(5); };
-  service.errors.set_pending(RuntimeFault(9), 0);
-  service.errors.ErrorLogNew("fMain.Add", {});
-  ASSERT_EQ(service.boxes.size(), 1U);
-  EXPECT_EQ(service.boxes[0].text, "Error in ExceptionHandler\r\n");
+  std::vector<std::string> shown;
+  service.errors.show_message = [&](auto text, auto /*style*/, auto /*title*/) {
+    shown.emplace_back(text);
+    // As the message box does when it fails.
+    service.errors.ErrorLogNew("modPrivateDummy.MsgBoxForward", {}, RuntimeFault(7), 0);
+  };
+  for (int i = 0; i < 2; ++i) service.errors.ErrorLogNew("fMain.Add", {}, RuntimeFault(9), 0);
+  EXPECT_THAT(shown, ElementsAre("Error in ExceptionHandler\r\n", "Error in ExceptionHandler\r\n"));
 }
 
 TEST(TraceLog, WritesBatchesOf51AndTheRestAtTheEnd) {
@@ -114,6 +115,7 @@ TEST(TraceLog, WritesBatchesOf51AndTheRestAtTheEnd) {
     EXPECT_EQ(files.content(kTraceLog), "");
     errors.LogDebug_Trace("fMain.ShowSite", {2});
     EXPECT_EQ(count_of(files.content(kTraceLog), '\n'), 51U);
+    EXPECT_EQ(files.writes(kTraceLog), 1) << "one opening per batch";
     EXPECT_THAT(files.content(kTraceLog),
                 testing::StartsWith("2014/03/02  17:05:09  IMP v1.17  fMain.A 01(N:0)\r\n"));
     EXPECT_THAT(files.content(kTraceLog), EndsWith("fMain.ShowSite 01(N:2)\r\n"));
@@ -170,9 +172,9 @@ TEST(TraceLog, NoticeComesOnceAndStartsANewLog) {
   EXPECT_EQ(count_of(service.files.content(kTraceLog), '\n'), 51U);
   ASSERT_EQ(service.boxes.size(), 1U);
   EXPECT_EQ(service.boxes[0],
-            (FakeDialogs::Box{"Die Ablaufverfolgung ist aktiv!\r\nsiehe Datei: \\Quendaspec.ini "
-                              "([Debug] - TraceMode=1)\r\n\r\nEs werden in kurzer Zeit extrem "
-                              "viele Daten gespeichert!\r\nsiehe Datei: D:\\log\\trace.log",
+            (FakeDialogs::Box{"Message_TracingIsActive\r\nMessage_SeeFile: \\Quendaspec.ini "
+                              "([Debug] - TraceMode=1)\r\n\r\nMessage_MuchDataInShortTime\r\n"
+                              "Message_SeeFile: D:\\log\\trace.log",
                               MessageStyle::kInformation, "Quenda - Tracing"}));
 }
 
