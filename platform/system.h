@@ -25,6 +25,11 @@ class System {
   [[nodiscard]] virtual bool previous_instance() const = 0;
   /// Whether users may not write below the program-files folder.
   [[nodiscard]] virtual bool protects_program_folders() const = 0;
+  /// The path with the long names of its folders in place of short ones ("C:\PROGRA~1"); the path
+  /// itself where there is no such folder, and on systems without short names.
+  [[nodiscard]] virtual std::string long_path(std::string_view path) const {
+    return std::string(path);
+  }
   /// Today in the short date format of the user's country ("02.03.2014").
   [[nodiscard]] virtual std::string short_date_today() const = 0;
   /// Opens a document or an address with its program, over the active window. The shell's result

@@ -14,20 +14,23 @@ namespace {
 constexpr std::string_view kPathsFile = "\\Quendapaths.ini";
 constexpr std::string_view kSection = "Paths";
 
+/// A path as Windows compares it: letter case does not count, and "/" is "\".
+std::string comparable(std::string_view path) { return to_lower(replace_all(path, "/", "\\")); }
+
 }  // namespace
 
 std::string SuitePaths::book_file() const { return concat(book_folder, "Quendabook.txt"); }
+
+bool lies_inside(std::string_view folder, std::string_view outer) {
+  return !outer.empty() && comparable(folder).find(comparable(outer)) != std::string::npos;
+}
 
 std::string choose_data_root(const DataRootChoice& choice) {
   std::string_view root = choice.setting;
   if (root.ends_with('\\')) root.remove_suffix(1);
   if (root.empty()) root = "0";
   if (root == "0") {
-    const bool inside_programs =
-        !choice.program_files.empty() &&
-        choice.program_folder.find(choice.program_files) != std::string_view::npos;
-    root = inside_programs && choice.protects_program_folders ? choice.common_folder
-                                                              : choice.program_folder;
+    root = choice.program_folder_protected ? choice.common_folder : choice.program_folder;
   } else if (is_numeric(root)) {
     root = choice.common_folder;
   }
@@ -57,16 +60,16 @@ bool LoadSavePaths(clsErrorHandling& errors, modAPI_INI& ini, const Files& files
         const std::string file = concat(paths.program_folder, kPathsFile);
         std::string root_setting = "1";
         std::string book_setting;
-        std::string program_files;
         if (files.exists(file)) {
           at(4);
           paths.book_refresh = ini.GetSettBool(kSection, "BookRefresh", false, file);
           at(5);
           root_setting = ini.GetSettStr(kSection, "ProgramData", "1", file, false, false);
-          program_files = system.special_folder(kProgramFiles);
           choice.setting = root_setting;
-          choice.program_files = program_files;
-          choice.protects_program_folders = system.protects_program_folders();
+          choice.program_folder_protected =
+              system.protects_program_folders() &&
+              lies_inside(system.long_path(paths.program_folder),
+                          system.long_path(system.special_folder(kProgramFiles)));
           at(6);
           book_setting = ini.GetSettStr(kSection, "BookPath", "", file, false, false);
         }

@@ -28,12 +28,15 @@ struct DataRootChoice {
   std::string_view setting;  // "1" (or another number), "0", or a folder
   std::string_view program_folder;
   std::string_view common_folder;
-  std::string_view program_files;  // the system's folder for programs; empty when unknown
-  bool protects_program_folders = false;
+  bool program_folder_protected = false;  // users may not write there
 };
 
+/// Whether the outer path occurs in that of the folder, compared as Windows compares paths. Nothing
+/// lies inside an empty path.
+bool lies_inside(std::string_view folder, std::string_view outer);
+
 /// The data root without "\" at the end: the common folder for a number, the program folder for 0
-/// and the empty text (unless users may not write there), else the folder itself.
+/// and the empty text (unless it is protected), else the folder itself.
 std::string choose_data_root(const DataRootChoice& choice);
 
 /// The phone book folder with "\" at the end: the folder of the settings, or the data folder for an

@@ -98,6 +98,9 @@ class SuiteSystem final : public System {
   [[nodiscard]] bool protects_program_folders() const override {
     return system_.protects_program_folders();
   }
+  [[nodiscard]] std::string long_path(std::string_view path) const override {
+    return system_.long_path(path);
+  }
   [[nodiscard]] std::string short_date_today() const override { return system_.short_date_today(); }
   int open_with_shell(std::string_view verb, std::string_view file, std::string_view parameters,
                       std::string_view folder) override {

@@ -72,6 +72,13 @@ bool Win32System::previous_instance() const {
   return outcome == ERROR_ALREADY_EXISTS || outcome == ERROR_ACCESS_DENIED;
 }
 
+std::string Win32System::long_path(std::string_view path) const {
+  const std::wstring given = wide(path);
+  std::wstring answer(GetLongPathNameW(given.c_str(), nullptr, 0), L'\0');
+  answer.resize(GetLongPathNameW(given.c_str(), answer.data(), static_cast<DWORD>(answer.size())));
+  return answer.empty() ? std::string(path) : exact_1252(answer).value_or(std::string(path));
+}
+
 std::string Win32System::short_date_today() const {
   std::array<wchar_t, 80> date{};
   GetDateFormatEx(LOCALE_NAME_USER_DEFAULT, DATE_SHORTDATE, nullptr, nullptr, date.data(),

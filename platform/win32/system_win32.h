@@ -14,6 +14,7 @@ class Win32System : public System {
   /// Claims the name by which instances know each other; it is held until the program ends.
   [[nodiscard]] bool previous_instance() const override;
   [[nodiscard]] bool protects_program_folders() const override { return true; }
+  [[nodiscard]] std::string long_path(std::string_view path) const override;
   [[nodiscard]] std::string short_date_today() const override;
   int open_with_shell(std::string_view verb, std::string_view file, std::string_view parameters,
                       std::string_view folder) override;

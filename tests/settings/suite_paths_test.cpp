@@ -60,6 +60,18 @@ TEST(LoadSavePaths, ChoosesDataRootAndBookFolder) {
   }
 }
 
+TEST(LoadSavePaths, FindsTheProgramFolderInsideProgramFilesAsWindowsComparesPaths) {
+  for (const std::string folder : {"c:\\program files\\Quenda", "C:/PROGRAM FILES/Quenda",
+                                   "C:\\PROGRA~1\\Quenda", "C:\\Programme\\Quenda"}) {
+    Fixture f;
+    f.paths.program_folder = folder;
+    f.files.put(folder + "\\Quendapaths.ini", "[Paths]\r\nProgramData=0\r\n");
+    EXPECT_TRUE(LoadSavePaths(f.errors, f.ini, f.files, f.system, f.paths, f.specs));
+    EXPECT_EQ(f.paths.data_root,
+              folder.ends_with("Programme\\Quenda") ? folder : "C:\\ProgramData\\Quenda");
+  }
+}
+
 TEST(LoadSavePaths, ReadsBookRefresh) {
   Fixture f;
   f.load("BookRefresh=1\r\n");

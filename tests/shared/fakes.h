@@ -84,6 +84,10 @@ class FakeSystem : public System {
   [[nodiscard]] std::string command_line() const override { return arguments; }
   [[nodiscard]] bool previous_instance() const override { return previous; }
   [[nodiscard]] bool protects_program_folders() const override { return protects; }
+  [[nodiscard]] std::string long_path(std::string_view path) const override {
+    const bool is_short = path.starts_with("C:\\PROGRA~1");
+    return is_short ? "C:\\Program Files" + std::string(path.substr(11)) : std::string(path);
+  }
   [[nodiscard]] std::string short_date_today() const override { return today; }
   int open_with_shell(std::string_view verb, std::string_view file, std::string_view /*parameters*/,
                       std::string_view /*folder*/) override {
