@@ -34,7 +34,7 @@ void fMain::Add() {
 
 bool fMain::merge_into_book(std::string& book_text, std::string_view& line) {
   BusyWork busy(*this);
-  const std::string path = concat(app_.paths.book_folder, "Quendabook.txt");
+  const std::string path = app_.paths.book_file();
   std::vector<BookEntry> entries;
   if (app_.machine.files.exists(path)) {
     StatusBar.set_panel(2, texts.load_book);
