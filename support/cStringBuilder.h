@@ -6,7 +6,7 @@
 
 namespace quenda {
 
-/// A text that grows piece by piece.
+/// A text that grows piece by piece. Other programs of the suite use it; this one does not.
 class cStringBuilder {
  public:
   cStringBuilder& Append(std::string_view piece) {

@@ -8,7 +8,8 @@ namespace quenda {
 
 class clsErrorHandling;
 
-/// The text functions that forms share, as procedures that report their faults.
+/// The text functions that forms share, as procedures that report their faults. Other programs of
+/// the suite use them; this one calls the functions themselves.
 namespace modFunctions {
 
 /// `strip_characters`; empty after a fault.
