@@ -32,7 +32,7 @@ const IniText& modAPI_INI::load(const std::string& path) {
   if (stamp != loaded->stamp) {
     loaded->stamp = stamp;
     loaded->text = IniText();
-    // A folder or a protected file in place of the settings is as good as none.
+    // Where a folder or a protected file stands in place of the settings, the defaults count.
     skip_faults({[&] { loaded->text = IniText(files_.read(path)); }});
   }
   return loaded->text;

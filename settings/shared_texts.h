@@ -6,8 +6,8 @@ namespace quenda {
 
 class modLanguage;
 
-/// Texts that all programs of the suite share. The messages about damaged settings files and failed
-/// writes are loaded with the rest and shown by other programs.
+/// Texts that all programs of the suite share, loaded as a whole. This program shows "Weiter",
+/// "Übernehmen" and the names of the file filters; the others are shown by other programs.
 struct SharedTexts {
   std::string Message_BackupExists;
   std::string Message_RemoveFileExtByRename;

@@ -16,8 +16,8 @@ namespace quenda {
 using CollectionObject = std::shared_ptr<void>;
 using CollectionValue = std::variant<std::string, CollectionObject>;
 
-/// Values in the order in which they came, some of them under a key of their own, positions from 1;
-/// also a queue of texts that tells how it fills. Keys are told apart by letter case. A missing key
+/// Values in the order in which they were added, some under a key, positions from 1; also a queue
+/// of texts that raises events as it fills. Keys are told apart by letter case. A missing key
 /// or position gives an empty value; only `Queue_GetByIndex` raises.
 class clsCollection {
  public:

@@ -17,7 +17,7 @@ namespace quenda {
 class clsCollection;
 class Files;
 
-/// What the error service reads of the program's settings, each time anew.
+/// The settings that the error service looks up each time it needs them.
 struct ErrorEnvironment {
   std::string program_code = "IMP";  // names the program in every line; empty becomes "NON"
   int major = 1;
@@ -90,7 +90,7 @@ class clsErrorHandling {
   /// Shows a box through `show_message`.
   void show(std::string_view text, MessageStyle style, std::string_view title);
 
-  /// Set when the services exist that report here themselves. Without them a message shows the keys
+  /// Set once those services exist, which report their own faults here. Without them a message shows the keys
   /// of its texts, and boxes are not shown.
   std::function<std::string(std::string_view key)> look_up_text;
   std::function<void(std::string_view text, MessageStyle style, std::string_view title)>

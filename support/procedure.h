@@ -88,8 +88,8 @@ bool procedure_with_own_report(clsErrorHandling& errors, std::string_view name, 
   return procedure_detail::trap(errors, body, on_fault);
 }
 
-/// Runs one step after the other; a step that fails is left behind without a report. For loaders,
-/// where one unreadable value must not keep the others from being read.
+/// Runs one step after the other; a step that fails is skipped without a report. For loaders, or
+/// else one unreadable value would cost all those behind it.
 inline void skip_faults(std::initializer_list<std::function<void()>> steps) {
   for (const auto& step : steps) {
     try {

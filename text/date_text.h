@@ -33,8 +33,8 @@ std::optional<LocalTime> date_value(std::string_view text, int this_year);
 /// The first character between digits of a date in the system's format; empty when there is none.
 std::string separator_in(std::string_view date);
 
-/// Takes the date out of a text around it, with known gaps: what stands behind the date is only
-/// lost when nothing stood before it, and a text that begins with a digit gives the empty text.
+/// The text from its first digit on; what stands behind the date stays. A text that begins with a
+/// digit gives the empty text: it has been tried as it is before.
 std::string clean_date(std::string_view text);
 
 }  // namespace quenda

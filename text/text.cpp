@@ -35,8 +35,8 @@ void append_utf8(std::string& out, char32_t code_point) {
   }
 }
 
-/// How many of so many places match. Small counters side by side, emptied before they overflow: the
-/// compiler makes vector instructions of this, which it does not of a single large counter.
+/// How many positions match. Counted in rows of single bytes, which are added up before they
+/// overflow, or else the compiler would not use vector instructions.
 template <class Matches>
 std::size_t count_places(std::size_t places, Matches matches) {
   constexpr std::size_t kLanes = 32;

@@ -39,8 +39,8 @@ std::string replace_all(std::string_view text, std::string_view from, std::strin
 /// The parts between the separators; an empty text has one empty part.
 std::vector<std::string_view> split(std::string_view text, std::string_view separator);
 
-/// Cuts the text before the first `separator` off the front of `rest`; the last part is what
-/// remains, and `rest` is then without data pointer. False when nothing remained.
+/// Cuts the text before the first `separator` off the front of `rest`. The last part is the whole
+/// rest, which then has no data pointer any more; the next call gives false.
 bool next_part(std::string_view& rest, std::string_view separator, std::string_view& part);
 
 /// How often the character stands in the text.
@@ -49,7 +49,7 @@ std::size_t count_of(std::string_view text, char character);
 /// How many CR LF the text has.
 std::size_t count_line_ends(std::string_view text);
 
-/// A set of characters that is quick to ask.
+/// A set of characters with a quick look-up.
 class CharacterSet {
  public:
   constexpr explicit CharacterSet(std::string_view characters) {

@@ -5,7 +5,7 @@ namespace {
 
 constexpr bool is_blank(char c) { return c == ' ' || (c >= '\t' && c <= '\r') || c == '\x1A'; }
 
-/// Names end at a NUL, which is nothing that a name asked for can contain.
+/// Names end at a NUL: no name that is asked for contains one.
 std::string_view name_in(std::string_view text) {
   text = without_ini_blanks(text);
   return text.substr(0, text.find('\0'));
