@@ -90,8 +90,8 @@ class clsErrorHandling {
   /// Shows a box through `show_message`.
   void show(std::string_view text, MessageStyle style, std::string_view title);
 
-  /// Set once those services exist, which report their own faults here. Without them a message shows the keys
-  /// of its texts, and boxes are not shown.
+  /// Set once those services exist, which report their own faults here. Without them a message
+  /// shows the keys of its texts, and boxes are not shown.
   std::function<std::string(std::string_view key)> look_up_text;
   std::function<void(std::string_view text, MessageStyle style, std::string_view title)>
       show_message;
