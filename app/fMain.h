@@ -10,6 +10,8 @@
 
 #include "app/main_texts.h"
 #include "book/book_entry.h"
+#include "book/book_file.h"
+#include "book/entry_list.h"
 #include "book/merge.h"
 #include "platform/controls/control_array.h"
 #include "platform/controls/form.h"
@@ -21,7 +23,7 @@
 #include "sources/outlook_contacts.h"
 #include "sources/pages/modOutlook.h"
 #include "sources/record_table.h"
-#include "text/text_rows.h"
+#include "text/flat_table.h"
 #include "wizard/composition.h"
 #include "wizard/page_flow.h"
 #include "wizard/pages/record_preview.h"
@@ -153,6 +155,7 @@ class fMain : public Form {
   ImportSource source;
   WizardState wizard;
   MergeMode merge_mode = MergeMode::kAsk;
+  LineEnd book_line_end = LineEnd::kCrLf;  // of the book that was read last
   MainTexts texts;
   /// The entry being edited in fImportItemEdit; row -1 means none.
   struct EditedItem {
@@ -271,7 +274,8 @@ class fMain : public Form {
   [[nodiscard]] Composition composition() const;
   /// Whether the merge came to its end; otherwise the user has been told why not.
   bool merge_into_book(std::string& book_text, std::string_view& line);
-  void read_book(std::string_view text, std::vector<BookEntry>& entries, std::string_view& line);
+  /// False when the book cannot be read without losing entries; the user has been told then.
+  bool read_book(std::string_view text, std::vector<BookEntry>& entries, std::string_view& line);
   void append_new_entries(std::vector<BookEntry>& entries);
   DoubleAnswer ask_about_double(std::string_view number, const std::string& existing,
                                 const std::string& fresh);
@@ -280,7 +284,7 @@ class fMain : public Form {
   modOutlook outlook_;
   ContactTable contacts_;
   RecordPreview preview_;
-  TextRows entry_lines_;
+  FlatTable entries_{kEntryColumns};  // being collected; the final list takes them over
   ColumnChoice choice_;
   std::vector<std::size_t> address_order_ = {0};
   std::array<std::string, kNumberRows> bindings_;  // "0", "1" or "" per number row

@@ -150,17 +150,17 @@ bool fMain::Scramble() {
     const BusyWork busy(*this);
     StatusBar.set_panel(2, texts.data_set_clean);
     lstImpFinal.clear();
-    entry_lines_.clear();
-    LineComposer composer(composition(), source.Delimiter.front(),
-                          [this](std::string_view number) { return fCleanNumbers(number); });
+    entries_.clear();
+    EntryComposer composer(composition(), source.Delimiter.front(),
+                           [this](std::string_view number) { return fCleanNumbers(number); });
     const std::size_t count = source.ImportRows.size();
-    entry_lines_.reserve(count, source.ImportRows.bytes());
+    entries_.reserve(count, source.ImportRows.bytes());
     for (std::size_t record = 0; record < count; ++record) {
-      composer.compose(source.ImportRows, record, entry_lines_);
+      composer.compose(source.ImportRows, record, entries_);
       step(record + 1, count);
     }
     StatusBar.set_panel(2, texts.erase_multiple);
-    remove_repeated_lines(entry_lines_, [this] { answer_events(); });
+    remove_repeated_lines(entries_, [this] { answer_events(); });
     ListUpdate();
     StatusBar.set_panel(2, "");
   });

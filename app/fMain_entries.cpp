@@ -1,5 +1,7 @@
 #include <algorithm>
+#include <array>
 #include <string>
+#include <string_view>
 #include <utility>
 
 #include "app/busy.h"
@@ -11,7 +13,7 @@
 #include "settings/app.h"
 #include "support/procedure.h"
 #include "text/characters.h"
-#include "text/text.h"
+#include "text/entry_text.h"
 
 namespace quenda {
 
@@ -33,15 +35,15 @@ void fMain::PreviewEntries() {
   procedure(app_.errors, "fMain.PreviewEntries", {}, [&] {
     const BusyWork busy(*this);
     lstImpFinal.clear();
-    entry_lines_.clear();
+    entries_.clear();
     const FlatTable& preview = lstImport.table();
     for (std::size_t row = 0; row < preview.rows(); ++row) {
-      entry_lines_.add_row(concat(preview.cell(row, kEntryName), ";",
-                                  fCleanNumbers(preview.cell(row, kEntryNumber)), ";",
-                                  preview.cell(row, kEntryAddress)));
+      const std::string number = fCleanNumbers(preview.cell(row, kEntryNumber));
+      entries_.add_row(std::array<std::string_view, kEntryColumns>{
+          preview.cell(row, kEntryName), number, preview.cell(row, kEntryAddress)});
       step(row + 1, preview.rows());
     }
-    remove_repeated_lines(entry_lines_, [this] { answer_events(); });
+    remove_repeated_lines(entries_, [this] { answer_events(); });
     ListUpdate();
   });
 }
@@ -50,10 +52,8 @@ void fMain::ListUpdate() {
   procedure(app_.errors, "fMain.ListUpdate", {}, [&] {
     lstImpFinal.clear();
     lstImpFinal.set_table(
-        entry_rows(entry_lines_, chkNameLen.ticked(),
+        entry_rows(std::exchange(entries_, FlatTable(kEntryColumns)), chkNameLen.ticked(),
                    [this](std::size_t done, std::size_t total) { step(done, total); }));
-    // From here on the list is the only store of the entries.
-    entry_lines_ = TextRows();
   });
 }
 
@@ -91,8 +91,8 @@ void fMain::ChangeItem() {
     const auto row = static_cast<std::size_t>(edited.row);
     // What is pasted has not passed the key filters; a ";" would shift the fields of the book's
     // line.
-    for (std::string* text : {&edited.name, &edited.address}) *text = replace_all(*text, ";", ",");
-    edited.number = fCleanNumbers(replace_all(edited.number, ";", ""));
+    for (std::string* text : {&edited.name, &edited.address}) *text = entry_text(*text);
+    edited.number = fCleanNumbers(entry_number(edited.number));
     lstImpFinal.set_cell(row, kEntryName, edited.name);
     lstImpFinal.set_cell(row, kEntryNumber, edited.number);
     lstImpFinal.set_cell(row, kEntryAddress, edited.address);

@@ -1,6 +1,7 @@
+#include <array>
 #include <string>
 #include <string_view>
-#include <vector>
+#include <utility>
 
 #include "app/busy.h"
 #include "app/fMain.h"
@@ -10,9 +11,8 @@
 #include "sources/ispy_log.h"
 #include "support/procedure.h"
 #include "text/characters.h"
-#include "text/conversions.h"
+#include "text/entry_text.h"
 #include "text/text.h"
-#include "text/text_rows.h"
 
 namespace quenda {
 
@@ -28,7 +28,7 @@ void fMain::ISpyImport() {
   procedure(app_.errors, "fMain.ISpyImport", {}, [&] {
     const BusyWork busy(*this);
     lstImpFinal.clear();
-    entry_lines_.clear();
+    entries_.clear();
     app_.machine.events.yield();
     const RecordTable& lines = source.ImportRows;
     StatusBar.set_panel(2, texts.items_analyze);
@@ -39,20 +39,14 @@ void fMain::ISpyImport() {
       const std::string_view line = lines[i];
       if (line.empty() || line == source.Delimiter) continue;
       if (const auto caller = ispy_caller(line)) {
-        entry_lines_.add_row(concat(caller->name, ";", caller->number));
+        const std::string name = without_line_breaks(caller->name);
+        entries_.add_row(std::array<std::string_view, 2>{name, caller->number});
       }
     }
     StatusBar.set_panel(2, texts.erase_multiple);
-    remove_repeated_lines(entry_lines_, [this] { answer_events(); });
+    remove_repeated_lines(entries_, [this] { answer_events(); });
     StatusBar.set_panel(2, texts.items_recycle);
-    FlatTable rows(kEntryColumns);
-    for (std::size_t i = 0; i < entry_lines_.size(); ++i) {
-      const std::vector<std::string_view> parts = split(entry_lines_[i], ";");
-      // A name with ";" in it leaves the number beyond the second part: such a row has none.
-      if (parts.size() < 2 || !is_numeric(parts[1])) continue;
-      rows.add_row(std::array{parts[0], parts.size() == 2 ? parts[1] : std::string_view()});
-    }
-    lstImpFinal.set_table(std::move(rows));
+    lstImpFinal.set_table(caller_rows(std::exchange(entries_, FlatTable(kEntryColumns))));
   });
 }
 

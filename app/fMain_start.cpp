@@ -54,7 +54,7 @@ void fMain::Form_Load() {
     txtOVW.set_text(concat("0", app_.settings.own_area_code));
     tmOLcheck.set_enabled(true);
     StatusBar.set_panel(2, texts.outlook_search);
-    entry_lines_.clear();
+    entries_.clear();
     app_.machine.host_link.offer(
         "book", "txtDDE",
         {[this] { Form_LinkOpen(); }, [this] { Form_LinkClose(); }, [this] { Form_LinkError(); }});

@@ -39,7 +39,7 @@ bool fMain::merge_into_book(std::string& book_text, std::string_view& line) {
   if (app_.machine.files.exists(path)) {
     StatusBar.set_panel(2, texts.load_book);
     book_text = app_.machine.files.read(path);
-    read_book(book_text, entries, line);
+    if (!read_book(book_text, entries, line)) return false;
   }
   const std::size_t in_book = entries.size();
 
@@ -66,10 +66,18 @@ bool fMain::merge_into_book(std::string& book_text, std::string_view& line) {
   return true;
 }
 
-void fMain::read_book(std::string_view text, std::vector<BookEntry>& entries,
+bool fMain::read_book(std::string_view text, std::vector<BookEntry>& entries,
                       std::string_view& line) {
+  book_line_end = line_end_of(text);
+  if (book_line_end == LineEnd::kLf) StatusBar.set_panel(3, texts.book_has_lf);
+  if (const std::size_t joined = line_of_joined_entries(text, book_line_end); joined > 0) {
+    app_.message_box(concat(texts.book_line_ends, kCrLf, texts.book_line_without_end, " ",
+                            std::to_string(joined)),
+                     MessageStyle::kExclamation);
+    return false;
+  }
   entries.reserve(count_of(text, '\n') + 1 + lstImpFinal.count());
-  BookLines lines(text);
+  BookLines lines(text, book_line_end);
   std::size_t characters = 0;
   while (lines.next(line)) {
     if (line.empty()) continue;
@@ -78,6 +86,7 @@ void fMain::read_book(std::string_view text, std::vector<BookEntry>& entries,
     step(characters, text.size());
   }
   line = {};
+  return true;
 }
 
 void fMain::append_new_entries(std::vector<BookEntry>& entries) {

@@ -23,6 +23,9 @@ struct MainTexts {
   std::string load_book;
   std::string filter_data;
   std::string write_book;
+  std::string book_has_lf;
+  std::string book_line_ends;
+  std::string book_line_without_end;
   std::string dde_not_connected;
   std::string refresh_info;
   std::string reading_file;
@@ -68,6 +71,9 @@ inline constexpr std::array kMainTexts = {
     MainText{"Import_Info_LoadBook", &MainTexts::load_book},
     MainText{"Import_Info_FilterData", &MainTexts::filter_data},
     MainText{"Import_Info_WriteBook", &MainTexts::write_book},
+    MainText{"Import_Info_BookHasLf", &MainTexts::book_has_lf},
+    MainText{"Import_Msg_BookLineEnds", &MainTexts::book_line_ends},
+    MainText{"Import_Msg_BookLineWithoutEnd", &MainTexts::book_line_without_end},
     MainText{"Import_Msg_DDENotConnect", &MainTexts::dde_not_connected},
     MainText{"Import_Msg_RefreshInfo", &MainTexts::refresh_info},
     MainText{"Import_Info_ReadingFile", &MainTexts::reading_file},

@@ -14,7 +14,7 @@
 #include "sources/delimited_text.h"
 #include "sources/record_table.h"
 #include "text/characters.h"
-#include "text/text_rows.h"
+#include "text/flat_table.h"
 #include "wizard/composition.h"
 
 namespace quenda {
@@ -42,14 +42,14 @@ RecordTable records() {
   return table;
 }
 
-TextRows lines(const RecordTable& table) {
+FlatTable entries(const RecordTable& table) {
   Composition composition;
   composition.columns = {{0, 1}, {2}, {std::vector<std::size_t>{4, 5}, {}}};
   composition.address_order = {0, 1};
   composition.bindings[0] = Binding::kAddress1;
-  LineComposer composer(composition, kDelimiter,
-                        [](std::string_view number) { return clean_number(number, "0049"); });
-  TextRows rows;
+  EntryComposer composer(composition, kDelimiter,
+                         [](std::string_view number) { return clean_number(number, "0049"); });
+  FlatTable rows(kEntryColumns);
   for (std::size_t record = 0; record < table.size(); ++record) {
     composer.compose(table, record, rows);
   }
@@ -58,7 +58,7 @@ TextRows lines(const RecordTable& table) {
 
 std::vector<BookEntry> entries_of(std::string_view text) {
   std::vector<BookEntry> entries;
-  BookLines reader(text);
+  BookLines reader(text, LineEnd::kCrLf);
   std::string_view line;
   while (reader.next(line)) entries.push_back(read_book_line(line));
   return entries;
@@ -82,24 +82,24 @@ void CleanAndPad(benchmark::State& state) {
 }
 BENCHMARK(CleanAndPad)->Unit(benchmark::kMillisecond);
 
-void ComposeLines(benchmark::State& state) {
+void ComposeEntries(benchmark::State& state) {
   const RecordTable table = records();
-  for ([[maybe_unused]] auto round : state) benchmark::DoNotOptimize(lines(table).size());
+  for ([[maybe_unused]] auto round : state) benchmark::DoNotOptimize(entries(table).rows());
 }
-BENCHMARK(ComposeLines)->Unit(benchmark::kMillisecond);
+BENCHMARK(ComposeEntries)->Unit(benchmark::kMillisecond);
 
 void RemoveRepeatedLines(benchmark::State& state) {
-  const TextRows all = lines(records());
+  const FlatTable all = entries(records());
   for ([[maybe_unused]] auto round : state) {
-    TextRows rows = all;
+    FlatTable rows = all;
     remove_repeated_lines(rows);
-    benchmark::DoNotOptimize(rows.size());
+    benchmark::DoNotOptimize(rows.rows());
   }
 }
 BENCHMARK(RemoveRepeatedLines)->Unit(benchmark::kMillisecond);
 
 void EntryRows(benchmark::State& state) {
-  const TextRows all = lines(records());
+  const FlatTable all = entries(records());
   for ([[maybe_unused]] auto round : state) {
     benchmark::DoNotOptimize(entry_rows(all, true, kNoStep).rows());
   }

@@ -2,17 +2,7 @@
 
 #include <algorithm>
 
-#include "text/text.h"
-
 namespace quenda {
-
-bool BookLines::next(std::string_view& line) {
-  if (rest_.empty()) return false;
-  const auto at = rest_.find(kCrLf);
-  line = rest_.substr(0, at);
-  rest_ = at == rest_.npos ? std::string_view() : rest_.substr(at + kCrLf.size());
-  return true;
-}
 
 BookChange compose_book(std::string_view old_text, const std::vector<BookEntry>& entries,
                         const std::function<void(std::size_t, std::size_t)>& on_step) {

@@ -1,8 +1,7 @@
 #include "book/entry_list.h"
 
-#include <algorithm>
-#include <array>
-#include <string>
+#include <span>
+#include <utility>
 
 #include "text/conversions.h"
 #include "text/text.h"
@@ -13,20 +12,20 @@ namespace {
 constexpr std::size_t kShortestName = 3;
 constexpr std::size_t kLongestDroppedNumber = 7;
 
-/// The part before the next ";", which is cut off the front of the line with it.
-std::string_view next_field(std::string_view& line) {
-  const auto at = std::min(line.find(';'), line.size());
-  const std::string_view field = line.substr(0, at);
-  line.remove_prefix(std::min(at + 1, line.size()));
-  return field;
-}
+using Cells = std::span<std::string_view>;
 
-/// The field as the list shows it; in the buffer only where a character has to change.
-std::string_view shown(std::string_view field, std::string& buffer) {
-  if (field.find('|') == field.npos) return trim(field);
-  buffer = field;
-  std::replace(buffer.begin(), buffer.end(), '|', ',');
-  return trim(buffer);
+/// Lets the cells be what a split of the row's line at every ";" would give, where one of them has
+/// a
+/// ";" inside. Returns whether one has.
+bool shift_at_separators(Cells cells) {
+  bool inside = false;
+  for (const std::string_view cell : cells) inside = inside || cell.find(';') != cell.npos;
+  if (!inside) return false;
+  const std::string_view last = cells.back();
+  std::string_view line(cells.front().data(),
+                        static_cast<std::size_t>(last.data() + last.size() - cells.front().data()));
+  for (std::string_view& cell : cells) next_part(line, ";", cell);
+  return true;
 }
 
 }  // namespace
@@ -35,23 +34,31 @@ bool number_importable(std::string_view number) {
   return number.size() > kLongestDroppedNumber && is_numeric(number);
 }
 
-FlatTable entry_rows(const TextRows& lines, bool suppress_short_names,
+FlatTable entry_rows(FlatTable rows, bool suppress_short_names,
                      const std::function<void(std::size_t, std::size_t)>& on_step) {
-  FlatTable rows(kEntryColumns);
-  rows.reserve(lines.size(), lines.bytes());
-  std::string name_buffer;
-  std::string address_buffer;
-  for (std::size_t i = 0; i < lines.size(); ++i) {
-    on_step(i + 1, lines.size());
-    std::string_view line = lines[i];
-    if (line.find(';') == line.npos) continue;
-    const std::string_view name = next_field(line);
-    const std::string_view number = next_field(line);
-    const std::string_view address = next_field(line);
-    if (!number_importable(number)) continue;
-    if (suppress_short_names && name.size() < kShortestName) continue;
-    rows.add_row(std::array{shown(name, name_buffer), number, shown(address, address_buffer)});
-  }
+  const std::size_t total = rows.rows();
+  std::size_t done = 0;
+  rows.rewrite_rows([&](Cells cells) {
+    on_step(++done, total);
+    shift_at_separators(cells);
+    if (!number_importable(cells[kEntryNumber])) return false;
+    if (suppress_short_names && cells[kEntryName].size() < kShortestName) return false;
+    for (const EntryColumn column : {kEntryName, kEntryAddress})
+      cells[column] = trim(cells[column]);
+    return true;
+  });
+  rows.replace('|', ',');
+  return rows;
+}
+
+FlatTable caller_rows(FlatTable rows) {
+  rows.rewrite_rows([](Cells cells) {
+    if (!shift_at_separators(cells)) return is_numeric(cells[kEntryNumber]);
+    const bool kept = is_numeric(cells[kEntryNumber]);
+    cells[kEntryNumber] = cells[kEntryNumber].substr(0, 0);
+    cells[kEntryAddress] = cells[kEntryAddress].substr(0, 0);
+    return kept;
+  });
   return rows;
 }
 

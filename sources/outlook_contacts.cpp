@@ -1,5 +1,6 @@
 #include "sources/outlook_contacts.h"
 
+#include "text/entry_text.h"
 #include "text/text.h"
 
 namespace quenda {
@@ -24,7 +25,7 @@ constexpr std::array<std::size_t, kContactAnniversary> kFieldOfColumn = {8,  9, 
 
 std::string address_cell(std::string_view postal_code, std::string_view city,
                          std::string_view street) {
-  return replace_all(concat(postal_code, " ", city, ";", street), kCrLf, " ");
+  return concat(entry_text(postal_code), " ", entry_text(city), ";", entry_text(street));
 }
 
 enum class Address { kNone, kPrivate, kBusiness };
@@ -39,8 +40,7 @@ Address address_of(std::size_t kind, const NumberKindChoice& choice) {
   return business ? Address::kBusiness : Address::kPrivate;
 }
 
-/// "first;second" as "first<between>second", or the other way round. What a third ";" cuts off (a
-/// company name may hold one) is left out.
+/// "first;second" as "first<between>second", or the other way round.
 void join_pair(std::string& out, std::string_view pair, std::string_view between, bool flip) {
   std::string_view first;
   std::string_view second;
@@ -53,16 +53,18 @@ void join_pair(std::string& out, std::string_view pair, std::string_view between
 
 void add_contact(ContactTable& table, const OutlookContact& contact) {
   const bool nameless = contact[kFirstName].empty() && contact[kLastName].empty();
-  const std::string name = nameless ? concat(contact[kCompany], ";")
-                                    : concat(contact[kFirstName], ";", contact[kLastName]);
+  const std::string name =
+      nameless ? concat(entry_text(contact[kCompany]), ";")
+               : concat(entry_text(contact[kFirstName]), ";", entry_text(contact[kLastName]));
   const std::string home =
       address_cell(contact[kHomePostalCode], contact[kHomeCity], contact[kHomeStreet]);
   const std::string business =
       address_cell(contact[kBusinessPostalCode], contact[kBusinessCity], contact[kBusinessStreet]);
+  std::array<std::string, kFieldOfColumn.size()> others;
   std::array<std::string_view, kContactColumns> cells;
   cells[kContactName] = name;
   for (std::size_t i = 0; i < kFieldOfColumn.size(); ++i) {
-    cells[i + 1] = contact[kFieldOfColumn[i]];
+    cells[i + 1] = others[i] = entry_number(contact[kFieldOfColumn[i]]);
   }
   cells[kContactPrivateAddress] = home;
   cells[kContactBusinessAddress] = business;
@@ -71,6 +73,10 @@ void add_contact(ContactTable& table, const OutlookContact& contact) {
 
 FlatTable preview_rows(const ContactTable& contacts, const OutlookChoice& choice) {
   FlatTable rows(3);
+  std::array<std::string, kNumberKinds + 1> suffixes;
+  for (std::size_t kind = 1; kind <= kNumberKinds; ++kind) {
+    suffixes[kind] = entry_text(choice.kinds[kind].suffix);
+  }
   std::string name;
   std::string address;
   for (std::size_t i = 0; i < contacts.rows(); ++i) {
@@ -80,7 +86,7 @@ FlatTable preview_rows(const ContactTable& contacts, const OutlookChoice& choice
       const std::string_view number = contacts.cell(i, kind);
       if (number.empty()) continue;
       join_pair(name, contacts.cell(i, kContactName), " ", choice.flip_name);
-      name.append(" ").append(chosen.suffix);
+      name.append(" ").append(suffixes[kind]);
       const Address source = address_of(kind, chosen);
       address.clear();
       if (source != Address::kNone) {

@@ -62,8 +62,8 @@ class ContactTable : public FlatTable {
   ContactTable() : FlatTable(kContactColumns) {}
 };
 
-/// Adds a contact's row. Without first and last name the company stands for the name; line breaks
-/// in addresses become blanks.
+/// Adds a contact's row. Without first and last name the company stands for the name. Line breaks
+/// become blanks; a ";" becomes "," in names and addresses, and goes from numbers.
 void add_contact(ContactTable& table, const OutlookContact& contact);
 
 /// What the user has ticked and typed for one number kind.

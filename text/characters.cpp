@@ -94,22 +94,21 @@ std::int16_t filter_key(std::int16_t code, KeyFilter filter) {
                                                                                  : std::int16_t{0};
 }
 
-void remove_repeated_lines(TextRows& lines, const std::function<void()>& pause) {
+void remove_repeated_lines(FlatTable& rows, const std::function<void()>& pause) {
   constexpr std::size_t kAhead = 12;
-  constexpr std::size_t kLinesPerPause = 4096;
-  std::vector<std::uint64_t> hashes(lines.size());
+  constexpr std::size_t kRowsPerPause = 4096;
+  std::vector<std::uint64_t> hashes(rows.rows());
   for (std::size_t i = 0; i < hashes.size(); ++i) {
-    if (i % kLinesPerPause == 0) pause();
-    hashes[i] = hash_of(lines[i]);
+    if (i % kRowsPerPause == 0) pause();
+    hashes[i] = hash_of(rows.line(i));
   }
-  ViewIndex kept(lines.size());
-  const auto kept_line = [&](std::uint32_t row) { return lines[row]; };
-  std::size_t at = 0;
-  lines.keep_rows([&](std::string_view line, std::size_t position) {
-    if (at % kLinesPerPause == 0) pause();
-    if (at + kAhead < hashes.size()) kept.announce(hashes[at + kAhead]);
-    const std::uint64_t hash = hashes[at++];
-    return !line.empty() && kept.find_or_add(line, hash, static_cast<std::uint32_t>(position),
+  ViewIndex kept(rows.rows());
+  const auto kept_line = [&](std::uint32_t row) { return rows.line(row); };
+  rows.keep_rows([&](std::size_t row, std::size_t place) {
+    if (row % kRowsPerPause == 0) pause();
+    if (row + kAhead < hashes.size()) kept.announce(hashes[row + kAhead]);
+    const std::string_view line = rows.line(row);
+    return !line.empty() && kept.find_or_add(line, hashes[row], static_cast<std::uint32_t>(place),
                                              kept_line) == ViewIndex::kNone;
   });
 }

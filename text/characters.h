@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "text/text_rows.h"
+#include "text/flat_table.h"
 
 namespace quenda {
 
@@ -32,9 +32,9 @@ enum class KeyFilter {
 /// What a typed key (Windows-1252 code) puts into a field, 0 for nothing.
 std::int16_t filter_key(std::int16_t code, KeyFilter filter);
 
-/// Drops empty lines and lines that are there already, letter for letter. The first one stays.
-/// `pause` is called every few thousand lines.
+/// Drops rows whose line is empty or there already, letter for letter. The first one stays. `pause`
+/// is called every few thousand rows.
 void remove_repeated_lines(
-    TextRows& lines, const std::function<void()>& pause = [] {});
+    FlatTable& rows, const std::function<void()>& pause = [] {});
 
 }  // namespace quenda

@@ -1,10 +1,17 @@
 #include "text/flat_table.h"
 
+#include <algorithm>
+#include <cstring>
 #include <limits>
 
 #include "text/fault.h"
 
 namespace quenda {
+namespace {
+
+constexpr char kBetweenCells = ';';
+
+}  // namespace
 
 void FlatTable::check(std::size_t row, std::size_t column) const {
   if (row >= rows() || column >= columns_) raise_fault(kFaultIndexRange);
@@ -12,10 +19,22 @@ void FlatTable::check(std::size_t row, std::size_t column) const {
 
 std::string_view FlatTable::cell(std::size_t row, std::size_t column) const {
   check(row, column);
-  std::size_t start = starts_[row];
+  std::size_t start = starts_[row] + column;
   const std::uint32_t* const length = &lengths_[row * columns_];
   for (std::size_t i = 0; i < column; ++i) start += length[i];
-  return std::string_view(buffer_).substr(start, length[column]);
+  return {buffer_.data() + start, length[column]};
+}
+
+std::size_t FlatTable::size_of(std::size_t row) const {
+  std::size_t size = columns_ - 1;
+  const std::uint32_t* const length = &lengths_[row * columns_];
+  for (std::size_t i = 0; i < columns_; ++i) size += length[i];
+  return size;
+}
+
+std::string_view FlatTable::line(std::size_t row) const {
+  check(row, 0);
+  return {buffer_.data() + starts_[row], size_of(row)};
 }
 
 void FlatTable::reserve(std::size_t rows, std::size_t bytes) {
@@ -30,6 +49,7 @@ std::size_t FlatTable::store(std::span<const std::string_view> cells,
   for (std::size_t i = 0; i < columns_; ++i) {
     const std::string_view text = i < cells.size() ? cells[i] : std::string_view();
     if (text.size() > std::numeric_limits<std::uint32_t>::max()) raise_fault(kFaultOutOfMemory);
+    if (i > 0) buffer_ += kBetweenCells;
     buffer_ += text;
     lengths[i] = static_cast<std::uint32_t>(text.size());
   }
@@ -37,9 +57,8 @@ std::size_t FlatTable::store(std::span<const std::string_view> cells,
 }
 
 void FlatTable::add_row(std::span<const std::string_view> cells) {
-  const std::size_t first = lengths_.size();
-  lengths_.resize(first + columns_);
-  starts_.push_back(store(cells, std::span(lengths_).subspan(first, columns_)));
+  lengths_.resize(lengths_.size() + columns_);
+  starts_.push_back(store(cells, std::span(lengths_).last(columns_)));
 }
 
 void FlatTable::set_cell(std::size_t row, std::size_t column, std::string_view text) {
@@ -47,7 +66,7 @@ void FlatTable::set_cell(std::size_t row, std::size_t column, std::string_view t
   std::vector<std::string> kept;
   for (std::size_t i = 0; i < columns_; ++i) kept.emplace_back(i == column ? text : cell(row, i));
   const std::vector<std::string_view> cells(kept.begin(), kept.end());
-  starts_[row] = store(cells, std::span(lengths_).subspan(row * columns_, columns_));
+  starts_[row] = store(cells, lengths_of(row));
 }
 
 void FlatTable::remove_row(std::size_t row) {
@@ -58,10 +77,40 @@ void FlatTable::remove_row(std::size_t row) {
   lengths_.erase(first, first + static_cast<Offset>(columns_));
 }
 
-void FlatTable::clear() {
-  buffer_.clear();
-  starts_.clear();
-  lengths_.clear();
+void FlatTable::clear() { cut(0, 0); }
+
+void FlatTable::replace(char from, char to) {
+  std::replace(buffer_.begin(), buffer_.end(), from, to);
+}
+
+void FlatTable::pack(std::size_t row, std::size_t place, std::size_t& written) {
+  const std::size_t size = size_of(row);
+  if (starts_[row] != written) {
+    std::memmove(buffer_.data() + written, buffer_.data() + starts_[row], size);
+  }
+  if (place != row) std::copy_n(&lengths_[row * columns_], columns_, &lengths_[place * columns_]);
+  starts_[place] = written;
+  written += size;
+}
+
+void FlatTable::pack(std::span<const std::string_view> cells, std::size_t place,
+                     std::size_t& written) {
+  starts_[place] = written;
+  char* to = buffer_.data() + written;
+  std::uint32_t* length = &lengths_[place * columns_];
+  for (const std::string_view cell : cells) {
+    if (length != &lengths_[place * columns_]) *to++ = kBetweenCells;
+    if (!cell.empty()) std::memmove(to, cell.data(), cell.size());
+    to += cell.size();
+    *length++ = static_cast<std::uint32_t>(cell.size());
+  }
+  written = static_cast<std::size_t>(to - buffer_.data());
+}
+
+void FlatTable::cut(std::size_t rows, std::size_t bytes) {
+  starts_.resize(rows);
+  lengths_.resize(rows * columns_);
+  buffer_.resize(bytes);
 }
 
 }  // namespace quenda

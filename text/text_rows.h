@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstddef>
-#include <cstring>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -33,34 +32,11 @@ class TextRows {
   void append(char character) { text_ += character; }
   void end_row() { ends_.push_back(text_.size()); }
 
-  /// Drops every row for which `keep(row, position)` is false, in place and in one pass; the others
-  /// stay in their order. `keep` gets each row, from the first to the last, and the position that
-  /// it would have; the rows before that position are the ones kept so far.
-  template <class Keep>
-  void keep_rows(Keep keep);
-
  private:
   [[nodiscard]] std::size_t end_of_last() const { return ends_.empty() ? 0 : ends_.back(); }
 
   std::string text_;
   std::vector<std::size_t> ends_;
 };
-
-template <class Keep>
-void TextRows::keep_rows(Keep keep) {
-  std::size_t kept = 0;
-  std::size_t written = 0;
-  std::size_t start = 0;
-  for (const std::size_t end : ends_) {
-    if (keep(std::string_view(text_.data() + start, end - start), kept)) {
-      if (written != start) std::memmove(text_.data() + written, text_.data() + start, end - start);
-      written += end - start;
-      ends_[kept++] = written;
-    }
-    start = end;
-  }
-  text_.resize(written);
-  ends_.resize(kept);
-}
 
 }  // namespace quenda

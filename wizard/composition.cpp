@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "text/conversions.h"
+#include "text/entry_text.h"
 #include "text/fault.h"
 #include "text/text.h"
 
@@ -23,7 +24,13 @@ const std::array<Order, 2>& orders_of_two() {
   return orders;
 }
 
-void append_without_quotes(std::string& out, std::string_view field) {
+/// Adds the field as the cell of an entry has it: without quotes, and with a blank for a line
+/// break.
+void append_cell(std::string& out, std::string_view field) {
+  if (field.find_first_of("\r\n") != field.npos) {
+    append_cell(out, without_line_breaks(field));
+    return;
+  }
   for (auto at = field.find('"'); at != field.npos; at = field.find('"')) {
     out += field.substr(0, at);
     field.remove_prefix(at + 1);
@@ -32,9 +39,9 @@ void append_without_quotes(std::string& out, std::string_view field) {
 }
 
 void append_name(std::string& out, std::string_view first, std::string_view second, bool flip) {
-  append_without_quotes(out, flip ? second : first);
+  append_cell(out, flip ? second : first);
   out += ' ';
-  append_without_quotes(out, flip ? first : second);
+  append_cell(out, flip ? first : second);
 }
 
 template <class Parts>
@@ -108,8 +115,9 @@ std::string address_preview(const std::vector<std::string>& parts, const Order& 
   return preview;
 }
 
-LineComposer::LineComposer(Composition composition, char delimiter, CleanNumber clean)
+EntryComposer::EntryComposer(Composition composition, char delimiter, CleanNumber clean)
     : composition_(std::move(composition)), delimiter_(delimiter), clean_(std::move(clean)) {
+  for (std::string& suffix : composition_.suffixes) suffix = entry_text(suffix);
   const ColumnChoice& columns = composition_.columns;
   for (const auto* positions :
        {&columns.names, &columns.numbers, &columns.addresses[0], &columns.addresses[1]}) {
@@ -117,7 +125,7 @@ LineComposer::LineComposer(Composition composition, char delimiter, CleanNumber 
   }
 }
 
-void LineComposer::compose(const RecordTable& records, std::size_t record, TextRows& lines) {
+void EntryComposer::compose(const RecordTable& records, std::size_t record, FlatTable& entries) {
   fields_.split(records, record, delimiter_, last_column_);
   if (!fields_.has_delimiter()) return;
   const ColumnChoice& columns = composition_.columns;
@@ -131,33 +139,28 @@ void LineComposer::compose(const RecordTable& records, std::size_t record, TextR
   std::string number;
   for (std::size_t row = 0; row < rows; ++row) {
     number.clear();
-    append_without_quotes(number, fields_[columns.numbers[row]]);
+    append_cell(number, fields_[columns.numbers[row]]);
     if (number.empty()) continue;
-    add_line(row, clean_(number), lines);
+    add_entry(row, clean_(number), entries);
   }
 }
 
-void LineComposer::add_line(std::size_t row, std::string_view number, TextRows& lines) {
+void EntryComposer::add_entry(std::size_t row, std::string_view number, FlatTable& entries) {
   const std::string_view address = address_of(row);
   if (!is_numeric(number)) return;
   const std::size_t name_size = name_.size();
   name_.append(" ").append(composition_.suffixes[row]);
-  lines.append(trim(name_));
-  lines.append(';');
-  lines.append(number);
-  lines.append(';');
-  lines.append(address);
-  lines.end_row();
+  entries.add_row(std::array{trim(name_), number, address});
   name_.resize(name_size);
 }
 
-std::string_view LineComposer::address_of(std::size_t row) {
+std::string_view EntryComposer::address_of(std::size_t row) {
   const Binding binding = composition_.bindings[row];
   if (binding == Binding::kNone) return {};
   const auto& positions = composition_.columns.addresses[binding == Binding::kAddress2 ? 1 : 0];
   for (std::size_t i = 0; i < parts_.size(); ++i) {
     parts_[i].clear();
-    if (i < positions.size()) append_without_quotes(parts_[i], fields_[positions[i]]);
+    if (i < positions.size()) append_cell(parts_[i], fields_[positions[i]]);
   }
   address_.clear();
   append_parts(address_, parts_, composition_.address_order);

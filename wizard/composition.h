@@ -8,9 +8,9 @@
 #include <vector>
 
 #include "sources/record_table.h"
-#include "text/text_rows.h"
+#include "text/flat_table.h"
 
-// How one record becomes entry lines: name, cleaned number and address, one line per number.
+// How one record becomes rows of entries: name, cleaned number and address, one row per number.
 namespace quenda {
 
 inline constexpr std::size_t kNumberRows = 3;
@@ -26,7 +26,7 @@ struct ColumnChoice {
   std::array<std::vector<std::size_t>, kAddressCount> addresses;
 };
 
-/// Everything that the pages of the wizard settle about the entry lines.
+/// Everything that the pages of the wizard settle about the entries.
 struct Composition {
   ColumnChoice columns;
   bool flip_name = false;
@@ -60,17 +60,18 @@ std::string address_preview(const std::vector<std::string>& parts,
 /// Brings a number into dialling form.
 using CleanNumber = std::function<std::string(std::string_view)>;
 
-/// Turns records into entry lines; made once for all records of a file.
-class LineComposer {
+/// Turns records into rows of entries; made once for all records of a file.
+class EntryComposer {
  public:
-  LineComposer(Composition composition, char delimiter, CleanNumber clean);
+  EntryComposer(Composition composition, char delimiter, CleanNumber clean);
 
-  /// Adds the record's lines, at most one per number row, in row order. A record without the
-  /// delimiter has none. Fault 9 when a chosen column that is needed is missing in the record.
-  void compose(const RecordTable& records, std::size_t record, TextRows& lines);
+  /// Adds the record's rows (name, number, address), at most one per number row, in their order. A
+  /// record without the delimiter has none. Line breaks in a cell become blanks. Fault 9 when a
+  /// chosen column that is needed is missing in the record.
+  void compose(const RecordTable& records, std::size_t record, FlatTable& entries);
 
  private:
-  void add_line(std::size_t row, std::string_view number, TextRows& lines);
+  void add_entry(std::size_t row, std::string_view number, FlatTable& entries);
   [[nodiscard]] std::string_view address_of(std::size_t row);
 
   Composition composition_;

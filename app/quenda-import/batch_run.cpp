@@ -118,6 +118,9 @@ void BatchRun::run() {
     // The forms end the program in the end, and whenever they have to.
   }
   progress_.clear();
+  if (main_.book_line_end == LineEnd::kLf) {
+    say(u8"Warnung: Das Telefonbuch hat LF statt CR LF am Ende seiner Zeilen."_de);
+  }
   if (link_.result().empty()) return;
   console_.out << link_.result() << '\n';
   status_ = kExitDone;

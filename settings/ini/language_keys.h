@@ -70,6 +70,10 @@ inline constexpr std::array kLanguageKeys = {
     LanguageKey{"Import_Info_LoadBook", "Telefonbuch laden"},
     LanguageKey{"Import_Info_FilterData", "Importdaten filtern"},
     LanguageKey{"Import_Info_WriteBook", "Telefonbuch schreiben"},
+    LanguageKey{"Import_Info_BookHasLf", "Telefonbuch mit LF statt CR LF gelesen"},
+    LanguageKey{"Import_Msg_BookLineEnds",
+                u8"Das Telefonbuch wurde nicht geändert, weil seine Zeilen verschieden enden!"_de},
+    LanguageKey{"Import_Msg_BookLineWithoutEnd", "Zeile ohne CR LF am Ende:"},
     LanguageKey{"Import_Msg_DDENotConnect", "Es besteht keine DDE-Verbindung zu Quenda!"},
     LanguageKey{"Import_Msg_RefreshInfo",
                 "Nach dem Import ist es erforderlich das Telefonbuch durch \"Aktualisieren\" (F5) "

@@ -121,6 +121,27 @@ TEST_F(LastPage, FaultyBookLineStopsTheImportBeforeAnythingIsWritten) {
   EXPECT_EQ(book(), std::string(kOldLine) + line("Huber", "0897654321"));
 }
 
+TEST_F(LastPage, BookWithLineFeedsOnlyIsReadAndWrittenWithCrLf) {
+  machine.files.put(kBookPath, "A;1;0;0;0;0;;;[vcd()vcd]\nB;2;0;0;0;0;;;[vcd(x\ny)vcd]\n");
+  enter();
+  finish();
+  EXPECT_EQ(form->StatusBar.panel(3), "Telefonbuch mit LF statt CR LF gelesen");
+  EXPECT_EQ(book(), line("A", "1") + "B;2;0;0;0;0;;;[vcd(x\ny)vcd]\r\n" + line("Neu", "030123456") +
+                        line("Huber", "0897654321"));
+}
+
+TEST_F(LastPage, BookWithTwoEntriesInALineIsLeftAlone) {
+  const std::string mixed = line("A", "1") + "B;2;0;0;0;0;;;[vcd()vcd]\n" + line("C", "3");
+  machine.files.put(kBookPath, mixed);
+  enter();
+  forward();
+  EXPECT_EQ(last_box(),
+            u8"Das Telefonbuch wurde nicht geändert, weil seine Zeilen verschieden enden!\r\n"
+            u8"Zeile ohne CR LF am Ende: 2"_de);
+  EXPECT_EQ(book(), mixed);
+  EXPECT_EQ(machine.host_link.texts, Texts{"ON"});
+}
+
 TEST_F(LastPage, BookThatCannotBeWrittenIsReported) {
   for (const int fault : {kFaultPermissionDenied, kFaultPathAccess, kFaultDiskFull}) {
     machine.files.refuse_writing(kBookPath, fault);

@@ -11,11 +11,18 @@ namespace {
 
 using Row = std::array<std::string, kEntryColumns>;
 
-std::vector<Row> rows_of(const std::vector<std::string>& lines, bool suppress_short_names) {
-  TextRows text;
-  for (const std::string& line : lines) text.add_row(line);
-  const FlatTable table = entry_rows(text, suppress_short_names, [](auto, auto) {});
-  std::vector<Row> rows;
+using Rows = std::vector<Row>;
+
+FlatTable table_of(const Rows& rows) {
+  FlatTable table(kEntryColumns);
+  for (const Row& row : rows) {
+    table.add_row(std::array<std::string_view, kEntryColumns>{row[0], row[1], row[2]});
+  }
+  return table;
+}
+
+Rows rows_of(const FlatTable& table) {
+  Rows rows;
   for (std::size_t i = 0; i < table.rows(); ++i) {
     rows.push_back({std::string(table.cell(i, 0)), std::string(table.cell(i, 1)),
                     std::string(table.cell(i, 2))});
@@ -23,28 +30,50 @@ std::vector<Row> rows_of(const std::vector<std::string>& lines, bool suppress_sh
   return rows;
 }
 
-TEST(EntryRows, TurnBarsIntoCommasAndTrimNameAndAddress) {
-  EXPECT_EQ(rows_of({" Meier|Hans ;03012345678; Hauptstr. 1|Berlin "}, true),
-            (std::vector<Row>{{"Meier,Hans", "03012345678", "Hauptstr. 1,Berlin"}}));
+Rows listed(const Rows& rows, bool suppress_short_names) {
+  return rows_of(entry_rows(table_of(rows), suppress_short_names, [](auto, auto) {}));
 }
 
-TEST(EntryRows, TakeTheFirstThreeFields) {
-  EXPECT_EQ(rows_of({"Meier;03012345678;a;b", "Huber;08912345678"}, true),
-            (std::vector<Row>{{"Meier", "03012345678", "a"}, {"Huber", "08912345678", ""}}));
+TEST(EntryRows, TurnBarsIntoCommasAndTrimNameAndAddress) {
+  EXPECT_EQ(
+      listed(
+          {{" Meier|Hans ", "03012345678", " Hauptstr. 1|Berlin "}, {"Huber|", "08912345678", ""}},
+          true),
+      (Rows{{"Meier,Hans", "03012345678", "Hauptstr. 1,Berlin"}, {"Huber,", "08912345678", ""}}));
+}
+
+TEST(EntryRows, SeparatorsInsideCellsShiftTheFields) {
+  EXPECT_EQ(listed({{"Meier;03012345678", "08912345678", "a"},
+                    {"Meier;Hans", "03012345678", ""},
+                    {"Meier", "03012345678", " a ;b"},
+                    {"Ende", "03012345670", "x"}},
+                   true),
+            (Rows{{"Meier", "03012345678", "08912345678"},
+                  {"Meier", "03012345678", "a"},
+                  {"Ende", "03012345670", "x"}}));
+}
+
+TEST(CallerRows, HaveNoNumberWhereTheNameHasASeparator) {
+  EXPECT_EQ(rows_of(caller_rows(table_of({{"Meier|H ", "030", ""},
+                                          {"Meier;12", "030", ""},
+                                          {"Meier;Hans", "030", ""},
+                                          {"Huber", "089", ""}}))),
+            (Rows{{"Meier|H ", "030", ""}, {"Meier", "", ""}, {"Huber", "089", ""}}));
 }
 
 TEST(EntryRows, LeaveOutWhatHasNoImportableNumber) {
   EXPECT_TRUE(
-      rows_of({"Meier", "Meier;1234567;", "Meier;0800PIZZA;", "Meier;;03012345678", ""}, false)
+      listed({{"Meier", "1234567", ""}, {"Meier", "0800PIZZA", ""}, {"Meier", "", "03012345678"}},
+             false)
           .empty());
-  EXPECT_EQ(rows_of({"Meier;12345678;"}, false).size(), 1U);
+  EXPECT_EQ(listed({{"Meier", "12345678", ""}}, false).size(), 1U);
 }
 
 TEST(EntryRows, ShortNamesPassUnlessSuppressed) {
-  const std::vector<std::string> lines = {"Ed;03012345678;", "Eva;03012345679;",
-                                          " E ;03012345670;"};
-  EXPECT_EQ(rows_of(lines, false).size(), 3U);
-  const auto rows = rows_of(lines, true);
+  const Rows all = {
+      {"Ed", "03012345678", ""}, {"Eva", "03012345679", ""}, {" E ", "03012345670", ""}};
+  EXPECT_EQ(listed(all, false).size(), 3U);
+  const Rows rows = listed(all, true);
   ASSERT_EQ(rows.size(), 2U);
   EXPECT_EQ(rows[0][0], "Eva");
   EXPECT_EQ(rows[1][0], "E") << "the length counts before the blanks are taken off";

@@ -50,6 +50,20 @@ TEST(ContactTable, CompanyStandsForAMissingName) {
   EXPECT_EQ(row(rows, 0), (Row{"Beispiel GmbH  Firma", "030 1234567", ""}));
 }
 
+TEST(ContactTable, SeparatorsAndLineBreaksDoNotReachAnEntry) {
+  OutlookContact contact;
+  contact[1] = "Ann\r\nMarie";
+  contact[2] = "Wei;l";
+  contact[4] = "Weg 1;\nHof";
+  contact[8] = "030;12\r\n34";
+  ContactTable table;
+  add_contact(table, contact);
+  OutlookChoice choice;
+  choice.kinds[1] = {.import = true, .first_address = true, .suffix = "a;b"};
+  EXPECT_EQ(row(preview_rows(table, choice), 0),
+            (Row{"Ann Marie Wei,l a,b", "03012 34", ", Weg 1, Hof"}));
+}
+
 class Preview : public testing::Test {
  protected:
   Preview() { add_contact(table_, numbered_contact()); }

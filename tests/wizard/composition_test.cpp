@@ -25,12 +25,12 @@ class Compose : public testing::Test {
   }
   [[nodiscard]] Texts lines(const std::string& record) const {
     const RecordTable table = build_records(record + "\r\n", ';', [](auto, auto) {});
-    LineComposer composer(composition_, ';',
-                          [](std::string_view number) { return clean_number(number, "0049"); });
-    TextRows rows;
+    EntryComposer composer(composition_, ';',
+                           [](std::string_view number) { return clean_number(number, "0049"); });
+    FlatTable rows(3);
     composer.compose(table, 0, rows);
     Texts result;
-    for (std::size_t i = 0; i < rows.size(); ++i) result.emplace_back(rows[i]);
+    for (std::size_t i = 0; i < rows.rows(); ++i) result.emplace_back(rows.line(i));
     return result;
   }
   Composition composition_;
@@ -62,6 +62,12 @@ TEST_F(Compose, KeepsTheBlankOfAnEmptyPartInside) {
   composition_.bindings[0] = Binding::kAddress1;
   EXPECT_EQ(lines("Meier;;030;;Hauptstr. 1;;Berlin;"),
             Texts{"Meier  mobil;030;Hauptstr. 1  Berlin"});
+}
+
+TEST_F(Compose, NoLineBreakAndNoSuffixSeparatorReachesAnEntry) {
+  composition_.suffixes[0] = "pr;ivat";
+  composition_.bindings[0] = Binding::kAddress2;
+  EXPECT_EQ(lines("Mei\rer;\rHans;030;;a;b;c;Weg\r1"), Texts{"Mei er  Hans pr,ivat;030;Weg 1"});
 }
 
 TEST_F(Compose, LeavesOutWhatIsNoNumber) {

@@ -162,6 +162,19 @@ TEST_F(BatchRunTest, FaultsAreReportedWithTheirProcedure) {
   EXPECT_THAT(errors_.str(), HasSubstr("fMain.Add: Fehler 61"));
 }
 
+TEST_F(BatchRunTest, SaysWhatIsWrongWithTheLineEndsOfTheBook) {
+  constexpr std::string_view kLines = "A;1;0;0;0;0;;;[vcd()vcd]\nB;2;0;0;0;0;;;[vcd()vcd]\n";
+  take_file(kTwoContacts);
+  machine_.files.put(kBook, std::string(kLines) + "\r\n");
+  EXPECT_EQ(run(), kExitRefused);
+  EXPECT_THAT(errors_.str(), HasSubstr("Zeile ohne CR LF am Ende: 1"));
+  EXPECT_EQ(machine_.files.writes(kBook), 0);
+  machine_.files.put(kBook, kLines);
+  EXPECT_EQ(run(), kExitDone);
+  EXPECT_THAT(errors_.str(), HasSubstr("Warnung: Das Telefonbuch hat LF statt CR LF"));
+  EXPECT_TRUE(book().starts_with(replace_all(kLines, "\n", "\r\n")));
+}
+
 TEST_F(BatchRunTest, WarnsOfOtherEncodings) {
   const std::string rows = ";Festnetz\r\nJ;030 5550123\r\n";
   options_.dry_run = true;
