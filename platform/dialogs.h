@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -34,14 +35,18 @@ struct ChosenFile {
   std::string unusable;
 };
 
+/// Runs what the system calls for in the middle of a dialog, under a name that reports can tell.
+using DialogHook = std::function<void(const std::function<void()>& action)>;
+
 class Dialogs {
  public:
   virtual ~Dialogs() = default;
   /// Shows a box over the active window and returns when the user has closed it.
   virtual MessageAnswer message_box(std::string_view text, MessageStyle style,
                                     std::string_view title) = 0;
-  /// Lets the user choose an existing file, in a dialog over the active window.
-  virtual ChosenFile open_file(const std::vector<FileFilter>& filters) = 0;
+  /// Lets the user choose an existing file, in a dialog over the active window. Whenever the dialog
+  /// shows a folder, its list is set up inside the hook.
+  virtual ChosenFile open_file(const std::vector<FileFilter>& filters, const DialogHook& hook) = 0;
 };
 
 }  // namespace quenda

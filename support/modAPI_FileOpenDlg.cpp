@@ -69,8 +69,11 @@ std::vector<FileFilter> fFilter(clsErrorHandling& errors, FilterSet set, const F
 ChosenFile FileOpenDialog(clsErrorHandling& errors, Dialogs& dialogs, FilterSet set,
                           const FilterTexts& texts) {
   ChosenFile chosen;
-  procedure(errors, "modAPI_FileOpenDlg.FileOpenDialog", {name_of(set)},
-            [&] { chosen = dialogs.open_file(fFilter(errors, set, texts)); });
+  procedure(errors, "modAPI_FileOpenDlg.FileOpenDialog", {name_of(set)}, [&] {
+    chosen = dialogs.open_file(fFilter(errors, set, texts), [&](const auto& action) {
+      procedure(errors, "modAPI_FileOpenDlg.OFNHookProc", {}, action);
+    });
+  });
   return chosen;
 }
 

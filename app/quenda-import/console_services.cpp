@@ -12,7 +12,10 @@ MessageAnswer ConsoleDialogs::message_box(std::string_view text, MessageStyle st
   return style == MessageStyle::kQuestionYesNo ? MessageAnswer::kNo : MessageAnswer::kOk;
 }
 
-ChosenFile ConsoleDialogs::open_file(const std::vector<FileFilter>& /*filters*/) { return {}; }
+ChosenFile ConsoleDialogs::open_file(const std::vector<FileFilter>& /*filters*/,
+                                     const DialogHook& /*hook*/) {
+  return {};
+}
 
 void ConsoleEvents::yield() {
   constexpr std::uint64_t kMilliseconds = 50;

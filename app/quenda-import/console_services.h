@@ -40,7 +40,7 @@ class ConsoleDialogs final : public Dialogs {
   MessageAnswer message_box(std::string_view text, MessageStyle style,
                             std::string_view title) override;
   /// There is no file dialog; always the empty text.
-  ChosenFile open_file(const std::vector<FileFilter>& filters) override;
+  ChosenFile open_file(const std::vector<FileFilter>& filters, const DialogHook& hook) override;
 
  private:
   std::ostream& errors_;

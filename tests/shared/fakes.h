@@ -50,8 +50,11 @@ class FakeDialogs : public Dialogs {
     boxes.push_back({std::string(text), style, std::string(title)});
     return taken_from(answers, MessageAnswer::kOk);
   }
-  ChosenFile open_file(const std::vector<FileFilter>& wanted) override {
+  std::function<void()> on_folder_shown;  // runs inside the hook of the file dialogs
+
+  ChosenFile open_file(const std::vector<FileFilter>& wanted, const DialogHook& hook) override {
     filters.push_back(wanted);
+    if (on_folder_shown) hook(on_folder_shown);
     return {.path = taken_from(paths, std::string()), .unusable = {}};
   }
 

@@ -27,6 +27,17 @@ TEST(FileFilters, EndWithAllFiles) {
   EXPECT_EQ(filters(FilterSet::kHtml).size(), 4U);
 }
 
+TEST(FileOpenDialog, OutlivesAFaultOfItsHook) {
+  ErrorService service;
+  FakeDialogs dialogs;
+  dialogs.paths = {"C:\\a.csv"};
+  dialogs.on_folder_shown = [] { raise_fault(5); };
+  EXPECT_EQ(
+      modAPI_FileOpenDlg::FileOpenDialog(service.errors, dialogs, FilterSet::kAll, kTexts).path,
+      "C:\\a.csv");
+  EXPECT_THAT(service.reports, ElementsAre(testing::Pair("modAPI_FileOpenDlg.OFNHookProc", 5)));
+}
+
 TEST(ShellEx, TurnsCodesIntoTextsAndTracesFailures) {
   ErrorService service;
   service.environment.trace_mode = true;

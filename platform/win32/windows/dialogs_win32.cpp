@@ -30,12 +30,27 @@ std::wstring filter_text(const std::vector<FileFilter>& filters) {
   return text;
 }
 
+/// What the procedure of the open dialog is given.
+struct HookContext {
+  MessageLoop& loop;
+  const DialogHook& hook;
+};
+
 /// Shows the files with size and date, by which users tell exports apart.
-UINT_PTR CALLBACK show_details(HWND page, UINT message, WPARAM /*wparam*/, LPARAM lparam) noexcept {
-  if (message != WM_NOTIFY) return 0;
-  if (from_lparam<NMHDR>(lparam)->code != CDN_FOLDERCHANGE) return 0;
-  const HWND view = FindWindowExW(GetParent(page), nullptr, L"SHELLDLL_DefView", nullptr);
+void show_details(HWND dialog) {
+  const HWND view = FindWindowExW(dialog, nullptr, L"SHELLDLL_DefView", nullptr);
   if (view != nullptr) SendMessageW(view, WM_COMMAND, kDetailsView, 0);
+}
+
+UINT_PTR CALLBACK hook_procedure(HWND page, UINT message, WPARAM /*wparam*/,
+                                 LPARAM lparam) noexcept {
+  if (message == WM_INITDIALOG) {
+    SetWindowLongPtrW(page, DWLP_USER, from_lparam<OPENFILENAMEW>(lparam)->lCustData);
+  }
+  const auto* const context = from_lparam<HookContext>(GetWindowLongPtrW(page, DWLP_USER));
+  if (message != WM_NOTIFY || context == nullptr) return 0;
+  if (from_lparam<NMHDR>(lparam)->code != CDN_FOLDERCHANGE) return 0;
+  context->loop.at_edge([&] { context->hook([page] { show_details(GetParent(page)); }); });
   return 0;
 }
 
@@ -67,7 +82,7 @@ MessageAnswer Win32Dialogs::message_box(std::string_view text, MessageStyle styl
   return static_cast<MessageAnswer>(answer);
 }
 
-ChosenFile Win32Dialogs::open_file(const std::vector<FileFilter>& filters) {
+ChosenFile Win32Dialogs::open_file(const std::vector<FileFilter>& filters, const DialogHook& hook) {
   loop_.show_changes();
   const ApartmentScope apartment;
   const std::wstring filter = filter_text(filters);
@@ -80,7 +95,9 @@ ChosenFile Win32Dialogs::open_file(const std::vector<FileFilter>& filters) {
   dialog.nMaxFile = kLongestPath;
   dialog.Flags = OFN_EXPLORER | OFN_ENABLEHOOK | OFN_ENABLESIZING | OFN_FILEMUSTEXIST |
                  OFN_PATHMUSTEXIST | OFN_HIDEREADONLY | OFN_NOCHANGEDIR;
-  dialog.lpfnHook = &show_details;
+  dialog.lpfnHook = &hook_procedure;
+  HookContext context{loop_, hook};
+  dialog.lCustData = as_lparam(&context);
   const bool chosen = GetOpenFileNameW(&dialog) != 0;
   loop_.rethrow();
   if (!chosen) return {};

@@ -10,7 +10,7 @@ class Win32Dialogs : public Dialogs {
   explicit Win32Dialogs(MessageLoop& loop) : loop_(loop) {}
   MessageAnswer message_box(std::string_view text, MessageStyle style,
                             std::string_view title) override;
-  ChosenFile open_file(const std::vector<FileFilter>& filters) override;
+  ChosenFile open_file(const std::vector<FileFilter>& filters, const DialogHook& hook) override;
 
  private:
   MessageLoop& loop_;
