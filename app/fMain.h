@@ -272,8 +272,9 @@ class fMain : public Form {
   [[nodiscard]] std::vector<std::string> address_names(std::size_t address) const;
   void refresh_bound_addresses();
   [[nodiscard]] Composition composition() const;
-  /// Whether the merge came to its end; otherwise the user has been told why not.
-  bool merge_into_book(std::string& book_text, std::string_view& line);
+  enum class Merge { kDone, kFailed, kChangedMeanwhile };
+  /// Where the merge did not come to its end for a fault, the user has been told why.
+  Merge merge_into_book(std::string& book_text, std::string_view& line);
   /// False when the book cannot be read without losing entries; the user has been told then.
   bool read_book(std::string_view text, std::vector<BookEntry>& entries, std::string_view& line);
   void append_new_entries(std::vector<BookEntry>& entries);

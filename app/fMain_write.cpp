@@ -14,17 +14,33 @@
 #include "settings/app.h"
 #include "support/procedure.h"
 #include "text/fault.h"
+#include "text/literal_1252.h"
 #include "text/text.h"
 
 namespace quenda {
+namespace {
+
+constexpr std::string_view kBookName = "Das Telefonbuch";
+
+}  // namespace
 
 void fMain::Add() {
   std::string book_text;
   std::string_view line;  // the line of the book that is being read, for the report of a fault
-  bool merged = false;
+  auto merge = Merge::kFailed;
   const bool done = procedure_with_message(app_.errors, "fMain.Add", {}, line,
-                                           [&] { merged = merge_into_book(book_text, line); });
-  if (!done || !merged) return;
+                                           [&] { merge = merge_into_book(book_text, line); });
+  if (!done || merge == Merge::kFailed) return;
+  if (merge == Merge::kChangedMeanwhile) {
+    // The same entries can be merged into the book as it is now.
+    wizard.CurrentPage = kEntryPage;
+    finish_entry_page(true);
+    app_.message_box(
+        u8"Das Telefonbuch ist inzwischen von einem anderen Programm geändert worden. "
+        u8"Es ist nichts geschrieben worden; \"Übernehmen\" liest es neu."_de,
+        MessageStyle::kExclamation);
+    return;
+  }
   if (!wizard.link_open) {
     app_.message_box(concat(texts.dde_not_connected, kCrLf, texts.refresh_info),
                      MessageStyle::kInformation);
@@ -32,14 +48,14 @@ void fMain::Add() {
   unload();
 }
 
-bool fMain::merge_into_book(std::string& book_text, std::string_view& line) {
+fMain::Merge fMain::merge_into_book(std::string& book_text, std::string_view& line) {
   BusyWork busy(*this);
   const std::string path = app_.paths.book_file();
   std::vector<BookEntry> entries;
-  if (app_.machine.files.exists(path)) {
+  if (app_.machine.files.has_file(path)) {
     StatusBar.set_panel(2, texts.load_book);
     book_text = app_.machine.files.read(path);
-    if (!read_book(book_text, entries, line)) return false;
+    if (!read_book(book_text, entries, line)) return Merge::kFailed;
   }
   const std::size_t in_book = entries.size();
 
@@ -51,19 +67,22 @@ bool fMain::merge_into_book(std::string& book_text, std::string_view& line) {
         return ask_about_double(number, existing, fresh);
       },
       busy.on_step());
-  if (!kept) return false;
+  if (!kept) return Merge::kFailed;
 
   // Entries that a replacement left without number count as kept, and doubles that the book itself
   // held count against the new entries: as many new ones as such doubles are not written.
   if (in_book >= *kept) {
     txtDDE.set_text("nodata");
-    return true;
+    return Merge::kDone;
   }
   StatusBar.set_panel(2, texts.write_book);
   const BookChange change = compose_book(book_text, entries, busy.on_step());
-  app_.machine.files.replace_tail(path, change.keep, change.tail);
+  const std::string_view tail = change.tail;
+  const ReplaceResult result = app_.machine.files.replace_tail(
+      path, {.old_text = book_text, .keep = change.keep, .pieces = {&tail, 1}, .name = kBookName});
+  if (result == ReplaceResult::kChangedMeanwhile) return Merge::kChangedMeanwhile;
   txtDDE.set_text("data");
-  return true;
+  return Merge::kDone;
 }
 
 bool fMain::read_book(std::string_view text, std::vector<BookEntry>& entries,

@@ -1,21 +1,45 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 
 namespace quenda {
 
+/// What becomes of the end of a file that was read before.
+struct TailChange {
+  std::string_view old_text;  // the whole content as it was read; empty for a file to be created
+  std::uint64_t keep = 0;     // bytes at the front that stay as they are
+  std::span<const std::string_view> pieces;  // what follows them; may be views into `old_text`
+  std::string_view name = "Die Datei";       // what a message calls the file
+};
+
+enum class ReplaceResult { kReplaced, kChangedMeanwhile };
+
+/// Something is kept from others as long as it lives.
+class FileLock {
+ public:
+  virtual ~FileLock() = default;
+};
+
 /// The file system as the tool sees it. Paths are the tool's own texts (Windows-1252, backslashes);
 /// contents are bytes. What is not said to be a result value fails with a RuntimeFault: 53 no such
-/// file, 76 no such folder, 70 in use or not permitted, 75 read-only or a folder, 61 disk full, 57
-/// any other trouble of the device.
+/// file, 76 no such folder, 70 in use or not permitted, 75 read-only or no file to work on, 61 disk
+/// full, 57 any other trouble of the device.
 class Files {
  public:
   virtual ~Files() = default;
 
-  /// Whether a file (not a folder) of that path is there.
+  /// Whether the attributes of a file (not a folder) of that path can be read. Where something is
+  /// written when there is no file, has_file is to be asked: what cannot be looked at for a moment
+  /// would be taken for missing, and be overwritten.
   [[nodiscard]] virtual bool exists(std::string_view path) const = 0;
+  /// Whether a file is there; false only when the system says that nothing is. Anything else is a
+  /// fault: 75 for what can be no file to read and to change (a folder, a pipe, a device, a link to
+  /// nothing), else the one that fits why the system cannot tell.
+  [[nodiscard]] virtual bool has_file(std::string_view path) const = 0;
   /// Bytes of the file; 0 when there is none.
   [[nodiscard]] virtual std::uint64_t size(std::string_view path) const = 0;
   /// A number that changes whenever the file does (from size and time of writing); 0 for no file.
@@ -26,12 +50,17 @@ class Files {
   virtual void write(std::string_view path, std::string_view content) = 0;
   /// Adds to the end of the file, which is created when missing.
   virtual void append(std::string_view path, std::string_view content) = 0;
-  /// Replaces everything from byte `keep` on by `tail`, in place, and has the data on the disk when
-  /// it returns. Space for a longer file is taken before anything is overwritten, so that a full
-  /// disk (61) leaves the old content as it was; a shorter file is cut last. A missing file is
-  /// created. While this runs, other programs are kept from writing to the file. Fault 5, and
-  /// nothing is changed, when the file has fewer than `keep` bytes.
-  virtual void replace_tail(std::string_view path, std::uint64_t keep, std::string_view tail) = 0;
+  /// Replaces everything from byte `keep` on, in place, and has the data on the disk when it
+  /// returns. While this runs, other programs are kept from writing to the file. Nothing is done
+  /// when the file no longer holds what was read (kChangedMeanwhile), or is gone (53). A file that
+  /// was not there is created. After a fault the old content stands again, or the fault's
+  /// description says what could not be put back. Fault 5 when `keep` is beyond the old text.
+  [[nodiscard]] virtual ReplaceResult replace_tail(std::string_view path,
+                                                   const TailChange& change) = 0;
+  /// Keeps other runs of this program from the same until the result goes; waits for one that is at
+  /// it. Null when the other one is not done in that time. No file is created for it.
+  [[nodiscard]] virtual std::unique_ptr<FileLock> lock(std::string_view path,
+                                                       std::uint32_t milliseconds) = 0;
   /// Deletes the file; a missing or protected file is left without a word.
   virtual void remove(std::string_view path) noexcept = 0;
 };

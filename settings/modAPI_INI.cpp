@@ -101,8 +101,8 @@ void modAPI_INI::SetSettStr(std::string_view section, std::string_view key, std:
   procedure(errors_, "modAPI_INI.SetSettStr", {section, key, value, file}, [&] {
     if (write_protection) return;
     const std::string path = GetMainPath(file);
-    // A file that is there but cannot be read ends here and keeps its content.
-    const std::string before = files_.exists(path) ? files_.read(path) : std::string();
+    // A file that cannot be looked at or read ends here and keeps its content.
+    const std::string before = files_.has_file(path) ? files_.read(path) : std::string();
     const std::string after = replace_ini_value(before, section, key, value);
     if (after == before) return;
     loaded_.erase(path);

@@ -42,6 +42,10 @@ constexpr std::array kDescriptions = {
 
 RuntimeFault::RuntimeFault(int number) : number_(number), description_(fault_description(number)) {}
 
+RuntimeFault::RuntimeFault(int number, std::string_view addition) : RuntimeFault(number) {
+  description_.append(". ").append(addition);
+}
+
 void raise_fault(int number) { throw RuntimeFault(number); }
 
 std::string_view fault_description(int number) {

@@ -10,6 +10,8 @@ namespace quenda {
 class RuntimeFault : public std::exception {
  public:
   explicit RuntimeFault(int number);
+  /// With a sentence behind the usual description.
+  RuntimeFault(int number, std::string_view addition);
   [[nodiscard]] int number() const { return number_; }
   /// German text, Windows-1252.
   [[nodiscard]] const std::string& description() const { return description_; }

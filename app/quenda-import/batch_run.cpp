@@ -19,6 +19,11 @@
 namespace quenda {
 namespace {
 
+// How long a run waits for another one at the same book, and how often it merges into a book that
+// others keep changing.
+constexpr std::uint32_t kSecondsForOthers = 30;
+constexpr int kMostMerges = 4;
+
 /// One run: the services of the terminal, the forms, and the user who knows beforehand what to do.
 class BatchRun {
  public:
@@ -42,6 +47,8 @@ class BatchRun {
   void choose_names();
   void choose_addresses();
   void write_or_show();
+  /// Merges the entries into the book, anew when it changes meanwhile.
+  void write();
   void answer(Form& form);
   void answer_double(fImportMsg& dialog);
   /// Presses "Weiter"; the page that comes has to be the given one.
@@ -248,7 +255,7 @@ void BatchRun::write_or_show() {
                            : u8"Die Datei enthält nichts zum Einlesen."_de);
   }
   if (!options_.dry_run) {
-    main_.cmdFor.take_user_click();
+    write();
     return;
   }
   progress_.clear();
@@ -258,6 +265,19 @@ void BatchRun::write_or_show() {
                                    "\t", rows.cell(row, kEntryAddress), "\n"));
   }
   status_ = kExitDone;
+}
+
+void BatchRun::write() {
+  const auto lock = machine_.files.lock(app_.paths.book_file(), kSecondsForOthers * 1000);
+  if (!lock) {
+    refuse(concat("Seit ", std::to_string(kSecondsForOthers),
+                  u8" Sekunden schreibt ein anderer Import in dieses Telefonbuch."_de));
+  }
+  // The last page stays usable when another program has changed the book meanwhile.
+  for (int merged = 0; merged < kMostMerges && main_.cmdFor.enabled(); ++merged) {
+    main_.cmdFor.take_user_click();
+  }
+  if (main_.cmdFor.enabled()) refuse(u8"Andere Programme ändern das Telefonbuch immerzu."_de);
 }
 
 void BatchRun::answer(Form& form) {

@@ -3,19 +3,21 @@
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <time.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
+#include <csignal>
 #include <optional>
 
+#include "platform/posix/open_file.h"
 #include "text/fault.h"
 #include "text/text.h"
 
 namespace quenda {
 namespace {
 
-constexpr mode_t kNewFileMode = 0666;
 constexpr mode_t kWriteBits = 0222;
 
 std::optional<struct stat> status_of(const std::string& path) {
@@ -28,83 +30,6 @@ bool is_protected(const struct stat& status) {
   return S_ISREG(status.st_mode) && (status.st_mode & kWriteBits) == 0;
 }
 
-bool folder_is_there(const std::string& path) {
-  const auto slash = path.rfind('/');
-  if (slash == std::string::npos) return true;
-  const auto folder = status_of(path.substr(0, slash + 1));
-  return folder && S_ISDIR(folder->st_mode);
-}
-
-[[noreturn]] void raise_errno(int error, const std::string& path) {
-  switch (error) {
-    case ENOENT:
-      raise_fault(folder_is_there(path) ? kFaultFileNotFound : kFaultPathNotFound);
-    case ENOTDIR:
-      raise_fault(kFaultPathNotFound);
-    case EACCES:
-    case EPERM:
-    case EBUSY:
-    case ETXTBSY:
-    case EWOULDBLOCK:
-      raise_fault(kFaultPermissionDenied);
-    case EISDIR:
-    case EROFS:
-      raise_fault(kFaultPathAccess);
-    case ENOSPC:
-    case EDQUOT:
-    case EFBIG:
-      raise_fault(kFaultDiskFull);
-    default:
-      raise_fault(kFaultInputOutput);
-  }
-}
-
-/// An open file, closed at the end of its scope.
-class OpenFile {
- public:
-  OpenFile(const std::string& path, int flags)
-      : path_(path), descriptor_(::open(path.c_str(), flags | O_CLOEXEC, kNewFileMode)) {
-    if (descriptor_ < 0) raise_errno(errno, path_);
-    if (::fstat(descriptor_, &status_) != 0) fail(errno);
-  }
-  ~OpenFile() { ::close(descriptor_); }
-  OpenFile(const OpenFile&) = delete;
-  OpenFile& operator=(const OpenFile&) = delete;
-
-  [[nodiscard]] int descriptor() const { return descriptor_; }
-  [[nodiscard]] const struct stat& status() const { return status_; }
-  [[nodiscard]] std::uint64_t size() const { return static_cast<std::uint64_t>(status_.st_size); }
-  [[noreturn]] void fail(int error) const { raise_errno(error, path_); }
-
-  /// Keeps other writers out until the file is closed. Systems without locks go on without one.
-  void lock() const {
-    if (::flock(descriptor_, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) fail(EWOULDBLOCK);
-  }
-
-  /// Writes all bytes from the offset on; the result is 0 or the error number.
-  [[nodiscard]] int write_at(std::uint64_t offset, std::string_view bytes) const {
-    while (!bytes.empty()) {
-      const ssize_t done =
-          ::pwrite(descriptor_, bytes.data(), bytes.size(), static_cast<off_t>(offset));
-      if (done < 0 && errno == EINTR) continue;
-      if (done < 0) return errno;
-      if (done == 0) return ENOSPC;
-      bytes.remove_prefix(static_cast<std::size_t>(done));
-      offset += static_cast<std::uint64_t>(done);
-    }
-    return 0;
-  }
-
-  [[nodiscard]] int cut(std::uint64_t length) const {
-    return ::ftruncate(descriptor_, static_cast<off_t>(length)) == 0 ? 0 : errno;
-  }
-
- private:
-  std::string path_;
-  int descriptor_;
-  struct stat status_ {};
-};
-
 /// Refuses what Windows would refuse to open for writing.
 void check_writable(const std::string& path) {
   const auto status = status_of(path);
@@ -115,9 +40,22 @@ void check_path(std::string_view path) {
   if (path.empty() || path.find('\0') != std::string_view::npos) raise_fault(kFaultFileNotFound);
 }
 
-void succeed(const OpenFile& file, int error) {
-  if (error != 0) file.fail(error);
-}
+/// Held by the descriptor of a folder, so that no file is left behind.
+class FolderLock final : public FileLock {
+ public:
+  explicit FolderLock(int descriptor) : descriptor_(descriptor) {}
+  ~FolderLock() override {
+    if (descriptor_ >= 0) ::close(descriptor_);
+  }
+  FolderLock(const FolderLock&) = delete;
+  FolderLock& operator=(const FolderLock&) = delete;
+  [[nodiscard]] bool is_taken_by_another() const {
+    return ::flock(descriptor_, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+  }
+
+ private:
+  int descriptor_;
+};
 
 }  // namespace
 
@@ -127,9 +65,27 @@ std::string posix_path(std::string_view path) {
   return native;
 }
 
+PosixFiles::PosixFiles() {
+  // A file that grows beyond what the user may write is a failure to be told, not the end.
+  std::signal(SIGXFSZ, SIG_IGN);
+}
+
 bool PosixFiles::exists(std::string_view path) const {
   const auto status = status_of(posix_path(path));
   return status && !S_ISDIR(status->st_mode);
+}
+
+bool PosixFiles::has_file(std::string_view path) const {
+  const std::string native = posix_path(path);
+  struct stat status {};
+  if (::stat(native.c_str(), &status) == 0) {
+    if (!S_ISREG(status.st_mode)) raise_fault(kFaultPathAccess);
+    return true;
+  }
+  const int error = errno;
+  if (error != ENOENT && error != ENOTDIR) raise_errno(error, native);
+  if (::lstat(native.c_str(), &status) == 0) raise_fault(kFaultPathAccess);
+  return false;
 }
 
 std::uint64_t PosixFiles::size(std::string_view path) const {
@@ -151,7 +107,7 @@ std::uint64_t PosixFiles::stamp(std::string_view path) const {
 
 std::string PosixFiles::read(std::string_view path) const {
   check_path(path);
-  const OpenFile file(posix_path(path), O_RDONLY);
+  const OpenFile file(posix_path(path), O_RDONLY, true);
   if (S_ISDIR(file.status().st_mode)) raise_fault(kFaultPathAccess);
   // One byte more than the size: the read that fills it short also finds the end. Pipes and files
   // that grow meanwhile are read on until they end.
@@ -176,42 +132,50 @@ void PosixFiles::write(std::string_view path, std::string_view content) {
   check_path(path);
   const std::string native = posix_path(path);
   check_writable(native);
-  const OpenFile file(native, O_WRONLY | O_CREAT);
+  OpenFile file(native, O_WRONLY | O_CREAT);
   file.lock();
-  if (S_ISREG(file.status().st_mode)) succeed(file, file.cut(0));
-  succeed(file, file.write_at(0, content));
+  if (S_ISREG(file.status().st_mode)) file.cut(0);
+  file.write_at(0, content);
 }
 
 void PosixFiles::append(std::string_view path, std::string_view content) {
   check_path(path);
   const std::string native = posix_path(path);
   check_writable(native);
-  const OpenFile file(native, O_WRONLY | O_CREAT | O_APPEND);
   // Opened for appending, every write goes to the end, whatever other programs add meanwhile.
-  succeed(file, file.write_at(file.size(), content));
+  OpenFile file(native, O_WRONLY | O_CREAT | O_APPEND);
+  file.write_at(file.size(), content);
 }
 
-void PosixFiles::replace_tail(std::string_view path, std::uint64_t keep, std::string_view tail) {
+ReplaceResult PosixFiles::replace_tail(std::string_view path, const TailChange& change) {
   check_path(path);
   const std::string native = posix_path(path);
   check_writable(native);
-  const bool existed = status_of(native).has_value();
-  const OpenFile file(native, O_WRONLY | O_CREAT);
-  file.lock();
-  const std::uint64_t old_size = file.size();
-  if (keep > old_size) raise_fault(kFaultInvalidCall);
-  const std::uint64_t replaced = std::min<std::uint64_t>(old_size - keep, tail.size());
-  if (const int error = file.write_at(old_size, tail.substr(replaced)); error != 0) {
-    if (existed) {
-      succeed(file, file.cut(old_size));
-    } else {
-      ::unlink(native.c_str());
-    }
-    file.fail(error);
+  if (!has_file(path) && !change.old_text.empty()) raise_errno(ENOENT, native);
+  OpenFile file(native, O_RDWR | (change.old_text.empty() ? O_CREAT : 0));
+  if (!S_ISREG(file.status().st_mode)) raise_fault(kFaultPathAccess);
+  try {
+    file.lock();
+    return replace_tail_of(file, change);
+  } catch (const RuntimeFault&) {
+    if (file.created()) ::unlink(native.c_str());
+    throw;
   }
-  succeed(file, file.write_at(keep, tail.substr(0, replaced)));
-  if (keep + tail.size() < old_size) succeed(file, file.cut(keep + tail.size()));
-  if (::fsync(file.descriptor()) != 0 && errno != EINVAL) file.fail(errno);
+}
+
+std::unique_ptr<FileLock> PosixFiles::lock(std::string_view path, std::uint32_t milliseconds) {
+  constexpr std::uint32_t kPause = 20;
+  const std::string native = posix_path(path);
+  const auto slash = native.rfind('/');
+  const std::string folder = slash == std::string::npos ? "." : native.substr(0, slash + 1);
+  auto held =
+      std::make_unique<FolderLock>(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  for (std::uint32_t waited = 0; held->is_taken_by_another(); waited += kPause) {
+    if (waited >= milliseconds) return nullptr;
+    const timespec pause{0, kPause * 1'000'000L};
+    ::nanosleep(&pause, nullptr);
+  }
+  return held;
 }
 
 void PosixFiles::remove(std::string_view path) noexcept {

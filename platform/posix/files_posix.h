@@ -15,13 +15,18 @@ std::string posix_path(std::string_view path);
 /// administrator included, as it does under Windows.
 class PosixFiles final : public Files {
  public:
+  PosixFiles();
   [[nodiscard]] bool exists(std::string_view path) const override;
+  [[nodiscard]] bool has_file(std::string_view path) const override;
   [[nodiscard]] std::uint64_t size(std::string_view path) const override;
   [[nodiscard]] std::uint64_t stamp(std::string_view path) const override;
   [[nodiscard]] std::string read(std::string_view path) const override;
   void write(std::string_view path, std::string_view content) override;
   void append(std::string_view path, std::string_view content) override;
-  void replace_tail(std::string_view path, std::uint64_t keep, std::string_view tail) override;
+  [[nodiscard]] ReplaceResult replace_tail(std::string_view path,
+                                           const TailChange& change) override;
+  [[nodiscard]] std::unique_ptr<FileLock> lock(std::string_view path,
+                                               std::uint32_t milliseconds) override;
   void remove(std::string_view path) noexcept override;
 };
 

@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
 
+#include "platform/tail_writing.h"
 #include "platform/win32/handles.h"
 #include "platform/win32/text_win32.h"
 #include "text/fault.h"
@@ -13,13 +15,14 @@ namespace {
 // The cross compiler's headers lack the name.
 constexpr DWORD kQuotaExceeded = 1295;
 constexpr std::uint64_t kLargestPiece = 1ULL << 30U;
+constexpr DWORD kLongPath = 32768;
 
 [[noreturn]] void raise_last_error(const std::wstring& path) {
   raise_fault(fault_of_error(GetLastError(), path.c_str()));
 }
 
 /// A file that is open for one operation; what goes wrong is raised with its path in view.
-class OpenFile {
+class OpenFile final : public TailFile {
  public:
   OpenFile(std::string_view path, DWORD access, DWORD share, DWORD disposition)
       : path_(wide(path)),
@@ -31,7 +34,7 @@ class OpenFile {
 
   [[nodiscard]] bool created() const { return created_; }
 
-  [[nodiscard]] std::uint64_t size() const {
+  [[nodiscard]] std::uint64_t size() const override {
     LARGE_INTEGER size{};
     if (GetFileSizeEx(handle_.get(), &size) == 0) raise_last_error(path_);
     return static_cast<std::uint64_t>(size.QuadPart);
@@ -39,21 +42,26 @@ class OpenFile {
 
   [[nodiscard]] std::string read_all() const {
     std::string content(size(), '\0');
+    content.resize(read_at(0, {content.data(), content.size()}));
+    return content;
+  }
+
+  [[nodiscard]] std::size_t read_at(std::uint64_t position, std::span<char> buffer) const override {
+    move_to(position);
     std::size_t done = 0;
-    while (done < content.size()) {
-      const auto piece = static_cast<DWORD>(std::min(content.size() - done, kLargestPiece));
+    while (done < buffer.size()) {
+      const auto piece = static_cast<DWORD>(std::min(buffer.size() - done, kLargestPiece));
       DWORD got = 0;
-      if (ReadFile(handle_.get(), content.data() + done, piece, &got, nullptr) == 0) {
+      if (ReadFile(handle_.get(), buffer.data() + done, piece, &got, nullptr) == 0) {
         raise_last_error(path_);
       }
       if (got == 0) break;
       done += got;
     }
-    content.resize(done);
-    return content;
+    return done;
   }
 
-  void write_at(std::uint64_t position, std::string_view bytes) const {
+  void write_at(std::uint64_t position, std::string_view bytes) override {
     move_to(position);
     while (!bytes.empty()) {
       const auto piece = static_cast<DWORD>(std::min(bytes.size(), kLargestPiece));
@@ -65,15 +73,11 @@ class OpenFile {
     }
   }
 
-  void cut_at(std::uint64_t length) const {
-    if (!try_cut_at(length)) raise_last_error(path_);
+  void cut(std::uint64_t length) override {
+    if (!try_move_to(length) || SetEndOfFile(handle_.get()) == 0) raise_last_error(path_);
   }
 
-  [[nodiscard]] bool try_cut_at(std::uint64_t length) const noexcept {
-    return try_move_to(length) && SetEndOfFile(handle_.get()) != 0;
-  }
-
-  void flush() const {
+  void flush() override {
     if (FlushFileBuffers(handle_.get()) == 0) raise_last_error(path_);
   }
 
@@ -93,22 +97,35 @@ class OpenFile {
   bool created_;
 };
 
-/// Gives back what a longer file took of the disk, unless it has been kept.
-class AddedSpace {
+using Mutex = Handle<HANDLE, &CloseHandle>;
+
+/// A mutex that goes with the process at the latest.
+class MutexLock final : public FileLock {
  public:
-  AddedSpace(const OpenFile& file, std::uint64_t old_size) : file_(file), old_size_(old_size) {}
-  AddedSpace(const AddedSpace&) = delete;
-  AddedSpace& operator=(const AddedSpace&) = delete;
-  ~AddedSpace() {
-    if (!kept_) static_cast<void>(file_.try_cut_at(old_size_));
-  }
-  void keep() { kept_ = true; }
+  explicit MutexLock(Mutex mutex) : mutex_(std::move(mutex)) {}
+  ~MutexLock() override { ReleaseMutex(mutex_.get()); }
+  MutexLock(const MutexLock&) = delete;
+  MutexLock& operator=(const MutexLock&) = delete;
 
  private:
-  const OpenFile& file_;
-  std::uint64_t old_size_;
-  bool kept_ = false;
+  Mutex mutex_;
 };
+
+/// A name for the file in all sessions, whatever way leads to it: names of mutexes are short and
+/// hold no backslash, so it is made of a number.
+std::wstring mutex_name(std::string_view path) {
+  std::wstring full(kLongPath, L'\0');
+  const std::wstring given = wide(path);
+  const DWORD length = GetFullPathNameW(given.c_str(), kLongPath, full.data(), nullptr);
+  full.resize(length < kLongPath ? length : 0);
+  if (full.empty()) full = given;
+  CharLowerBuffW(full.data(), static_cast<DWORD>(full.size()));
+  constexpr std::uint64_t kOffset = 0xCBF29CE484222325ULL;
+  constexpr std::uint64_t kPrime = 0x100000001B3ULL;
+  std::uint64_t hash = kOffset;
+  for (const wchar_t character : full) hash = (hash ^ character) * kPrime;
+  return L"Global\\Quenda-" + std::to_wstring(hash);
+}
 
 WIN32_FILE_ATTRIBUTE_DATA attributes_of(std::string_view path) {
   WIN32_FILE_ATTRIBUTE_DATA data{};
@@ -165,6 +182,21 @@ bool Win32Files::exists(std::string_view path) const {
   return (attributes_of(path).dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
 }
 
+bool Win32Files::has_file(std::string_view path) const {
+  const std::wstring native = wide(path);
+  const DWORD attributes = GetFileAttributesW(native.c_str());
+  if (attributes != INVALID_FILE_ATTRIBUTES) {
+    constexpr DWORD kNoFile = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_DEVICE;
+    if ((attributes & kNoFile) != 0) raise_fault(kFaultPathAccess);
+    return true;
+  }
+  const DWORD error = GetLastError();
+  if (error != ERROR_FILE_NOT_FOUND && error != ERROR_PATH_NOT_FOUND) {
+    raise_fault(fault_of_error(error, native.c_str()));
+  }
+  return false;
+}
+
 std::uint64_t Win32Files::size(std::string_view path) const {
   const auto data = attributes_of(path);
   if ((data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) return 0;
@@ -189,32 +221,38 @@ std::string Win32Files::read(std::string_view path) const {
 
 void Win32Files::write(std::string_view path, std::string_view content) {
   check_writable(path);
-  const OpenFile file(path, GENERIC_WRITE, FILE_SHARE_READ, OPEN_ALWAYS);
+  OpenFile file(path, GENERIC_WRITE, FILE_SHARE_READ, OPEN_ALWAYS);
   file.write_at(0, content);
-  file.cut_at(content.size());
+  file.cut(content.size());
 }
 
 void Win32Files::append(std::string_view path, std::string_view content) {
   check_writable(path);
-  const OpenFile file(path, GENERIC_WRITE, FILE_SHARE_READ, OPEN_ALWAYS);
+  OpenFile file(path, GENERIC_WRITE, FILE_SHARE_READ, OPEN_ALWAYS);
   file.write_at(file.size(), content);
 }
 
-void Win32Files::replace_tail(std::string_view path, std::uint64_t keep, std::string_view tail) {
+ReplaceResult Win32Files::replace_tail(std::string_view path, const TailChange& change) {
   check_writable(path);
-  const OpenFile file(path, GENERIC_WRITE, FILE_SHARE_READ, OPEN_ALWAYS);
-  const std::uint64_t old_size = file.size();
-  if (keep > old_size) raise_fault(kFaultInvalidCall);
-  const std::uint64_t overwritten = old_size - keep;
-  if (tail.size() > overwritten) {
-    AddedSpace added(file, old_size);
-    file.write_at(keep + overwritten, tail.substr(overwritten));
-    file.flush();
-    added.keep();
+  bool created = false;
+  try {
+    OpenFile file(path, GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ,
+                  change.old_text.empty() ? OPEN_ALWAYS : OPEN_EXISTING);
+    created = file.created();
+    return replace_tail_of(file, change);
+  } catch (const RuntimeFault&) {
+    if (created) remove(path);
+    throw;
   }
-  file.write_at(keep, tail.substr(0, overwritten));
-  if (tail.size() < overwritten) file.cut_at(keep + tail.size());
-  file.flush();
+}
+
+std::unique_ptr<FileLock> Win32Files::lock(std::string_view path, std::uint32_t milliseconds) {
+  const std::wstring name = mutex_name(path);
+  Mutex mutex(CreateMutexW(nullptr, FALSE, name.c_str()));
+  // Another user's may be waited for, not more.
+  if (!mutex) mutex.reset(OpenMutexW(SYNCHRONIZE, FALSE, name.c_str()));
+  if (WaitForSingleObject(mutex.get(), milliseconds) == WAIT_TIMEOUT) return nullptr;
+  return std::make_unique<MutexLock>(std::move(mutex));
 }
 
 void Win32Files::remove(std::string_view path) noexcept { DeleteFileW(wide(path).c_str()); }

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -76,13 +77,20 @@ class FilesContract : public testing::TestWithParam<bool> {
   [[nodiscard]] Files& files() const { return bench_->files(); }
   [[nodiscard]] std::string path(const std::string& name) const { return bench_->path(name); }
   [[nodiscard]] std::string read(const std::string& name) const { return files().read(path(name)); }
+  ReplaceResult replace(const std::string& name, std::string_view old, std::uint64_t keep,
+                        std::string_view tail) const {
+    // Two pieces, so that what is left of one counts too.
+    const std::string_view pieces[] = {tail.substr(0, 2),
+                                       tail.substr(std::min<std::size_t>(2, tail.size()))};
+    return files().replace_tail(path(name), {.old_text = old, .keep = keep, .pieces = pieces});
+  }
   void expect_no_reading(const std::string& name, int fault) const {
     EXPECT_EQ(fault_of([&] { static_cast<void>(read(name)); }), fault);
   }
   void expect_no_writing(const std::string& name, int fault) const {
     EXPECT_EQ(fault_of([&] { files().write(path(name), "x"); }), fault);
     EXPECT_EQ(fault_of([&] { files().append(path(name), "x"); }), fault);
-    EXPECT_EQ(fault_of([&] { files().replace_tail(path(name), 0, "x"); }), fault);
+    EXPECT_EQ(fault_of([&] { replace(name, "", 0, "x"); }), fault);
   }
 
   std::unique_ptr<Bench> bench_;
@@ -136,17 +144,43 @@ TEST_P(FilesContract, ReplacesTheTail) {
   for (const Case& c : cases) {
     SCOPED_TRACE(c.name);
     files().write(path(c.name), c.before);
-    files().replace_tail(path(c.name), c.keep, c.tail);
+    EXPECT_EQ(replace(c.name, c.before, c.keep, c.tail), ReplaceResult::kReplaced);
     EXPECT_EQ(read(c.name), c.after);
   }
-  files().replace_tail(path("new"), 0, "created");
+  EXPECT_EQ(replace("new", "", 0, "created"), ReplaceResult::kReplaced);
   EXPECT_EQ(read("new"), "created");
 }
 
 TEST_P(FilesContract, KeepingMoreThanThereIsChangesNothing) {
   files().write(path("book"), "abc");
-  EXPECT_EQ(fault_of([&] { files().replace_tail(path("book"), 4, "x"); }), kFaultInvalidCall);
+  EXPECT_EQ(fault_of([&] { replace("book", "abc", 4, "x"); }), kFaultInvalidCall);
   EXPECT_EQ(read("book"), "abc");
+}
+
+TEST_P(FilesContract, WhatOthersHaveChangedSinceItWasReadIsLeftAlone) {
+  for (const std::string now : {"abd", "abcd", "ab", "xbc", ""}) {
+    files().write(path("book"), now);
+    EXPECT_EQ(replace("book", "abc", 2, "x"), ReplaceResult::kChangedMeanwhile) << now;
+    EXPECT_EQ(read("book"), now);
+  }
+  EXPECT_EQ(fault_of([&] { replace("gone", "abc", 2, "x"); }), kFaultFileNotFound);
+  EXPECT_FALSE(files().has_file(path("gone")));
+}
+
+TEST_P(FilesContract, NotThereIsOnlyWhatTheSystemSaysIsNot) {
+  bench_->make_folder("folder");
+  files().write(path("file"), "");
+  EXPECT_TRUE(files().has_file(path("file")));
+  EXPECT_FALSE(files().has_file(path("none")));
+  EXPECT_FALSE(files().has_file(path("no\\file")));
+  EXPECT_EQ(fault_of([&] { static_cast<void>(files().has_file(path("folder"))); }),
+            kFaultPathAccess);
+}
+
+TEST_P(FilesContract, ALockLeavesNoFile) {
+  const auto lock = files().lock(path("book"), 0);
+  EXPECT_NE(lock, nullptr);
+  EXPECT_FALSE(files().has_file(path("book")));
 }
 
 TEST_P(FilesContract, WhatIsNotThere) {

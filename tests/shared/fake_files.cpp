@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "tests/shared/memory_tail.h"
 #include "text/fault.h"
 #include "text/text.h"
 
@@ -44,6 +45,10 @@ void FakeFiles::refuse_reading(std::string_view path, int fault) {
   refused_reading_[key_of(path)] = fault;
 }
 
+void FakeFiles::hide(std::string_view path, int fault) { unclear_[key_of(path)] = fault; }
+
+void FakeFiles::hold_lock(std::string_view path) { locked_.insert(key_of(path)); }
+
 std::string FakeFiles::content(std::string_view path) const {
   const Entry* entry = find(path);
   return entry == nullptr ? std::string() : entry->content;
@@ -54,7 +59,16 @@ int FakeFiles::writes(std::string_view path) const {
   return entry == nullptr ? 0 : entry->writes;
 }
 
-bool FakeFiles::exists(std::string_view path) const { return find(path) != nullptr; }
+bool FakeFiles::exists(std::string_view path) const {
+  return find(path) != nullptr && unclear_.count(key_of(path)) == 0;
+}
+
+bool FakeFiles::has_file(std::string_view path) const {
+  const std::string key = key_of(path);
+  raise_if_refused(unclear_, key);
+  if (folders_.contains(key)) raise_fault(kFaultPathAccess);
+  return find(path) != nullptr;
+}
 
 std::uint64_t FakeFiles::size(std::string_view path) const {
   const Entry* entry = find(path);
@@ -89,11 +103,19 @@ void FakeFiles::append(std::string_view path, std::string_view content) {
   store(key, concat(this->content(path), content));
 }
 
-void FakeFiles::replace_tail(std::string_view path, std::uint64_t keep, std::string_view tail) {
+ReplaceResult FakeFiles::replace_tail(std::string_view path, const TailChange& change) {
   const std::string key = key_of(path);
   check_writable(key);
-  if (keep > size(path)) raise_fault(kFaultInvalidCall);
-  store(key, concat(content(path).substr(0, static_cast<std::size_t>(keep)), tail));
+  if (find(path) == nullptr && !change.old_text.empty()) raise_fault(kFaultFileNotFound);
+  MemoryTail file(content(path));
+  const ReplaceResult result = replace_tail_of(file, change);
+  if (result == ReplaceResult::kReplaced) store(key, file.content());
+  return result;
+}
+
+std::unique_ptr<FileLock> FakeFiles::lock(std::string_view path, std::uint32_t /*milliseconds*/) {
+  if (locked_.contains(key_of(path))) return nullptr;
+  return std::make_unique<FileLock>();
 }
 
 void FakeFiles::remove(std::string_view path) noexcept {

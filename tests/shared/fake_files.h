@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <map>
+#include <memory>
 #include <set>
 #include <string>
 #include <string_view>
@@ -21,18 +22,26 @@ class FakeFiles final : public Files {
   void refuse_writing(std::string_view path, int fault);
   /// Reading the path fails with that fault from now on; 0 takes it back.
   void refuse_reading(std::string_view path, int fault);
+  /// The system cannot say from now on whether the file is there.
+  void hide(std::string_view path, int fault);
+  /// Another run is at the file, and stays.
+  void hold_lock(std::string_view path);
   /// The content, or the empty text for no file.
   [[nodiscard]] std::string content(std::string_view path) const;
   /// How often a file was written, appended to or replaced in part.
   [[nodiscard]] int writes(std::string_view path) const;
 
   [[nodiscard]] bool exists(std::string_view path) const override;
+  [[nodiscard]] bool has_file(std::string_view path) const override;
   [[nodiscard]] std::uint64_t size(std::string_view path) const override;
   [[nodiscard]] std::uint64_t stamp(std::string_view path) const override;
   [[nodiscard]] std::string read(std::string_view path) const override;
   void write(std::string_view path, std::string_view content) override;
   void append(std::string_view path, std::string_view content) override;
-  void replace_tail(std::string_view path, std::uint64_t keep, std::string_view tail) override;
+  [[nodiscard]] ReplaceResult replace_tail(std::string_view path,
+                                           const TailChange& change) override;
+  [[nodiscard]] std::unique_ptr<FileLock> lock(std::string_view path,
+                                               std::uint32_t milliseconds) override;
   void remove(std::string_view path) noexcept override;
 
  private:
@@ -49,6 +58,8 @@ class FakeFiles final : public Files {
   std::set<std::string> folders_;
   std::map<std::string, int> refused_writing_;
   std::map<std::string, int> refused_reading_;
+  std::map<std::string, int> unclear_;
+  std::set<std::string> locked_;
   std::uint64_t next_stamp_ = 1;
 };
 

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 #include <sys/file.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <csignal>
@@ -35,8 +36,12 @@ class FileSizeLimit {
 };
 
 int fault_of_replacing(PosixFiles& files, const std::string& path, std::uint64_t keep,
-                       const std::string& tail) {
-  return fault_of([&] { files.replace_tail(path, keep, tail); });
+                       std::string_view tail) {
+  return fault_of([&] {
+    const std::string old = files.has_file(path) ? files.read(path) : std::string();
+    static_cast<void>(
+        files.replace_tail(path, {.old_text = old, .keep = keep, .pieces = {&tail, 1}}));
+  });
 }
 
 TEST(PosixFiles, AFullDiskIsFoundBeforeAnythingIsOverwritten) {
@@ -67,6 +72,31 @@ TEST(PosixFiles, ABookThatAnotherProgramHoldsIsInUse) {
   close(other);
   EXPECT_EQ(files.read(folder.path("book")), "old");
   EXPECT_EQ(fault_of_replacing(files, folder.path("book"), 0, "new"), 0);
+}
+
+TEST(PosixFiles, WhatIsNoFileIsNeitherCreatedNorWaitedFor) {
+  const TempFolder folder;
+  PosixFiles files;
+  ASSERT_EQ(mkfifo((folder.path() / "pipe").c_str(), 0600), 0);
+  ASSERT_EQ(symlink("nowhere", (folder.path() / "dangling").c_str()), 0);
+  ASSERT_EQ(symlink("round", (folder.path() / "round").c_str()), 0);
+  for (const char* name : {"pipe", "dangling", "round"}) {
+    EXPECT_EQ(fault_of([&] { static_cast<void>(files.has_file(folder.path(name))); }),
+              kFaultPathAccess)
+        << name;
+    EXPECT_EQ(fault_of_replacing(files, folder.path(name), 0, "new"), kFaultPathAccess) << name;
+  }
+  EXPECT_EQ(fault_of_replacing(files, "\\dev\\null", 0, "new"), kFaultPathAccess);
+  EXPECT_FALSE(files.exists(folder.path("nowhere")));
+}
+
+TEST(PosixFiles, ARunWaitsForTheOtherOneAtTheSameFolder) {
+  const TempFolder folder;
+  PosixFiles files;
+  auto first = files.lock(folder.path("book"), 0);
+  EXPECT_EQ(files.lock(folder.path("book"), 40), nullptr);
+  first.reset();
+  EXPECT_NE(files.lock(folder.path("book"), 0), nullptr);
 }
 
 TEST(PosixFiles, ReadsWhatTellsNoSize) {
