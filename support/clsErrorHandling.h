@@ -9,6 +9,7 @@
 
 #include "platform/clock.h"
 #include "platform/dialogs.h"
+#include "support/build_version.h"
 #include "support/trace_value.h"
 #include "text/fault.h"
 
@@ -20,8 +21,8 @@ class Files;
 /// The settings that the error service looks up each time it needs them.
 struct ErrorEnvironment {
   std::string program_code = "IMP";  // names the program in every line; empty becomes "NON"
-  int major = 1;
-  int minor = 17;
+  int major = kVersionMajor;
+  int minor = kVersionMinor;
   bool trapping = true;     // off lets faults pass through, for work with a debugger
   std::string main_folder;  // without "\" at the end; empty means that no log is written
   bool trace_mode = false;

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <utility>
 
+#include "support/build_version.h"
 #include "text/text.h"
 
 namespace quenda {
@@ -47,6 +48,8 @@ constexpr std::array<const char*, kHeaderKinds> kColumnOptions = {"--name", "--n
 void declare(CLI::App& cli, Typed& typed, BatchOptions& options) {
   cli.option_defaults()->group("Optionen");
   cli.set_help_flag("-h,--help", "Diese Hilfe")->group("Optionen");
+  cli.set_version_flag("--version", concat("quenda-import ", build_version()),
+                       "Version und Stand des Programms");
   cli.allow_windows_style_options(false);
   cli.get_formatter()->label("Usage", "Aufruf");
   cli.get_formatter()->label("OPTIONS", "Optionen");
@@ -182,6 +185,8 @@ BatchCommand read_batch_command(const std::vector<std::string>& arguments) {
     return {std::move(options), kExitDone, {}};
   } catch (const CLI::CallForHelp&) {
     return {std::nullopt, kExitDone, cli.help()};
+  } catch (const CLI::CallForVersion& version) {
+    return {std::nullopt, kExitDone, concat(version.what(), "\n")};
   } catch (const CLI::ParseError& error) {
     return {std::nullopt, kExitWrongUsage, concat("quenda-import: ", error.what(), "\n")};
   } catch (const Stop& stop) {

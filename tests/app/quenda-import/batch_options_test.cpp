@@ -54,6 +54,12 @@ TEST(BatchOptions, EverythingGiven) {
   EXPECT_TRUE(options.dry_run && options.quiet);
 }
 
+TEST(BatchOptions, TheVersionNeedsNothingElse) {
+  const BatchCommand command = read_batch_command({"--version"});
+  EXPECT_EQ(command.status, kExitDone);
+  EXPECT_THAT(command.text, testing::MatchesRegex("quenda-import [0-9]+\\.[0-9]+ \\(.+\\)\n"));
+}
+
 TEST(BatchOptions, WrongUsageIsToldApartFromTextsThatNoFileCanHave) {
   struct Case {
     Arguments arguments;
