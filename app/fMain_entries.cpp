@@ -39,8 +39,10 @@ void fMain::PreviewEntries() {
     const FlatTable& preview = lstImport.table();
     for (std::size_t row = 0; row < preview.rows(); ++row) {
       const std::string number = fCleanNumbers(preview.cell(row, kEntryNumber));
-      entries_.add_row(std::array<std::string_view, kEntryColumns>{
-          preview.cell(row, kEntryName), number, preview.cell(row, kEntryAddress)});
+      entries_.add_row(
+          std::array<std::string_view, kEntryColumns>{preview.cell(row, kEntryName), number,
+                                                      preview.cell(row, kEntryAddress)},
+          preview.origin(row));
       step(row + 1, preview.rows());
     }
     remove_repeated_lines(entries_, [this] { answer_events(); });

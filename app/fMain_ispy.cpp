@@ -11,6 +11,7 @@
 #include "sources/ispy_log.h"
 #include "support/procedure.h"
 #include "text/characters.h"
+#include "text/entry_origin.h"
 #include "text/entry_text.h"
 #include "text/text.h"
 
@@ -40,7 +41,7 @@ void fMain::ISpyImport() {
       if (line.empty() || line == source.Delimiter) continue;
       if (const auto caller = ispy_caller(line)) {
         const std::string name = without_line_breaks(caller->name);
-        entries_.add_row(std::array<std::string_view, 2>{name, caller->number});
+        entries_.add_row(std::array<std::string_view, 2>{name, caller->number}, entry_origin(i, 1));
       }
     }
     StatusBar.set_panel(2, texts.erase_multiple);

@@ -50,37 +50,51 @@ class HashesAhead {
 };
 
 /// Decides which of two entries with one number stays.
-class DoubleDecision {
+class DoubleRule {
  public:
-  DoubleDecision(MergeMode mode, const AskAboutDouble& ask) : mode_(mode), ask_(ask) {}
+  DoubleRule(MergeMode mode, const AskAboutDouble& ask) : mode_(mode), ask_(ask) {}
 
   /// A nameless entry gives way without a question.
   bool takes_new(const BookEntry& existing, const BookEntry& fresh) {
+    asked_ = false;
     if (existing.Name.empty()) return true;
     if (mode_ != MergeMode::kAsk) return mode_ == MergeMode::kTakeNew;
+    asked_ = true;
     const DoubleAnswer answer = ask_(existing.Number, in_words(existing), in_words(fresh));
     mode_ = mode_after(answer);
     return answer.take_new;
   }
+  /// Whether the user had to say so.
+  [[nodiscard]] bool asked() const { return asked_; }
 
  private:
   MergeMode mode_;
   const AskAboutDouble& ask_;
+  bool asked_ = false;
 };
 
 }  // namespace
 
 std::size_t remove_double_entries(std::vector<BookEntry>& entries, MergeMode mode,
                                   const AskAboutDouble& ask,
-                                  const std::function<void(std::size_t, std::size_t)>& on_step) {
+                                  const std::function<void(std::size_t, std::size_t)>& on_step,
+                                  const OnDecision& on_decision) {
   const std::size_t total = entries.size();
   const auto number_of = [&](std::uint32_t row) { return entries[row].Number; };
   ViewIndex by_number(total);
   HashesAhead hashes(entries, by_number);
-  DoubleDecision decision(mode, ask);
+  DoubleRule rule(mode, ask);
   std::size_t kept = 0;
   // The list is packed in place: what is kept never overtakes what is read.
   const auto keep = [&](const BookEntry& entry) { entries[kept++] = entry; };
+  // Where the entries kept so far stood in the list that came in; only for those who want to know.
+  std::vector<std::uint32_t> came_from(on_decision ? total : 0);
+  using Outcome = DoubleDecision::Outcome;
+  const auto tell = [&](std::size_t entry, std::uint32_t existing, Outcome outcome) {
+    if (on_decision) {
+      on_decision({entry, came_from[existing], outcome, outcome != Outcome::kSame && rule.asked()});
+    }
+  };
   for (std::size_t i = 0; i < total; ++i) {
     on_step(i + 1, total);
     BookEntry fresh = entries[i];
@@ -88,6 +102,7 @@ std::size_t remove_double_entries(std::vector<BookEntry>& entries, MergeMode mod
     if (fresh.Number.empty()) continue;
     // The entry goes to its place before its number is looked up, where the index finds its text.
     entries[kept] = fresh;
+    if (on_decision) came_from[kept] = static_cast<std::uint32_t>(i);
     const auto next = static_cast<std::uint32_t>(kept);
     const std::uint32_t found = by_number.find_or_add(fresh.Number, hash, next, number_of);
     if (found == ViewIndex::kNone) {
@@ -95,8 +110,13 @@ std::size_t remove_double_entries(std::vector<BookEntry>& entries, MergeMode mod
       continue;
     }
     BookEntry& existing = entries[found];
-    if (same_contact(existing, fresh)) continue;
-    if (!decision.takes_new(existing, fresh)) continue;
+    if (same_contact(existing, fresh)) {
+      tell(i, found, Outcome::kSame);
+      continue;
+    }
+    const bool takes_new = rule.takes_new(existing, fresh);
+    tell(i, found, takes_new ? Outcome::kNewReplaces : Outcome::kExistingStays);
+    if (!takes_new) continue;
     fresh.Tag = existing.Tag;
     fresh.Count = existing.Count;
     by_number.replace(fresh.Number, next, number_of);

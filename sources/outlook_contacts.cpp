@@ -1,5 +1,6 @@
 #include "sources/outlook_contacts.h"
 
+#include "text/entry_origin.h"
 #include "text/entry_text.h"
 #include "text/text.h"
 
@@ -94,7 +95,7 @@ FlatTable preview_rows(const ContactTable& contacts, const OutlookChoice& choice
         const auto column = business ? kContactBusinessAddress : kContactPrivateAddress;
         join_pair(address, contacts.cell(i, column), ", ", choice.flip_address);
       }
-      rows.add_row(std::array{trim(name), trim(number), trim(address)});
+      rows.add_row(std::array{trim(name), trim(number), trim(address)}, entry_origin(i, kind));
     }
   }
   return rows;

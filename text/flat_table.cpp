@@ -37,8 +37,14 @@ std::string_view FlatTable::line(std::size_t row) const {
   return {buffer_.data() + starts_[row], size_of(row)};
 }
 
+std::uint32_t FlatTable::origin(std::size_t row) const {
+  check(row, 0);
+  return origins_[row];
+}
+
 void FlatTable::reserve(std::size_t rows, std::size_t bytes) {
   starts_.reserve(rows);
+  origins_.reserve(rows);
   lengths_.reserve(rows * columns_);
   buffer_.reserve(bytes);
 }
@@ -56,9 +62,10 @@ std::size_t FlatTable::store(std::span<const std::string_view> cells,
   return start;
 }
 
-void FlatTable::add_row(std::span<const std::string_view> cells) {
+void FlatTable::add_row(std::span<const std::string_view> cells, std::uint32_t origin) {
   lengths_.resize(lengths_.size() + columns_);
   starts_.push_back(store(cells, std::span(lengths_).last(columns_)));
+  origins_.push_back(origin);
 }
 
 void FlatTable::set_cell(std::size_t row, std::size_t column, std::string_view text) {
@@ -73,6 +80,7 @@ void FlatTable::remove_row(std::size_t row) {
   check(row, 0);
   using Offset = std::ptrdiff_t;
   starts_.erase(starts_.begin() + static_cast<Offset>(row));
+  origins_.erase(origins_.begin() + static_cast<Offset>(row));
   const auto first = lengths_.begin() + static_cast<Offset>(row * columns_);
   lengths_.erase(first, first + static_cast<Offset>(columns_));
 }
@@ -90,12 +98,14 @@ void FlatTable::pack(std::size_t row, std::size_t place, std::size_t& written) {
   }
   if (place != row) std::copy_n(&lengths_[row * columns_], columns_, &lengths_[place * columns_]);
   starts_[place] = written;
+  origins_[place] = origins_[row];
   written += size;
 }
 
-void FlatTable::pack(std::span<const std::string_view> cells, std::size_t place,
+void FlatTable::pack(std::span<const std::string_view> cells, std::size_t row, std::size_t place,
                      std::size_t& written) {
   starts_[place] = written;
+  origins_[place] = origins_[row];
   char* to = buffer_.data() + written;
   std::uint32_t* length = &lengths_[place * columns_];
   for (const std::string_view cell : cells) {
@@ -109,6 +119,7 @@ void FlatTable::pack(std::span<const std::string_view> cells, std::size_t place,
 
 void FlatTable::cut(std::size_t rows, std::size_t bytes) {
   starts_.resize(rows);
+  origins_.resize(rows);
   lengths_.resize(rows * columns_);
   buffer_.resize(bytes);
 }

@@ -20,11 +20,14 @@ class FlatTable {
   [[nodiscard]] std::size_t rows() const { return starts_.size(); }
   /// Row and column from 0; fault 9 beyond the end.
   [[nodiscard]] std::string_view cell(std::size_t row, std::size_t column) const;
+  /// What the row was made of, as it was told when the row was added; it stays with the row while
+  /// others go. Fault 9 beyond the end.
+  [[nodiscard]] std::uint32_t origin(std::size_t row) const;
   /// The row's cells with ";" between them; fault 9 beyond the end.
   [[nodiscard]] std::string_view line(std::size_t row) const;
   void reserve(std::size_t rows, std::size_t bytes);
   /// Missing cells are empty.
-  void add_row(std::span<const std::string_view> cells);
+  void add_row(std::span<const std::string_view> cells, std::uint32_t origin = 0);
   void set_cell(std::size_t row, std::size_t column, std::string_view text);
   void remove_row(std::size_t row);
   void clear();
@@ -53,12 +56,14 @@ class FlatTable {
   [[nodiscard]] std::size_t size_of(std::size_t row) const;
   /// Lets the place have the row's text and cells. What is packed never overtakes what is read.
   void pack(std::size_t row, std::size_t place, std::size_t& written);
-  void pack(std::span<const std::string_view> cells, std::size_t place, std::size_t& written);
+  void pack(std::span<const std::string_view> cells, std::size_t row, std::size_t place,
+            std::size_t& written);
   void cut(std::size_t rows, std::size_t bytes);
 
   std::size_t columns_;
   std::string buffer_;
   std::vector<std::size_t> starts_;     // one per row
+  std::vector<std::uint32_t> origins_;  // one per row
   std::vector<std::uint32_t> lengths_;  // one per cell, row by row
 };
 
@@ -79,7 +84,7 @@ void FlatTable::rewrite_rows(Rewrite rewrite) {
   std::vector<std::string_view> cells(columns_);
   for (std::size_t row = 0; row < rows(); ++row) {
     for (std::size_t i = 0; i < columns_; ++i) cells[i] = cell(row, i);
-    if (rewrite(std::span(cells))) pack(cells, kept++, written);
+    if (rewrite(std::span(cells))) pack(cells, row, kept++, written);
   }
   cut(kept, written);
 }

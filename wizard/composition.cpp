@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "text/conversions.h"
+#include "text/entry_origin.h"
 #include "text/entry_text.h"
 #include "text/fault.h"
 #include "text/text.h"
@@ -141,16 +142,25 @@ void EntryComposer::compose(const RecordTable& records, std::size_t record, Flat
     number.clear();
     append_cell(number, fields_[columns.numbers[row]]);
     if (number.empty()) continue;
-    add_entry(row, clean_(number), entries);
+    add_entry(record, row, clean_(number), entries);
   }
 }
 
-void EntryComposer::add_entry(std::size_t row, std::string_view number, FlatTable& entries) {
+std::string_view EntryComposer::name() const { return trim(name_); }
+
+void EntryComposer::add_entry(std::size_t record, std::size_t row, std::string_view number,
+                              FlatTable& entries) {
   const std::string_view address = address_of(row);
-  if (!is_numeric(number)) return;
+  const bool numeric = is_numeric(number);
+  if (!numeric && !on_number) return;
   const std::size_t name_size = name_.size();
   name_.append(" ").append(composition_.suffixes[row]);
-  entries.add_row(std::array{trim(name_), number, address});
+  const std::string_view name = trim(name_);
+  if (on_number) {
+    const std::string_view raw = fields_[composition_.columns.numbers[row]];
+    on_number({row, raw, number, name, address, numeric});
+  }
+  if (numeric) entries.add_row(std::array{name, number, address}, entry_origin(record, row + 1));
   name_.resize(name_size);
 }
 

@@ -60,6 +60,16 @@ std::string address_preview(const std::vector<std::string>& parts,
 /// Brings a number into dialling form.
 using CleanNumber = std::function<std::string(std::string_view)>;
 
+/// A number of a record on its way into an entry. The texts are good only while one is told of it.
+struct NumberSeen {
+  std::size_t row = 0;      // which of the chosen number columns, from 0
+  std::string_view raw;     // the cell
+  std::string_view number;  // cleaned
+  std::string_view name;    // with the suffix
+  std::string_view address;
+  bool numeric = false;  // only such a number becomes an entry
+};
+
 /// Turns records into rows of entries; made once for all records of a file.
 class EntryComposer {
  public:
@@ -70,8 +80,15 @@ class EntryComposer {
   /// chosen column that is needed is missing in the record.
   void compose(const RecordTable& records, std::size_t record, FlatTable& entries);
 
+  /// Told of every number before its entry is added, those that give none included; for accounts of
+  /// what became of the source.
+  std::function<void(const NumberSeen&)> on_number;
+
+  /// The record's name without a suffix, as it was composed last.
+  [[nodiscard]] std::string_view name() const;
+
  private:
-  void add_entry(std::size_t row, std::string_view number, FlatTable& entries);
+  void add_entry(std::size_t record, std::size_t row, std::string_view number, FlatTable& entries);
   [[nodiscard]] std::string_view address_of(std::size_t row);
 
   Composition composition_;

@@ -15,8 +15,9 @@ using Rows = std::vector<Row>;
 
 FlatTable table_of(const Rows& rows) {
   FlatTable table(kEntryColumns);
+  std::uint32_t origin = 0;
   for (const Row& row : rows) {
-    table.add_row(std::array<std::string_view, kEntryColumns>{row[0], row[1], row[2]});
+    table.add_row(std::array<std::string_view, kEntryColumns>{row[0], row[1], row[2]}, origin++);
   }
   return table;
 }
@@ -67,6 +68,19 @@ TEST(EntryRows, LeaveOutWhatHasNoImportableNumber) {
              false)
           .empty());
   EXPECT_EQ(listed({{"Meier", "12345678", ""}}, false).size(), 1U);
+}
+
+TEST(EntryRows, StayTraceableToTheRowsThatTheyWereMadeOf) {
+  FlatTable rows = entry_rows(table_of({{"A", "1", ""},
+                                        {"Bea", "08912345678", ""},
+                                        {"Cid", "x", ""},
+                                        {"Dora|E", "03012345678", ""},
+                                        {"Fred", "03112345678", ""}}),
+                              true, [](auto, auto) {});
+  rows.set_cell(1, kEntryName, "Dora, a longer name");
+  rows.remove_row(0);
+  EXPECT_EQ(rows.origin(0), 3U);
+  EXPECT_EQ(rows.origin(1), 4U);
 }
 
 TEST(EntryRows, ShortNamesPassUnlessSuppressed) {

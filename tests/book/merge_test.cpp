@@ -105,6 +105,22 @@ TEST_F(RemoveDoubleEntries, NamelessEntryIsReplacedWithoutAQuestionInEveryMode) 
   EXPECT_TRUE(questions_.empty());
 }
 
+TEST_F(RemoveDoubleEntries, TellsOfEachDoubleByThePositionsOfTheListThatCameIn) {
+  answer_.take_new = true;
+  std::vector<BookEntry> list = {entry("none", ""),    entry("Alt", "030"), entry("Alt", "030"),
+                                 entry("Neu", "030"),  entry("", "040"),    entry("Da", "040"),
+                                 entry("Letzt", "030")};
+  std::vector<std::string> told;
+  const auto ask = [this](auto, const auto&, const auto&) { return answer_; };
+  (void)remove_double_entries(
+      list, MergeMode::kAsk, ask, [](auto, auto) {},
+      [&](const DoubleDecision& d) {
+        told.push_back(std::to_string(d.entry) + " " + std::to_string(d.existing) + " " +
+                       std::to_string(static_cast<int>(d.outcome)) + (d.asked ? " asked" : ""));
+      });
+  EXPECT_EQ(told, (Lines{"2 1 0", "3 1 2 asked", "5 4 2", "6 3 2 asked"}));
+}
+
 TEST_F(RemoveDoubleEntries, DropsEntriesWithoutNumberAndComparesNumbersExactly) {
   EXPECT_EQ(remove({entry("A", ""), entry("A", "03 0"), entry("A", "030"), entry("B", "")}), 2U);
   EXPECT_EQ(written(), (Lines{"A:03 0", "A:030"}));

@@ -74,6 +74,24 @@ TEST_F(Compose, LeavesOutWhatIsNoNumber) {
   EXPECT_TRUE(lines("Name;Vorname;Telefon;Mobil;a;b;c;d").empty());
 }
 
+TEST_F(Compose, TellsOfEveryNumberAlsoOfThoseThatGiveNoEntry) {
+  composition_.suffixes = {"", "mobil", ""};
+  const RecordTable table = build_records("Meier;Hans;abc;+49 171 99\r\n", ';', [](auto, auto) {});
+  EntryComposer composer(composition_, ';',
+                         [](std::string_view number) { return clean_number(number, "0049"); });
+  Texts seen;
+  composer.on_number = [&](const NumberSeen& n) {
+    seen.push_back(std::to_string(n.row) + (n.numeric ? " " : " not ") + std::string(n.raw) + ">" +
+                   std::string(n.number) + ">" + std::string(n.name));
+  };
+  composition_.columns.addresses = {};
+  FlatTable rows(3);
+  composer.compose(table, 0, rows);
+  EXPECT_EQ(seen, (Texts{"0 not abc>0abc>Meier Hans", "1 +49 171 99>017199>Meier Hans mobil"}));
+  EXPECT_EQ(rows.rows(), 1U);
+  EXPECT_EQ(composer.name(), "Meier Hans");
+}
+
 TEST_F(Compose, RecordWithoutDelimiterHasNoLines) { EXPECT_TRUE(lines("Meier").empty()); }
 
 TEST_F(Compose, MissingColumnIsAFault) {
