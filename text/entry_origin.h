@@ -9,8 +9,8 @@ namespace quenda {
 
 inline constexpr unsigned kOriginRowBits = 4;
 
-/// `record` counts the source's records, lines or contacts from 0, the header included; `row` is the
-/// number column or number kind, from 1 to 11.
+/// `record` counts the source's records, lines or contacts from 0, the header included; `row` is
+/// the number column or number kind, from 1 to 11.
 constexpr std::uint32_t entry_origin(std::size_t record, std::size_t row) {
   return static_cast<std::uint32_t>((record << kOriginRowBits) | row);
 }
