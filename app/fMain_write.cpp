@@ -9,6 +9,7 @@
 #include "book/entry_list.h"
 #include "book/pages/fImportMsg.h"
 #include "book/pages/modImport.h"
+#include "book/unreadable_lines.h"
 #include "platform/controls/events.h"
 #include "platform/files.h"
 #include "settings/app.h"
@@ -78,8 +79,11 @@ fMain::Merge fMain::merge_into_book(std::string& book_text, std::string_view& li
   StatusBar.set_panel(2, texts.write_book);
   const BookChange change = compose_book(book_text, entries, busy.on_step());
   const std::string_view tail = change.tail;
-  const ReplaceResult result = app_.machine.files.replace_tail(
-      path, {.old_text = book_text, .keep = change.keep, .pieces = {&tail, 1}, .name = kBookName});
+  const ReplaceResult result = app_.machine.files.replace_tail(path, {.old_text = book_text,
+                                                                      .keep = change.keep,
+                                                                      .pieces = {&tail, 1},
+                                                                      .name = kBookName,
+                                                                      .spoil = &make_unreadable});
   if (result == ReplaceResult::kChangedMeanwhile) return Merge::kChangedMeanwhile;
   txtDDE.set_text("data");
   return Merge::kDone;

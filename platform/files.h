@@ -8,12 +8,15 @@
 
 namespace quenda {
 
-/// What becomes of the end of a file that was read before.
+/// What becomes of the end of a file of lines that was read before.
 struct TailChange {
   std::string_view old_text;  // the whole content as it was read; empty for a file to be created
   std::uint64_t keep = 0;     // bytes at the front that stay as they are
   std::span<const std::string_view> pieces;  // what follows them; may be views into `old_text`
   std::string_view name = "Die Datei";       // what a message calls the file
+  /// Makes lines unreadable for those who know the format, without changing their lengths: in each
+  /// line, the first byte that it changes has to do that alone. Null where it does not matter.
+  void (*spoil)(std::string& lines) = nullptr;
 };
 
 enum class ReplaceResult { kReplaced, kChangedMeanwhile };

@@ -1,0 +1,118 @@
+// What stands in a book after each call that can fail while it is written, and what is said of it.
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "book/unreadable_lines.h"
+#include "tests/shared/memory_tail.h"
+#include "text/fault.h"
+#include "text/literal_1252.h"
+
+namespace quenda {
+namespace {
+
+/// A file of which one call that changes it fails, or all from that one on; what is written is
+/// written by half then.
+class FailingTail final : public MemoryTail {
+ public:
+  FailingTail(std::string content, int call, bool ever_after)
+      : MemoryTail(std::move(content)), call_(call), ever_after_(ever_after) {}
+  void write_at(std::uint64_t position, std::string_view bytes) override {
+    const bool failing = fails();
+    MemoryTail::write_at(position, failing ? bytes.substr(0, bytes.size() / 2) : bytes);
+    if (failing) raise_fault(kFaultDiskFull);
+  }
+  void cut(std::uint64_t length) override {
+    if (fails()) raise_fault(kFaultInputOutput);
+    MemoryTail::cut(length);
+  }
+  void flush() override {
+    if (fails()) raise_fault(kFaultInputOutput);
+  }
+
+ private:
+  bool fails() {
+    ++calls_;
+    return ever_after_ ? calls_ >= call_ : calls_ == call_;
+  }
+  int call_;
+  bool ever_after_;
+  int calls_ = 0;
+};
+
+const std::string kBefore =
+    "Anna;030111;0;0;0;0;;;[vcd()vcd]\r\nBert;030222;0;0;0;0;;;[vcd()vcd]\r\n"
+    "Christina;030333;0;0;0;0;;;[vcd()vcd]\r\n";
+
+struct Scene {
+  std::string name;
+  std::size_t keep;
+  std::string tail;
+};
+const Scene kScenes[] = {
+    {"append", kBefore.size(), "Dora;030444;0;0;0;0;;;[vcd()vcd]\r\n"},
+    {"rewrite", 0,
+     "Bert;030222;0;0;0;0;;;[vcd()vcd]\r\nChristina;030333;0;0;0;0;;;[vcd()vcd]\r\n"
+     "Anna Blum-Rot;030111;0;0;0;0;;;[vcd()vcd]\r\n"},
+    {"shrink", 34, "Christina;030333;0;0;0;0;;;[vcd()vcd]\r\n"},
+    {"cut", 34, ""},
+};
+
+/// The message of the fault; nothing when there was none.
+std::optional<std::string> fault_of_replacing(TailFile& file, const Scene& scene) {
+  const std::string_view tail = scene.tail;
+  try {
+    static_cast<void>(replace_tail_of(file, {.old_text = kBefore,
+                                             .keep = scene.keep,
+                                             .pieces = {&tail, 1},
+                                             .name = "Das Telefonbuch",
+                                             .spoil = &make_unreadable}));
+    return std::nullopt;
+  } catch (const RuntimeFault& fault) {
+    return fault.description();
+  }
+}
+
+TEST(PutBack, OneFailureLeavesTheOldContentAndSaysSo) {
+  for (const Scene& scene : kScenes) {
+    for (int call = 1;; ++call) {
+      SCOPED_TRACE(scene.name + std::to_string(call));
+      FailingTail file(kBefore, call, false);
+      const auto message = fault_of_replacing(file, scene);
+      if (!message) {
+        EXPECT_EQ(file.content(), kBefore.substr(0, scene.keep) + scene.tail);
+        EXPECT_GE(call, 3);
+        break;
+      }
+      EXPECT_EQ(file.content(), kBefore);
+      EXPECT_TRUE(message->ends_with(u8"Das Telefonbuch ist unverändert."_de)) << *message;
+    }
+  }
+}
+
+TEST(PutBack, WhatCannotBePutBackIsNamed) {
+  for (const Scene& scene : kScenes) {
+    for (int call = 1;; ++call) {
+      SCOPED_TRACE(scene.name + std::to_string(call));
+      FailingTail file(kBefore, call, true);
+      const auto message = fault_of_replacing(file, scene);
+      if (!message) break;
+      // No word of an unchanged book, unless it is; nothing before the first change is touched.
+      EXPECT_EQ(message->find(u8"ist unverändert"_de), std::string::npos);
+      EXPECT_EQ(file.content().substr(0, scene.keep), kBefore.substr(0, scene.keep));
+      if (message->find("alle bisherigen Zeilen") != std::string::npos) {
+        EXPECT_TRUE(file.content().starts_with(kBefore));
+      } else {
+        const bool first = scene.keep == 0;
+        EXPECT_NE(message->find(first ? "Zeile 1 (\"Anna;030111;" : "Zeile 2 (\"Bert;030222;"),
+                  std::string::npos)
+            << *message;
+      }
+    }
+  }
+}
+
+}  // namespace
+}  // namespace quenda
