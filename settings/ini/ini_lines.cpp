@@ -35,7 +35,6 @@ bool IniLines::next(IniLine& line) {
     line = IniLine();
     line.start = start;
     line.end = end;
-    line.text_end = static_cast<std::size_t>(text.data() - text_.data()) + text.size();
     const auto closing = text.front() == '[' ? text.rfind(']') : text.npos;
     if (closing != text.npos) {
       line.kind = IniLine::Kind::kSection;

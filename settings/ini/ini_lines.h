@@ -9,12 +9,11 @@ namespace quenda {
 struct IniLine {
   enum class Kind { kSection, kEntry };
   Kind kind = Kind::kEntry;
-  std::string_view name;     // of the section or the key, without blanks around it
-  std::string_view value;    // without blanks around it
-  bool has_value = false;    // whether the line has a "="
-  std::size_t start = 0;     // where the line starts
-  std::size_t text_end = 0;  // behind its last character that is no blank
-  std::size_t end = 0;       // where its CR or LF stands
+  std::string_view name;   // of the section or the key, without blanks around it
+  std::string_view value;  // without blanks around it
+  bool has_value = false;  // whether the line has a "="
+  std::size_t start = 0;   // where the line starts
+  std::size_t end = 0;     // where its CR or LF stands
 };
 
 /// Walks over the lines of INI text; lines of blanks only are left out. CR and LF both end a line.

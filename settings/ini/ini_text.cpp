@@ -151,7 +151,7 @@ std::string replace_ini_value(std::string_view content, std::string_view section
       text.replace(line.start, line.end - line.start, key_line);
       return stored_ini(text, encoding);
     }
-    if (inside) last_end = line.text_end;
+    if (inside) last_end = line.end;
   }
   if (!found) {
     if (!text.empty() && text.back() != '\n' && text.back() != '\r') text += kCrLf;

@@ -15,6 +15,8 @@ TEST(ReplaceIniValue, LeavesAllOtherLinesAsTheyAre) {
             "; my settings\n\n[A]\n  x = 1\n\n\n[B]\ny=3\n");
   EXPECT_EQ(replace_ini_value(before, "A", "z", "9"),
             "; my settings\n\n[A]\n  x = 1\r\nz=9\n\n\n[B]\n y=2 ; note\n");
+  EXPECT_EQ(replace_ini_value("[A]\r\nx=ab \r\n", "A", "y", ""), "[A]\r\nx=ab \r\ny=\r\n")
+      << "a blank at the end of a line belongs to that line";
 }
 
 TEST(ReplaceIniValue, KeepsUtf16CharactersThatTheCodePageLacks) {
