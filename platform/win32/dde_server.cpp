@@ -65,7 +65,7 @@ void DdeServer::shut_down() noexcept {
     }
     MsgWaitForMultipleObjects(0, nullptr, FALSE, 10, QS_POSTMESSAGE);
   }
-  for (const auto& [conversation, told] : std::exchange(conversations_, {})) {
+  for (const auto& [conversation, host] : std::exchange(conversations_, {})) {
     DdeDisconnect(conversation);
   }
   DdeNameService(instance_, service_, nullptr, DNS_UNREGISTER);
@@ -105,7 +105,7 @@ HDDEDATA DdeServer::handle(UINT type, UINT format, HCONV conversation, HSZ topic
       connected(conversation);
       return nullptr;
     case XTYP_DISCONNECT:
-      disconnected(conversation);
+      disconnected(conversation, died(conversation));
       return nullptr;
     case XTYP_ERROR:
       if (events_.failed) events_.failed();
@@ -114,14 +114,14 @@ HDDEDATA DdeServer::handle(UINT type, UINT format, HCONV conversation, HSZ topic
       if (!offers(topic, item) || (format != CF_TEXT && format != CF_UNICODETEXT)) return nullptr;
       // The loop stands only after this call; the present text follows right behind.
       untold_ = true;
-      conversations_[conversation].erase(format);
+      conversations_[conversation].told.erase(format);
       timer_ = SetTimer(nullptr, timer_, kPostInterval, &DdeServer::watch);
       return yes();
     case XTYP_REQUEST:
       return offers(topic, item) ? text_data(format, item) : nullptr;
     case XTYP_ADVREQ: {
       if (!offers(topic, item)) return nullptr;
-      Told& told = conversations_[conversation];
+      auto& told = conversations_[conversation].told;
       const auto last = told.find(format);
       if (last != told.end() && last->second == text_) return nullptr;
       const HDDEDATA data = text_data(format, item);
@@ -154,28 +154,33 @@ HDDEDATA DdeServer::text_data(UINT format, HSZ item) const {
 }
 
 void DdeServer::connected(HCONV conversation) {
-  conversations_[conversation] = {};
+  CONVINFO info{};
+  info.cb = sizeof info;
+  DdeQueryConvInfo(conversation, QID_SYNC, &info);
+  conversations_[conversation] = {info.hwndPartner};
   if (timer_ == 0) timer_ = SetTimer(nullptr, 0, kWatchInterval, &DdeServer::watch);
   if (events_.opened) events_.opened();
 }
 
-void DdeServer::disconnected(HCONV conversation) {
-  if (conversations_.erase(conversation) == 0) return;
-  if (conversations_.empty() && events_.closed) events_.closed();
+bool DdeServer::died(HCONV conversation) const {
+  const auto host = conversations_.find(conversation);
+  return host != conversations_.end() && !host->second.alive();
+}
+
+void DdeServer::disconnected(HCONV conversation, bool died) {
+  if (conversations_.erase(conversation) == 0 || !conversations_.empty()) return;
+  const auto& tell = died ? events_.failed : events_.closed;
+  if (tell) tell();
 }
 
 bool DdeServer::drop_dead() {
   std::vector<HCONV> dead;
-  for (const auto& [conversation, told] : conversations_) {
-    CONVINFO info{};
-    info.cb = sizeof info;
-    if (DdeQueryConvInfo(conversation, QID_SYNC, &info) == 0 || IsWindow(info.hwndPartner) == 0) {
-      dead.push_back(conversation);
-    }
+  for (const auto& [conversation, host] : conversations_) {
+    if (!host.alive()) dead.push_back(conversation);
   }
   for (const HCONV conversation : dead) {
     DdeDisconnect(conversation);
-    disconnected(conversation);
+    disconnected(conversation, true);
   }
   return !dead.empty();
 }

@@ -13,7 +13,8 @@ namespace quenda {
 
 /// The host link over the system's dynamic data exchange. Hosts may connect in any number, watch
 /// the item (hot or warm) or ask for it, as Windows-1252 or as Unicode text. `closed` is raised
-/// when the last conversation has ended: while one host listens, the link is open.
+/// when the last host has left: while one listens, the link is open. `failed` is raised instead when
+/// the last one has died.
 class DdeServer : public HostLink {
  public:
   /// `service` is the application name that hosts ask for.
@@ -27,8 +28,13 @@ class DdeServer : public HostLink {
   void shut_down() noexcept override;
 
  private:
-  /// What one host that watches has been told last in each form, so that a text reaches it once.
-  using Told = std::map<UINT, std::string>;
+  /// A host that is connected.
+  struct Host {
+    HWND window = nullptr;
+    /// What it has been told last in each form that it watches, so that a text reaches it once.
+    std::map<UINT, std::string> told = {};
+    [[nodiscard]] bool alive() const { return window == nullptr || IsWindow(window) != 0; }
+  };
 
   static HDDEDATA CALLBACK callback(UINT type, UINT format, HCONV conversation, HSZ topic, HSZ item,
                                     HDDEDATA data, ULONG_PTR data1, ULONG_PTR data2) noexcept;
@@ -40,7 +46,10 @@ class DdeServer : public HostLink {
   [[nodiscard]] HDDEDATA wildcard_answer(HSZ topic, HSZ service) const;
   [[nodiscard]] HDDEDATA text_data(UINT format, HSZ item) const;
   void connected(HCONV conversation);
-  void disconnected(HCONV conversation);
+  void disconnected(HCONV conversation, bool died);
+  /// Whether a host that is connected is gone. The system ends the conversation in its name then, so
+  /// that it looks like a goodbye.
+  [[nodiscard]] bool died(HCONV conversation) const;
   /// Ends conversations whose host is gone without having said so; whether there were any.
   bool drop_dead();
   void post();
@@ -53,7 +62,7 @@ class DdeServer : public HostLink {
   HSZ item_ = nullptr;
   HostLinkEvents events_;
   std::string text_;
-  std::map<HCONV, Told> conversations_;
+  std::map<HCONV, Host> conversations_;
   bool untold_ = false;  // a host has begun to watch and waits for the present text
   UINT_PTR timer_ = 0;
 };

@@ -54,7 +54,8 @@ TEST_F(Host, ImportGoesOnWhenTheHostDies) {
   start_by_phone_book();
   go_to(Page::kColumns);
   phone_book_->process().kill();
-  EXPECT_TRUE(becomes([&] { return panel_of(main_, 3) == "Telefonbuch DDE-Verbindung: beendet"; }));
+  EXPECT_TRUE(
+      becomes([&] { return panel_of(main_, 3) == "Telefonbuch DDE-Verbindung: abgebrochen"; }));
   forward(Page::kNames);
   forward(Page::kAddresses);
   forward(Page::kEntries);
