@@ -57,6 +57,8 @@ OutlookScript read_outlook_script(std::string_view text) {
     if (key == "leaves") script.leaves = number();
     if (key == "busy_from") script.busy_from = number();
     if (key == "busy_for") script.busy_for = number();
+    if (key == "starts_after") script.starts_after = number();
+    if (key == "hangs_at") script.hangs_at = number();
     if (key == "dies_at") script.dies_at = number();
     if (key == "missing") script.missing = units_of(value);
     if (key == "report") script.report = value;

@@ -22,6 +22,7 @@ namespace {
 
 constexpr DWORD kLinger = 1000;       // milliseconds between the last object and the end
 constexpr DWORD kIdleLimit = 20'000;  // milliseconds without a call; somebody forgot an object
+constexpr DWORD kHang = 8000;         // milliseconds; longer than anybody waits
 constexpr long kContactsFolder = 10;
 constexpr long kContactClass = 40;
 constexpr long kListClass = 69;
@@ -80,6 +81,7 @@ class Outlook final : public IClassFactory {
       const auto position = static_cast<std::size_t>(number.lVal);
       if (position < 1 || position > script_.items.size()) return nullptr;
       if (position == script_.dies_at) TerminateProcess(GetCurrentProcess(), 1);
+      if (position == script_.hangs_at) Sleep(kHang);
       if (position == script_.busy_from) world_.busy_until = GetTickCount64() + script_.busy_for;
       return item(script_.items[position - 1]);
     };
@@ -114,6 +116,7 @@ IDispatch* Outlook::item(const ScriptedItem& item) {
 
 void Outlook::serve(REFCLSID class_id) {
   DWORD cookie = 0;
+  Sleep(script_.starts_after);
   world_.last_change = GetTickCount64();
   if (FAILED(CoRegisterClassObject(class_id, this, CLSCTX_LOCAL_SERVER, REGCLS_MULTIPLEUSE,
                                    &cookie))) {

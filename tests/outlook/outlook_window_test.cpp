@@ -101,5 +101,29 @@ TEST_F(OutlookWindow, CancelWhileReadingEndsTheToolAndLetsOutlookGo) {
   EXPECT_THAT(outlook.counted("live"), Each(0));
 }
 
+TEST_F(OutlookWindow, CancelIsAnsweredWhileOutlookHangs) {
+  const OutlookStandIn outlook("contacts=3\nhangs_at=2\n");
+  start_by_phone_book();
+  open_outlook();
+  EXPECT_TRUE(panel_becomes(2, u8"Einträge aufbereiten"_de));
+  Sleep(200);  // the second contact is asked for
+  const ULONGLONG begin = GetTickCount64();
+  click(button(kCancel));
+  expect_end();
+  EXPECT_LT(GetTickCount64() - begin, 2000U);
+  EXPECT_TRUE(phone_book_->hears("cancel"));
+}
+
+TEST_F(OutlookWindow, AFileIsImportedWhileASlowOutlookStarts) {
+  const OutlookStandIn outlook("starts_after=6000\n");
+  const ULONGLONG begin = GetTickCount64();
+  start_by_phone_book();
+  go_to(Page::kColumns);
+  EXPECT_LT(GetTickCount64() - begin, 6000U);
+  click_button(kCancel);
+  expect_end();
+  EXPECT_TRUE(phone_book_->hears("cancel"));
+}
+
 }  // namespace
 }  // namespace quenda

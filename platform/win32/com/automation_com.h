@@ -7,11 +7,12 @@
 
 namespace quenda {
 
-struct AutomationContext;
+class CallThread;
 
 /// Programs of this machine, driven late bound: by the names of their members alone. The identifier
 /// of a name is asked for once per type of object. A program that is busy is asked again for some
-/// seconds, during which `pump` runs.
+/// seconds. Calls are made by a thread of their own; while a caller waits, `pump` runs on the
+/// caller's thread, and what it raises ends the wait.
 class ComAutomation : public Automation {
  public:
   explicit ComAutomation(std::function<void()> pump) : pump_(std::move(pump)) {}
@@ -19,7 +20,7 @@ class ComAutomation : public Automation {
 
  private:
   std::function<void()> pump_;
-  std::shared_ptr<AutomationContext> context_;
+  std::shared_ptr<CallThread> thread_;  // from the first call on
 };
 
 }  // namespace quenda

@@ -9,10 +9,15 @@
 
 namespace quenda {
 
-/// Joins the thread to an apartment of the component system for as long as it lives.
+/// The apartment of a thread in the component system. A thread with windows has its own; threads
+/// that only make calls share one, where calls need no messages to come through.
+enum class Apartment : DWORD { kOwn = COINIT_APARTMENTTHREADED, kOfMany = COINIT_MULTITHREADED };
+
+/// Joins the thread to an apartment for as long as it lives.
 class ApartmentScope {
  public:
-  ApartmentScope() : joined_(SUCCEEDED(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED))) {}
+  explicit ApartmentScope(Apartment kind = Apartment::kOwn)
+      : joined_(SUCCEEDED(CoInitializeEx(nullptr, static_cast<DWORD>(kind)))) {}
   ApartmentScope(const ApartmentScope&) = delete;
   ApartmentScope& operator=(const ApartmentScope&) = delete;
   ~ApartmentScope() {
