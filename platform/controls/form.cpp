@@ -28,12 +28,6 @@ void Form::set_pointer(Pointer pointer) {
   refresh(Aspect::kPointer);
 }
 
-void Form::set_redraw(bool redraw) {
-  if (redraw_ == redraw) return;
-  redraw_ = redraw;
-  refresh(Aspect::kRedraw);
-}
-
 bool Form::unload(CloseReason reason) {
   if (!loaded_) return true;
   bool cancel = false;

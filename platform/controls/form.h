@@ -44,9 +44,10 @@ class Form : public ControlHost {
 
   [[nodiscard]] Pointer pointer() const { return pointer_; }
   void set_pointer(Pointer pointer);
-  /// While redrawing is off, changes are not shown.
+  /// While redrawing is off, changes are only noted; they are shown with the next ones after it is
+  /// on again.
   [[nodiscard]] bool redraw() const { return redraw_; }
-  void set_redraw(bool redraw);
+  void set_redraw(bool redraw) { redraw_ = redraw; }
 
   /// True from construction until the form has been unloaded.
   [[nodiscard]] bool loaded() const { return loaded_; }
@@ -92,7 +93,8 @@ class Form : public ControlHost {
   ControlPeer* peer_ = nullptr;
 };
 
-/// Keeps a form from redrawing while lists are filled.
+/// Keeps a form from redrawing while lists are filled: stands for the system's lock of a window's
+/// updates. It matters where events are handled while a list is half full.
 class UpdateLock {
  public:
   explicit UpdateLock(Form& form) : form_(form) { form_.set_redraw(false); }

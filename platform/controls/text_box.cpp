@@ -3,6 +3,14 @@
 #include <algorithm>
 
 namespace quenda {
+namespace {
+
+/// The keys below the blank that handlers know: backspace, Enter and Escape.
+bool edits_by_itself(std::int16_t code) {
+  return code > 0 && code < ' ' && code != 8 && code != 13 && code != 27;
+}
+
+}  // namespace
 
 void TextBox::set_text(std::string_view text) {
   if (text_ == text) return;
@@ -25,7 +33,7 @@ void TextBox::take_user_text(std::string_view text) {
 }
 
 std::int16_t TextBox::take_user_key(std::int16_t code) {
-  if (on_key_press) on_key_press(code);
+  if (on_key_press && !edits_by_itself(code)) on_key_press(code);
   return code;
 }
 

@@ -38,7 +38,9 @@ class TextBox : public Control {
 
   /// The user changed the text.
   void take_user_text(std::string_view text);
-  /// The user typed a key; the result is the code to insert, 0 for none.
+  /// The user typed a key; the result is the code to insert, 0 for none. Keys that edit without
+  /// being a character (copying, pasting, undoing) pass the handler by: it filters what is typed,
+  /// and would lock them out.
   std::int16_t take_user_key(std::int16_t code);
   /// Types a text key by key at the end, through the key filter, as a user would.
   void type(std::string_view keys);

@@ -21,7 +21,6 @@ enum class Aspect {
   kZOrder,     // bring to the front
   kFocus,      // take the keyboard focus
   kPointer,    // mouse pointer of a form
-  kRedraw,     // a form's screen updates were suspended or resumed
 };
 
 /// The native side of one control. It reads the control's state when told to, and reports what the

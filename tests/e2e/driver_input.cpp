@@ -35,6 +35,9 @@ void send_mouse(DWORD flags, POINT at) {
   SendInput(1, &input, sizeof input);
 }
 
+/// What has just come up takes no press: a user waits, too, to see what it is.
+void look_first() { Sleep(GetDoubleClickTime() + 20); }
+
 POINT on_screen(const Window& control, POINT point) {
   const RECT place = control.place();
   return {place.left + point.x, place.top + point.y};
@@ -86,7 +89,14 @@ void wait_until_active(const Window& window) {
 }
 
 void press(Key key) {
+  if (key == Key::kEnter || key == Key::kBlank || key == Key::kEscape) look_first();
   send_key(static_cast<WORD>(key), 0, 0);
+  send_key(static_cast<WORD>(key), 0, KEYEVENTF_KEYUP);
+}
+
+void hold(Key key, int repeats) {
+  look_first();
+  for (int i = 0; i <= repeats; ++i) send_key(static_cast<WORD>(key), 0, 0);
   send_key(static_cast<WORD>(key), 0, KEYEVENTF_KEYUP);
 }
 
@@ -130,16 +140,29 @@ void click(const Window& control) {
 void click_at(const Window& control, POINT point) {
   EXPECT_TRUE(control.visible() && control.enabled()) << control.text() << " cannot be clicked";
   const POINT at = on_screen(control, point);
+  look_first();
   EXPECT_TRUE(press_button_at(control, point)) << control.text() << " takes no click";
   send_mouse(MOUSEEVENTF_LEFTUP, at);
 }
 
 void double_click_at(const Window& control, POINT point) {
-  Sleep(GetDoubleClickTime());  // a click before must not become the first of the two
   const POINT at = on_screen(control, point);
   click_at(control, point);
   send_mouse(MOUSEEVENTF_LEFTDOWN, at);
   send_mouse(MOUSEEVENTF_LEFTUP, at);
+}
+
+void click_twice(const Window& control, DWORD pause) {
+  const RECT place = control.place();
+  const POINT at{(place.left + place.right) / 2, (place.top + place.bottom) / 2};
+  click(control);
+  Sleep(pause);
+  send_mouse(MOUSEEVENTF_LEFTDOWN, at);
+  send_mouse(MOUSEEVENTF_LEFTUP, at);
+}
+
+void set_double_click_time(UINT milliseconds) {
+  SystemParametersInfoW(SPI_SETDOUBLECLICKTIME, milliseconds, nullptr, 0);
 }
 
 void press_alt_f4() { press_with(VK_MENU, VK_F4); }

@@ -23,7 +23,10 @@ enum class Key : WORD {
 /// Waits until the window is the one that the user works in.
 void wait_until_active(const Window& window);
 
+/// Enter and the blank once what can be seen takes them.
 void press(Key key);
+/// Holds a key down for so many repeats.
+void hold(Key key, int repeats);
 /// With Shift, Control or Alt (VK_SHIFT, VK_CONTROL, VK_MENU) held down.
 void press_with(WORD modifier, WORD key);
 /// Types characters into whatever has the focus.
@@ -36,6 +39,10 @@ void click(const Window& control);
 /// The same at a point of the control, in pixels from its top left corner.
 void click_at(const Window& control, POINT point);
 void double_click_at(const Window& control, POINT point);
+/// Two clicks in the same place, so many milliseconds apart, whatever has come up there meanwhile.
+void click_twice(const Window& control, DWORD pause);
+/// The time within which two clicks are a double click, for programs that start from now on.
+void set_double_click_time(UINT milliseconds);
 /// Asks the active window to close, as its close box does.
 void press_alt_f4();
 

@@ -21,17 +21,17 @@ class NativeLabel : public PeerOf<Label> {
   using PeerOf::PeerOf;
   void apply_font() override {
     if (!typed().heading()) return NativeControl::apply_font();
-    const HFONT font = form().fonts().heading.get();
+    const HFONT font = form().place().fonts().heading.get();
     send(WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
   }
 
  protected:
   [[nodiscard]] WindowSpec spec() const override {
     const DWORD prefix = typed().shows_data() ? SS_NOPREFIX : 0;
-    return {WC_STATICW, false, SS_LEFT | prefix, 0, form().keyed_caption(typed())};
+    return {WC_STATICW, false, SS_LEFT | prefix, 0, form().captions().of(typed())};
   }
   void show(Aspect aspect) override {
-    if (aspect == Aspect::kCaption) set_window_text(form().keyed_caption(typed()));
+    if (aspect == Aspect::kCaption) set_window_text(form().captions().of(typed()));
   }
 };
 
@@ -76,11 +76,17 @@ class NativeButton : public PeerOf<Button> {
   [[nodiscard]] WindowSpec spec() const override {
     const bool usual = form().form().default_button == &typed();
     const DWORD style = usual ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON;
-    return {WC_BUTTONW, true, style, 0, form().keyed_caption(typed())};
+    return {WC_BUTTONW, true, style, 0, form().captions().of(typed())};
   }
   void show(Aspect aspect) override {
-    if (aspect == Aspect::kCaption) set_window_text(form().keyed_caption(typed()));
+    if (aspect != Aspect::kCaption) return;
+    set_window_text(form().captions().of(typed()));
+    if (!shown_.empty() && shown_ != typed().caption()) form().content_changed();
+    shown_ = typed().caption();
   }
+
+ private:
+  std::string shown_;
 };
 
 class NativeCheckBox : public PeerOf<CheckBox> {
@@ -94,10 +100,10 @@ class NativeCheckBox : public PeerOf<CheckBox> {
 
  protected:
   [[nodiscard]] WindowSpec spec() const override {
-    return {WC_BUTTONW, true, BS_CHECKBOX | BS_MULTILINE, 0, form().keyed_caption(typed())};
+    return {WC_BUTTONW, true, BS_CHECKBOX | BS_MULTILINE, 0, form().captions().of(typed())};
   }
   void show(Aspect aspect) override {
-    if (aspect == Aspect::kCaption) set_window_text(form().keyed_caption(typed()));
+    if (aspect == Aspect::kCaption) set_window_text(form().captions().of(typed()));
     if (aspect == Aspect::kValue) send(BM_SETCHECK, typed().ticked() ? BST_CHECKED : BST_UNCHECKED);
   }
 };
@@ -113,10 +119,10 @@ class NativeOptionButton : public PeerOf<OptionButton> {
 
  protected:
   [[nodiscard]] WindowSpec spec() const override {
-    return {WC_BUTTONW, true, BS_AUTORADIOBUTTON | BS_MULTILINE, 0, form().keyed_caption(typed())};
+    return {WC_BUTTONW, true, BS_AUTORADIOBUTTON | BS_MULTILINE, 0, form().captions().of(typed())};
   }
   void show(Aspect aspect) override {
-    if (aspect == Aspect::kCaption) set_window_text(form().keyed_caption(typed()));
+    if (aspect == Aspect::kCaption) set_window_text(form().captions().of(typed()));
     if (aspect != Aspect::kValue) return;
     // Telling an empty button that it is empty would take it out of the tab order.
     const bool shown = send(BM_GETCHECK) == BST_CHECKED;
@@ -132,7 +138,7 @@ class NativeStatusBar : public PeerOf<StatusBar> {
 
   /// Along the foot of the window, whatever its size.
   void place() override {
-    const int height = pixels_of(control().place().height, form().dpi());
+    const int height = pixels_of(control().place().height, form().place().dpi());
     send(SB_SETMINHEIGHT, static_cast<WPARAM>(height > 8 ? height - 4 : height));
     send(WM_SIZE);
     RECT area{};

@@ -63,7 +63,7 @@ class NativeListBox : public PeerOf<ListBox> {
     send(WM_SETREDRAW, FALSE);
     send(LB_RESETCONTENT);
     const WindowDc dc(window());
-    const Selected font(dc.get(), form().fonts().plain.get());
+    const Selected font(dc.get(), form().place().fonts().plain.get());
     constexpr WPARAM kMargin = 6;
     LONG widest = 0;
     for (int i = 0; i < typed().count(); ++i) {

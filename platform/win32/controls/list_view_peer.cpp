@@ -156,12 +156,12 @@ class NativeListView : public PeerOf<ListView> {
     std::vector<int> widths;
     int sum = 0;
     for (const ListColumn& column : typed().columns()) {
-      widths.push_back(pixels_of(column.width, form().dpi()));
+      widths.push_back(pixels_of(column.width, form().place().dpi()));
       sum += widths.back();
     }
     RECT area{};
     GetWindowRect(window(), &area);
-    const auto dpi = static_cast<UINT>(form().dpi());
+    const auto dpi = static_cast<UINT>(form().place().dpi());
     const int room = static_cast<int>(area.right - area.left) -
                      GetSystemMetricsForDpi(SM_CXVSCROLL, dpi) -
                      2 * GetSystemMetricsForDpi(SM_CXEDGE, dpi);

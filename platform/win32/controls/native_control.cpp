@@ -33,7 +33,7 @@ void NativeControl::create(HWND parent, int id, bool begins_group) {
   const DWORD shown = control_.visible() ? WS_VISIBLE : 0;
   const DWORD locked = is_live() ? 0 : WS_DISABLED;
   const DWORD group = begins_group ? WS_GROUP : 0;
-  placed_ = laid_out(control_, form_.dpi(), form_.growth());
+  placed_ = laid_out(control_, form_.place().dpi(), form_.place().growth());
   // Text and state go in here: to change them afterwards would cost as much as the window itself.
   window_ = CreateWindowExW(made.extended, made.window_class, wide(made.text).c_str(),
                             WS_CHILD | made.style | tab_stop | group | shown | locked, placed_.left,
@@ -60,7 +60,7 @@ void NativeControl::refresh(Aspect aspect) {
       form_.focus().want(*this);
       break;
     default:
-      if (aspect == Aspect::kCaption || aspect == Aspect::kVisible) form_.captions_changed();
+      if (aspect == Aspect::kCaption || aspect == Aspect::kVisible) form_.captions().changed();
       noted_ |= bit(aspect);
   }
 }
@@ -92,7 +92,7 @@ void NativeControl::show_common(Aspect aspect) {
       place();
       break;
     case Aspect::kCaption:
-      if (!control_.spoken_name().empty()) form_.names_changed();
+      if (!control_.spoken_name().empty()) form_.names().changed();
       break;
     case Aspect::kEnabled:
       if ((IsWindowEnabled(window_) != 0) != is_live()) {
@@ -125,7 +125,7 @@ bool NativeControl::is_live() const {
 }
 
 void NativeControl::place() {
-  const Pixels to = laid_out(control_, form_.dpi(), form_.growth());
+  const Pixels to = laid_out(control_, form_.place().dpi(), form_.place().growth());
   if (to == placed_) return;
   placed_ = to;
   SetWindowPos(window_, nullptr, to.left, to.top, to.width, to.height,
@@ -133,7 +133,7 @@ void NativeControl::place() {
 }
 
 void NativeControl::apply_font() {
-  const HFONT font = form_.fonts().plain.get();
+  const HFONT font = form_.place().fonts().plain.get();
   send(WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
 }
 
@@ -151,7 +151,7 @@ LRESULT CALLBACK NativeControl::procedure(HWND window, UINT message, WPARAM wpar
 
 LRESULT NativeControl::object_named(WPARAM wparam, LPARAM lparam) {
   // Whatever the reader asks for: the system has to know the name by then.
-  const std::string name = form_.name_to_answer(*this);
+  const std::string name = form_.names().name_to_answer(*this);
   const bool wanted = static_cast<LONG>(lparam) == OBJID_CLIENT;
   return wanted && !name.empty() ? answer_with_name(window_, wparam, name) : 0;
 }

@@ -49,7 +49,7 @@ class NativeProgress : public PeerOf<PictureBox> {
     const Bitmap picture(CreateCompatibleBitmap(screen, area.right, area.bottom));
     if (!aside || !picture) return;
     const Selected bitmap(aside.get(), picture.get());
-    const Selected font(aside.get(), form().fonts().plain.get());
+    const Selected font(aside.get(), form().place().fonts().plain.get());
     RECT done = area;
     done.right = MulDiv(area.right, typed().percent(), 100);
     RECT open = area;

@@ -7,9 +7,6 @@
 namespace quenda {
 namespace {
 
-constexpr wchar_t kBackspace = 8;
-constexpr wchar_t kBlank = 32;
-
 class NativeTextBox : public PeerOf<TextBox> {
  public:
   using PeerOf::PeerOf;
@@ -45,12 +42,10 @@ class NativeTextBox : public PeerOf<TextBox> {
     }
   }
 
-  /// Typed characters pass the field's filter; control keys other than backspace (copying, pasting,
-  /// undoing) do not.
+  /// Every typed character passes the field, which says what becomes of it.
   bool on_message(UINT message, WPARAM& wparam, LPARAM /*lparam*/, LRESULT& /*result*/) override {
     if (message != WM_CHAR || typed().locked()) return false;
     const auto unit = static_cast<wchar_t>(wparam);
-    if (unit < kBlank && unit != kBackspace) return false;
     const int code = byte_1252_of(static_cast<char32_t>(unit));
     const auto passed =
         code < 0 ? std::int16_t{0} : typed().take_user_key(static_cast<std::int16_t>(code));

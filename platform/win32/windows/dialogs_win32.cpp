@@ -75,6 +75,7 @@ MessageAnswer Win32Dialogs::message_box(std::string_view text, MessageStyle styl
   loop_.show_changes();
   const HWND owner = message_owner();
   const UINT modal = owner == nullptr ? MB_TASKMODAL : MB_APPLMODAL;
+  const SystemDialogGuard guard(loop_.presses());
   const UINT forward = GetActiveWindow() == nullptr ? MB_SETFOREGROUND : 0;
   const int answer = MessageBoxW(owner, wide(text).c_str(), wide(title).c_str(),
                                  static_cast<UINT>(style) | modal | forward);
@@ -98,6 +99,7 @@ ChosenFile Win32Dialogs::open_file(const std::vector<FileFilter>& filters, const
   dialog.lpfnHook = &hook_procedure;
   HookContext context{loop_, hook};
   dialog.lCustData = as_lparam(&context);
+  const SystemDialogGuard guard(loop_.presses());
   const bool chosen = GetOpenFileNameW(&dialog) != 0;
   loop_.rethrow();
   if (!chosen) return {};

@@ -31,11 +31,15 @@ void Win32Events::show(Form& form) {
 
 void Win32Events::show_modal(Form& form, Form& owner) {
   loop_.show_changes();
-  FormWindow dialog(loop_, form, window_of(owner));
-  // Unlocked before the dialog goes, or the system would bring another program's window forward.
-  const OwnerLock lock(window_of(owner));
-  dialog.show();
-  loop_.run_while([&] { return form.loaded(); });
+  {
+    FormWindow dialog(loop_, form, window_of(owner));
+    // Unlocked before the dialog goes, or the system would bring another program's window forward.
+    const OwnerLock lock(window_of(owner));
+    dialog.show();
+    loop_.run_while([&] { return form.loaded(); });
+  }
+  // What lies under the dialog is not what was pressed in it.
+  loop_.presses().window_came_up();
   loop_.rethrow();
 }
 

@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "platform/controls/simple_controls.h"
 #include "platform/win32/windows/form_window.h"
 
 namespace quenda {
@@ -27,8 +26,8 @@ void FocusKeeper::settle(bool idle) {
   if (GetCapture() != nullptr) return;
   give_wanted();
   if (idle) wanted_ = nullptr;
-  if (idle && (in_refuge_ || page_is_new_ || is_lost())) find_place();
-  if (!idle && is_lost()) take_refuge();
+  if (idle && (resting_ || page_is_new_ || is_lost())) find_place();
+  if (!idle && !rests() && is_lost()) rest();
   // A button that got the focus back when the window did is not yet the one that Enter presses.
   const HWND focus = GetFocus();
   if (idle && IsChild(form_.window(), focus) != 0 &&
@@ -40,7 +39,7 @@ void FocusKeeper::settle(bool idle) {
 bool FocusKeeper::give_wanted() {
   if (wanted_ == nullptr || !can_take(wanted_->window())) return false;
   give(*std::exchange(wanted_, nullptr));
-  in_refuge_ = false;
+  resting_ = false;
   return true;
 }
 
@@ -66,16 +65,21 @@ void FocusKeeper::lend(NativeControl& control) {
   SetFocus(control.window());
 }
 
-void FocusKeeper::take_refuge() {
-  const Button* const stop = form_.form().cancel_button;
-  if (stop == nullptr || !stop->reachable()) return;
-  back_to_ = focused_;
-  lend(*FormWindow::peer_of(*stop));
-  in_refuge_ = true;
+bool FocusKeeper::rests() const { return resting_; }
+
+bool FocusKeeper::drops(const MSG& message) const {
+  return resting_ && message.message == WM_KEYDOWN && message.hwnd == form_.window() &&
+         message.wParam != VK_TAB && message.wParam != VK_ESCAPE;
+}
+
+void FocusKeeper::rest() {
+  if (!resting_) back_to_ = focused_;
+  resting_ = true;
+  SetFocus(form_.window());
 }
 
 void FocusKeeper::find_place() {
-  in_refuge_ = false;
+  resting_ = false;
   const bool new_page = std::exchange(page_is_new_, false);
   NativeControl* const back_to = std::exchange(back_to_, nullptr);
   const bool on_page = back_to != nullptr && back_to->control().parent() != nullptr;

@@ -1,17 +1,14 @@
 #include "platform/win32/windows/form_window.h"
 
-#include <shellapi.h>
-
 #include <algorithm>
 #include <array>
 #include <utility>
 
 #include "platform/controls/simple_controls.h"
-#include "platform/controls/text_box.h"
 #include "platform/win32/controls/control_peers.h"
 #include "platform/win32/controls/panel_window.h"
 #include "platform/win32/text_win32.h"
-#include "platform/win32/windows/access_keys.h"
+#include "platform/win32/windows/dropped_file.h"
 #include "text/fault.h"
 
 namespace quenda {
@@ -46,20 +43,20 @@ bool begins_group(const Control* before, const Control& control) {
 }  // namespace
 
 FormWindow::FormWindow(MessageLoop& loop, Form& form, HWND owner)
-    : loop_(loop), form_(form), owner_(owner) {
+    : loop_(loop), form_(form), owner_(owner), place_(form, owner), captions_(form), names_(form) {
   register_window_classes();
   const DialogTemplate made = dialog_template(form, owner != nullptr);
   window_.reset(CreateDialogIndirectParamW(GetModuleHandleW(nullptr), &made.fixed, owner,
                                            &FormWindow::procedure, as_lparam(this)));
   if (!window_) raise_fault(kFaultOutOfMemory);
-  place_window();
-  give_access_keys();
+  place_.place(window());
+  captions_.renew();
   create_controls(window(), nullptr);
   if (form_.default_button != nullptr) {
     SendMessageW(window(), DM_SETDEFID, static_cast<WPARAM>(id_of(*form_.default_button)), 0);
   }
   SetWindowTextW(window(), wide(form_.caption()).c_str());
-  DragAcceptFiles(window(), form_.on_drop_file ? TRUE : FALSE);
+  accept_drops(window(), form_);
   form_.attach(this);
   loop_.add(*this);
   show_changes();
@@ -116,8 +113,16 @@ void FormWindow::page_shown(NativeControl& frame) {
     return control->parent() == &frame.control() && control->peer() != nullptr;
   });
   if (empty) create_controls(frame.window(), &frame.control());
-  captions_changed_ = true;
-  if (ready_) focus_.page_shown();
+  captions_.changed();
+  if (!ready_) return;
+  focus_.page_shown();
+  content_changed();
+}
+
+/// The button that stops everything means the same on every page.
+void FormWindow::content_changed() {
+  const Button* const stop = form_.cancel_button;
+  loop_.presses().content_changed(stop == nullptr ? nullptr : peer_of(*stop)->window());
 }
 
 NativeControl* FormWindow::peer_of(const Control& control) {
@@ -141,7 +146,9 @@ void FormWindow::show() {
   SetForegroundWindow(window());
   UpdateWindow(window());
   ready_ = true;
-  show_icons();
+  place_.shown();
+  loop_.presses().window_came_up();
+  icons_.show(window(), place_.dpi());
   // The system has chosen the first field; where the work begins is for the form to say.
   focus_.page_shown();
   settle(true);
@@ -153,7 +160,8 @@ void FormWindow::refresh(Aspect aspect) {
       SetWindowTextW(window(), wide(form_.caption()).c_str());
       break;
     case Aspect::kPlace:
-      place_window();
+      place_.place(window());
+      follow_scale();
       break;
     case Aspect::kPointer:
       show_pointer();
@@ -165,39 +173,17 @@ void FormWindow::refresh(Aspect aspect) {
       MessageLoop::wake();
       break;
     default:
-      break;  // redrawing is looked up when it matters
+      break;
   }
 }
 
 void FormWindow::show_changes() {
   if (showing_ || !form_.redraw()) return;
   showing_ = true;
-  if (std::exchange(captions_changed_, false)) give_access_keys();
+  captions_.renew();
   // A frame that comes into view adds controls: NOLINTNEXTLINE(modernize-loop-convert)
   for (std::size_t i = 0; i < controls_.size(); ++i) controls_[i]->show_changes();
   showing_ = false;
-}
-
-void FormWindow::give_access_keys() {
-  const std::vector<Control*> found = keyed_controls(form_);
-  std::vector<std::string> captions;
-  captions.reserve(found.size());
-  for (const Control* control : found) captions.push_back(control->caption());
-  const auto own_buttons = std::count_if(found.begin(), found.end(), [](const Control* control) {
-    return control->parent() == nullptr;
-  });
-  captions = with_access_keys(captions, static_cast<std::size_t>(own_buttons));
-  for (std::size_t i = 0; i < found.size(); ++i) {
-    std::string& keyed = keyed_[found[i]];
-    if (keyed == captions[i]) continue;
-    keyed = std::move(captions[i]);
-    if (NativeControl* native = peer_of(*found[i])) native->refresh(Aspect::kCaption);
-  }
-}
-
-std::string FormWindow::keyed_caption(const Control& control) const {
-  const auto found = keyed_.find(&control);
-  return found == keyed_.end() ? control.caption() : found->second;
 }
 
 bool FormWindow::translate(MSG& message) {
@@ -208,30 +194,27 @@ bool FormWindow::translate(MSG& message) {
     });
     return true;
   }
+  if (focus_.drops(message)) return true;
   return IsDialogMessageW(window(), &message) != 0;
-}
-
-void FormWindow::tell_names() {
-  names_changed_ = false;
-  for (const auto& control : controls_) {
-    const std::string& name = control->control().spoken_name();
-    if (!name.empty() && control->window() != nullptr) names_->set(control->window(), name);
-  }
-}
-
-std::string FormWindow::name_to_answer(const NativeControl& native) {
-  std::string name = native.control().spoken_name();
-  if (name.empty()) name = label_of_list(form_, native.control());
-  if (name.empty()) return name;
-  if (!names_) names_ = std::make_unique<SpokenNames>();
-  return names_->set(native.window(), name) ? std::string() : name;
 }
 
 void FormWindow::settle(bool idle) {
   if (!ready_ || !form_.loaded()) return;
-  if (idle && names_ && names_changed_) tell_names();
+  // Work that locks nothing waits for another program; the user goes on meanwhile.
+  idle = idle || !form_.input_locked();
+  if (idle) names_.tell(controls_);
   focus_.settle(idle);
   show_changes();
+}
+
+void FormWindow::follow_scale() {
+  for (const auto& control : controls_) {
+    if (control->window() == nullptr) continue;
+    control->apply_font();
+    control->refresh(Aspect::kPlace);
+  }
+  if (ready_) icons_.show(window(), place_.dpi());
+  RedrawWindow(window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
 void FormWindow::show_pointer() const {
@@ -241,19 +224,6 @@ void FormWindow::show_pointer() const {
   if (under != window() && IsChild(window(), under) == 0) return;
   SendMessageW(under, WM_SETCURSOR, reinterpret_cast<WPARAM>(under),
                MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
-}
-
-void FormWindow::on_drop(WPARAM drop) {
-  auto* const dropped = from_lparam<HDROP__>(static_cast<LPARAM>(drop));
-  std::wstring path(DragQueryFileW(dropped, 0, nullptr, 0), L'\0');
-  DragQueryFileW(dropped, 0, path.data(), static_cast<UINT>(path.size()) + 1);
-  DragFinish(dropped);
-  if (path.empty() || !takes_input()) return;
-  if (const auto named = exact_1252(path)) {
-    if (form_.on_drop_file) form_.on_drop_file(*named);
-  } else if (form_.on_unusable_path) {
-    form_.on_unusable_path(nearest_1252(path));
-  }
 }
 
 /// A window under a dialog can still be sent messages by other programs.
@@ -309,6 +279,13 @@ INT_PTR FormWindow::on_message(UINT message, WPARAM wparam, LPARAM lparam) {
       if (form_.pointer() != Pointer::kHourglass || LOWORD(lparam) != HTCLIENT) return FALSE;
       SetCursor(LoadCursorW(nullptr, IDC_WAIT));
       return answer(TRUE);
+    case WM_SETFOCUS:
+      return focus_.rests() ? TRUE : FALSE;
+    case WM_ACTIVATE:
+      // The system would look for a button to give the focus to.
+      if (!focus_.rests() || LOWORD(wparam) == WA_INACTIVE) return FALSE;
+      SetFocus(window());
+      return TRUE;
     case WM_CLOSE:
       close();
       return TRUE;
@@ -319,22 +296,25 @@ INT_PTR FormWindow::on_message(UINT message, WPARAM wparam, LPARAM lparam) {
       if (wparam != 0 && owner_ == nullptr) form_.unload(CloseReason::kCode);
       return TRUE;
     case WM_SIZE:
-      on_size();
+      place_.on_size(window());
+      for (const auto& control : controls_) control->refresh(Aspect::kPlace);
       return TRUE;
     case WM_MOVE:
-      on_move();
+      place_.on_move(window());
       return TRUE;
     case WM_GETMINMAXINFO:
-      limit_size(*from_lparam<MINMAXINFO>(lparam));
+      place_.limit_size(window(), *from_lparam<MINMAXINFO>(lparam));
       return TRUE;
     case WM_DPICHANGED:
-      on_dpi(LOWORD(wparam), *from_lparam<RECT>(lparam));
+      place_.on_dpi(window(), LOWORD(wparam), *from_lparam<RECT>(lparam));
+      follow_scale();
       return TRUE;
     case WM_SETTINGCHANGE:
-      use_dpi(dpi_);
+      place_.scale(place_.dpi());
+      follow_scale();
       return FALSE;
     case WM_DROPFILES:
-      on_drop(wparam);
+      take_drop(form_, wparam, takes_input());
       return TRUE;
     case WM_HELP:
       return TRUE;  // F1 has been taken before

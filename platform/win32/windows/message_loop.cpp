@@ -45,6 +45,7 @@ void MessageLoop::settle(bool idle) {
 }
 
 void MessageLoop::dispatch(MSG& message) {
+  if (presses_.holds_back(message)) return;
   // A copy, since a key can open a form, which joins the clients.
   const auto clients = clients_;
   const bool taken = std::any_of(clients.rbegin(), clients.rend(),

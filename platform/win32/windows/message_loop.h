@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "platform/win32/windows/press_guard.h"
 #include "platform/win32/windows_headers.h"
 
 namespace quenda {
@@ -28,6 +29,9 @@ class MessageLoop {
  public:
   void add(LoopClient& client) { clients_.push_back(&client); }
   void remove(LoopClient& client);
+
+  /// Sees every click and key before the windows do.
+  [[nodiscard]] PressGuard& presses() { return presses_; }
 
   /// Runs a handler on behalf of the system, which gets `otherwise` when the handler throws.
   template <class Body, class Result>
@@ -70,6 +74,7 @@ class MessageLoop {
   void dispatch(MSG& message);
   void settle(bool idle);
 
+  PressGuard presses_;
   std::vector<LoopClient*> clients_;
   std::exception_ptr parked_;
   bool ending_ = false;

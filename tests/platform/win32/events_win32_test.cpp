@@ -24,21 +24,33 @@ TEST_F(FormWindowTest, TheEndOfTheProgramPassesThroughNestedWork) {
   EXPECT_THROW(loop_.pump(), EndProgram);
 }
 
-TEST_F(FormWindowTest, LongWorkIsStoppedByEscapeThoughTheFocusedButtonIsDisabled) {
-  bool stopped = false;
-  form_.stop.on_click = [&] { stopped = true; };
+TEST_F(FormWindowTest, LongWorkIsStoppedOnlyByAKeyThatIsMeantForIt) {
+  int stops = 0;
+  form_.stop.set_always_usable();
+  form_.stop.on_click = [&] { ++stops; };
+  const auto press = [&](WPARAM key) {
+    PostMessageW(GetFocus(), WM_KEYDOWN, key, 0);
+    PostMessageW(GetFocus(), WM_KEYUP, key, 0);
+    loop_.pump();
+  };
   form_.go.on_click = [&] {
-    form_.go.set_enabled(false);
+    form_.lock_input(true);
     loop_.pump();
+    for (const auto key : {WPARAM{VK_SPACE}, WPARAM{VK_RETURN}, WPARAM{VK_DOWN}}) press(key);
+    EXPECT_EQ(stops, 0) << "they were meant for the button before";
+    press(VK_ESCAPE);
+    EXPECT_EQ(stops, 1);
+    press(VK_TAB);
     EXPECT_EQ(GetFocus(), window(form_.stop));
-    PostMessageW(GetFocus(), WM_KEYDOWN, VK_ESCAPE, 0);
-    loop_.pump();
-    form_.go.set_enabled(true);
+    press(VK_SPACE);
+    EXPECT_EQ(stops, 2);
+    form_.lock_input(false);
   };
   show();
+  Sleep(kDoubleClickTime + 20);
   SetFocus(window(form_.go));
   send(form_.go, BM_CLICK);
-  EXPECT_TRUE(stopped);
+  EXPECT_EQ(stops, 2);
 }
 
 TEST_F(FormWindowTest, ADialogLocksItsOwnerAndFreesItWhateverEndsIt) {

@@ -46,9 +46,19 @@ class TestForm : public Form {
   Timer timer{*this, "tmTimer"};
 };
 
+/// The system's double-click time in the tests, in milliseconds: none has to wait for long.
+inline constexpr UINT kDoubleClickTime = 100;
+
 /// A form in a real window, and hands that work on its controls.
 class FormWindowTest : public testing::Test {
  protected:
+  FormWindowTest() { set_double_click_time(kDoubleClickTime); }
+  ~FormWindowTest() override { set_double_click_time(before_); }
+
+  /// Not for good: the user's own setting stays in its place.
+  static void set_double_click_time(UINT milliseconds) {
+    SystemParametersInfoW(SPI_SETDOUBLECLICKTIME, milliseconds, nullptr, 0);
+  }
   void show() {
     events_.show(form_);
     loop_.pump();
@@ -63,6 +73,7 @@ class FormWindowTest : public testing::Test {
     for (const wchar_t key : keys) send(form_.text, WM_CHAR, key);
   }
 
+  UINT before_ = GetDoubleClickTime();
   MessageLoop loop_;
   MillionRows rows_;
   TestForm form_;

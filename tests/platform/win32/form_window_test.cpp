@@ -7,6 +7,7 @@
 #include <shlobj.h>
 
 #include <algorithm>
+#include <vector>
 
 #include "platform/win32/com/com_values.h"
 #include "platform/win32/text_win32.h"
@@ -28,6 +29,10 @@ TEST_F(FormWindowTest, TypedKeysPassTheFilterAndForeignOnesAreSwallowed) {
   EXPECT_EQ(window_text(window(form_.text)), L"a,\u20ACb");
   user_types(L"\b");
   EXPECT_EQ(form_.text.text(), "a,\x80");
+  std::vector<int> filtered;
+  form_.text.on_key_press = [&](std::int16_t& code) { filtered.push_back(code); };
+  user_types(L"\x03\r\x1A\x1B");
+  EXPECT_EQ(filtered, (std::vector{13, 27})) << "copying and undoing are not typing";
 }
 
 TEST_F(FormWindowTest, PastedTextIsShownAsTheToolTookIt) {

@@ -1,8 +1,7 @@
-// How large a form's window is and where it lies, at the DPI of the screen it is on.
+#include "platform/win32/windows/form_place.h"
+
 #include <algorithm>
 #include <utility>
-
-#include "platform/win32/windows/form_window.h"
 
 namespace quenda {
 namespace {
@@ -34,39 +33,22 @@ Icon load_icon(int width_metric, int height_metric, int dpi) {
 
 }  // namespace
 
-void FormWindow::use_dpi(int dpi) {
+void FormPlace::scale(int dpi) {
   dpi_ = dpi;
-  const std::optional<Fonts> before = std::exchange(fonts_, std::optional<Fonts>(dpi));
-  for (const auto& control : controls_) {
-    if (control->window() == nullptr) continue;
-    control->apply_font();
-    control->refresh(Aspect::kPlace);
-  }
-  if (ready_) show_icons();
-  RedrawWindow(window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
-}
-
-void FormWindow::show_icons() {
-  Icon in_task_bar = load_icon(SM_CXICON, SM_CYICON, dpi_);
-  Icon in_title = load_icon(SM_CXSMICON, SM_CYSMICON, dpi_);
-  SendMessageW(window(), WM_SETICON, ICON_BIG, as_lparam(in_task_bar.get()));
-  SendMessageW(window(), WM_SETICON, ICON_SMALL, as_lparam(in_title.get()));
-  // Those before are out of use only now.
-  big_icon_ = std::move(in_task_bar);
-  small_icon_ = std::move(in_title);
+  fonts_.emplace(dpi);
 }
 
 /// What the title bar and the borders take at the window's DPI.
-SIZE FormWindow::border() const {
+SIZE FormPlace::border(HWND window) const {
   RECT area{};
-  AdjustWindowRectExForDpi(&area, static_cast<DWORD>(GetWindowLongPtrW(window(), GWL_STYLE)), FALSE,
-                           static_cast<DWORD>(GetWindowLongPtrW(window(), GWL_EXSTYLE)),
+  AdjustWindowRectExForDpi(&area, static_cast<DWORD>(GetWindowLongPtrW(window, GWL_STYLE)), FALSE,
+                           static_cast<DWORD>(GetWindowLongPtrW(window, GWL_EXSTYLE)),
                            static_cast<UINT>(dpi_));
   return {area.right - area.left, area.bottom - area.top};
 }
 
-SIZE FormWindow::outer_size() const {
-  const SIZE around = border();
+SIZE FormPlace::outer_size(HWND window) const {
+  const SIZE around = border(window);
   const int outer = form_.outer_width();
   const LONG width =
       outer > 0 ? pixels_of(outer, dpi_) : pixels_of(form_.place().width, dpi_) + around.cx;
@@ -75,16 +57,16 @@ SIZE FormWindow::outer_size() const {
 
 /// Positions are kept at the system's DPI, whatever screen the window is on, so that a remembered
 /// position leads back to the same point.
-void FormWindow::place_window() {
-  const bool was_ready = std::exchange(ready_, false);
+void FormPlace::place(HWND window) {
+  const bool was_shown = std::exchange(shown_, false);
   const auto system = static_cast<int>(GetDpiForSystem());
   RECT place{};
   place.left = pixels_of(form_.place().left, system);
   place.top = pixels_of(form_.place().top, system);
-  SetWindowPos(window(), nullptr, place.left, place.top, 0, 0,
+  SetWindowPos(window, nullptr, place.left, place.top, 0, 0,
                SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
-  use_dpi(static_cast<int>(GetDpiForWindow(window())));
-  const SIZE size = outer_size();
+  scale(static_cast<int>(GetDpiForWindow(window)));
+  const SIZE size = outer_size(window);
   RECT owner{};
   if (owner_ != nullptr && form_.place().left == 0 && form_.place().top == 0 &&
       GetWindowRect(owner_, &owner) != 0) {
@@ -94,48 +76,56 @@ void FormWindow::place_window() {
   place.right = place.left + size.cx;
   place.bottom = place.top + size.cy;
   place = on_screen(place);
-  SetWindowPos(window(), nullptr, place.left, place.top, size.cx, size.cy,
+  SetWindowPos(window, nullptr, place.left, place.top, size.cx, size.cy,
                SWP_NOZORDER | SWP_NOACTIVATE);
-  ready_ = was_ready;
+  shown_ = was_shown;
 }
 
-void FormWindow::on_dpi(int dpi, const RECT& place) {
+void FormPlace::on_dpi(HWND window, int dpi, const RECT& place) {
   const Growth grown{MulDiv(growth_.across, dpi, dpi_), MulDiv(growth_.down, dpi, dpi_)};
-  use_dpi(dpi);
-  const SIZE least = outer_size();
-  SetWindowPos(window(), nullptr, place.left, place.top,
+  scale(dpi);
+  const SIZE least = outer_size(window);
+  SetWindowPos(window, nullptr, place.left, place.top,
                std::max(place.right - place.left, least.cx + grown.across),
                std::max(place.bottom - place.top, least.cy + grown.down),
                SWP_NOZORDER | SWP_NOACTIVATE);
-  on_size();
+  on_size(window);
 }
 
-void FormWindow::on_size() {
+void FormPlace::on_size(HWND window) {
   RECT area{};
-  if (IsIconic(window()) != 0 || GetClientRect(window(), &area) == 0) return;
+  if (IsIconic(window) != 0 || GetClientRect(window, &area) == 0) return;
   growth_ = {};
-  if (form_.resizable()) {
-    const SIZE designed = outer_size();
-    const SIZE around = border();
-    growth_ = {static_cast<int>(area.right + around.cx - designed.cx),
-               static_cast<int>(area.bottom + around.cy - designed.cy)};
-  }
-  for (const auto& control : controls_) control->refresh(Aspect::kPlace);
+  if (!form_.resizable()) return;
+  const SIZE designed = outer_size(window);
+  const SIZE around = border(window);
+  growth_ = {static_cast<int>(area.right + around.cx - designed.cx),
+             static_cast<int>(area.bottom + around.cy - designed.cy)};
 }
 
-void FormWindow::on_move() {
+void FormPlace::on_move(HWND window) const {
   RECT place{};
-  if (!ready_ || IsIconic(window()) != 0 || IsZoomed(window()) != 0) return;
-  if (GetWindowRect(window(), &place) == 0) return;
+  if (!shown_ || IsIconic(window) != 0 || IsZoomed(window) != 0) return;
+  if (GetWindowRect(window, &place) == 0) return;
   const auto system = static_cast<int>(GetDpiForSystem());
   form_.take_user_position(twips_of(static_cast<int>(place.left), system),
                            twips_of(static_cast<int>(place.top), system));
 }
 
-void FormWindow::limit_size(MINMAXINFO& limits) const {
+void FormPlace::limit_size(HWND window, MINMAXINFO& limits) const {
   if (!form_.resizable() || !fonts_) return;
-  const SIZE least = outer_size();
+  const SIZE least = outer_size(window);
   limits.ptMinTrackSize = {least.cx, least.cy};
+}
+
+void WindowIcons::show(HWND window, int dpi) {
+  Icon in_task_bar = load_icon(SM_CXICON, SM_CYICON, dpi);
+  Icon in_title = load_icon(SM_CXSMICON, SM_CYSMICON, dpi);
+  SendMessageW(window, WM_SETICON, ICON_BIG, as_lparam(in_task_bar.get()));
+  SendMessageW(window, WM_SETICON, ICON_SMALL, as_lparam(in_title.get()));
+  // Those before are out of use only now.
+  big_ = std::move(in_task_bar);
+  small_ = std::move(in_title);
 }
 
 }  // namespace quenda

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/controls/form.h"
+#include "platform/win32/controls/native_control.h"
+#include "platform/win32/controls/spoken_name.h"
+
+namespace quenda {
+
+/// What a screen reader is told that the controls of a form are called. The service of the system
+/// that keeps names is loaded when a reader first asks: most users have none, and need not wait for
+/// it.
+class ReaderNames {
+ public:
+  explicit ReaderNames(const Form& form) : form_(form) {}
+
+  /// The name that a control has to answer a reader with itself; empty where the system knows it.
+  [[nodiscard]] std::string name_to_answer(const NativeControl& native);
+  void changed() { changed_ = true; }
+  /// Tells a reader that listens of names that have changed.
+  void tell(const std::vector<std::unique_ptr<NativeControl>>& controls);
+
+ private:
+  const Form& form_;
+  bool changed_ = false;
+  std::unique_ptr<SpokenNames> names_;
+};
+
+}  // namespace quenda
