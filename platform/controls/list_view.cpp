@@ -11,6 +11,7 @@ void ListView::set_columns(std::vector<ListColumn> columns) {
   columns_ = std::move(columns);
   table_ = FlatTable(std::max<std::size_t>(columns_.size(), 1));
   source_ = nullptr;
+  order_.reset();
   selected_ = -1;
   refresh(Aspect::kColumns);
   refresh(Aspect::kRows);
@@ -41,6 +42,7 @@ void ListView::set_table(FlatTable table) {
 
 void ListView::add_row(std::initializer_list<std::string_view> cells) {
   table_.add_row(std::span(cells.begin(), cells.size()));
+  order_.row_added(table_.rows() - 1);
   refresh(Aspect::kRows);
 }
 
@@ -51,6 +53,7 @@ void ListView::set_cell(std::size_t row, std::size_t column, std::string_view te
 
 void ListView::remove_row(std::size_t row) {
   table_.remove_row(row);
+  order_.row_removed(row);
   selected_ = -1;
   refresh(Aspect::kRows);
 }
@@ -70,7 +73,16 @@ void ListView::set_source(const RowSource* source) {
 void ListView::source_changed() { rows_changed(); }
 
 void ListView::rows_changed() {
+  if (order_.key()) refresh(Aspect::kColumns);
+  order_.reset();
   selected_ = count() > 0 ? 0 : -1;
+  refresh(Aspect::kRows);
+}
+
+void ListView::take_user_heading(std::size_t column) {
+  if (!reachable() || !sortable_ || source_ != nullptr || column >= columns_.size()) return;
+  order_.sort_by(table_, column);
+  refresh(Aspect::kColumns);
   refresh(Aspect::kRows);
 }
 

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "platform/controls/control.h"
+#include "platform/controls/view_order.h"
 #include "text/flat_table.h"
 
 namespace quenda {
@@ -59,6 +60,15 @@ class ListView : public Control {
   void set_source(const RowSource* source);
   void source_changed();
 
+  /// Whether the user may sort the rows for looking; they keep their own order all the same. Part
+  /// of the design.
+  [[nodiscard]] bool sortable() const { return sortable_; }
+  void set_sortable(bool sortable) { sortable_ = sortable; }
+  /// In which order the rows are seen.
+  [[nodiscard]] const ViewOrder& order() const { return order_; }
+  /// The user chose a heading.
+  void take_user_heading(std::size_t column);
+
   /// The selected row, -1 for none.
   [[nodiscard]] int selected() const { return selected_; }
   void select(int row);
@@ -76,6 +86,8 @@ class ListView : public Control {
   std::vector<ListColumn> columns_;
   FlatTable table_;
   const RowSource* source_ = nullptr;
+  ViewOrder order_;
+  bool sortable_ = false;
   int selected_ = -1;
 };
 

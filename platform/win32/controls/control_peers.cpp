@@ -156,10 +156,21 @@ class NativeStatusBar : public PeerOf<StatusBar> {
   void show(Aspect aspect) override {
     if (aspect != Aspect::kText) return;
     for (int number = 1; number <= 3; ++number) {
-      send(SB_SETTEXTW, static_cast<WPARAM>(number - 1),
-           as_lparam(wide(typed().panel(number)).c_str()));
+      std::string& shown = shown_.at(static_cast<std::size_t>(number - 1));
+      if (shown == typed().panel(number)) continue;
+      shown = typed().panel(number);
+      send(SB_SETTEXTW, static_cast<WPARAM>(number - 1), as_lparam(wide(shown).c_str()));
+      // What happens is told here alone: a screen reader that listens says it.
+      for (const DWORD event : {DWORD{EVENT_OBJECT_NAMECHANGE}, kLiveRegionChanged}) {
+        NotifyWinEvent(event, window(), OBJID_CLIENT, number);
+      }
     }
   }
+
+ private:
+  static constexpr DWORD kLiveRegionChanged = 0x8019;
+
+  std::array<std::string, 3> shown_;
 };
 
 }  // namespace

@@ -1,7 +1,10 @@
 #include "platform/win32/controls/list_view_peer.h"
 
 #include <algorithm>
+#include <optional>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "platform/win32/text_win32.h"
 #include "platform/win32/windows/form_window.h"
@@ -25,6 +28,10 @@ class NativeListView : public PeerOf<ListView> {
       case LVN_ITEMCHANGED:
         take_change(*from_lparam<NMLISTVIEW>(lparam));
         return 0;
+      case LVN_COLUMNCLICK:
+        typed().take_user_heading(
+            static_cast<std::size_t>(from_lparam<NMLISTVIEW>(lparam)->iSubItem));
+        return 0;
       case LVN_KEYDOWN:
         typed().take_user_key_down(
             static_cast<std::int16_t>(from_lparam<NMLVKEYDOWN>(lparam)->wVKey));
@@ -46,7 +53,8 @@ class NativeListView : public PeerOf<ListView> {
 
  protected:
   [[nodiscard]] WindowSpec spec() const override {
-    DWORD style = LVS_REPORT | LVS_OWNERDATA | LVS_SINGLESEL | LVS_NOSORTHEADER;
+    DWORD style = LVS_REPORT | LVS_OWNERDATA | LVS_SINGLESEL;
+    if (!typed().sortable()) style |= LVS_NOSORTHEADER;
     // Where something can be done with the selected row, it is seen from elsewhere, too; in a mere
     // preview it would only hide the colours of the columns.
     if (typed().on_double_click) style |= LVS_SHOWSELALWAYS;
@@ -65,6 +73,8 @@ class NativeListView : public PeerOf<ListView> {
         break;
       case Aspect::kRows:
         send(LVM_SETITEMCOUNT, typed().count(), LVSICF_NOSCROLL);
+        // Whether there is a scroll bar decides how much room the columns have.
+        if (!shown_columns_.empty()) show_columns();
         InvalidateRect(window(), nullptr, FALSE);
         show_selection();
         break;
@@ -90,11 +100,12 @@ class NativeListView : public PeerOf<ListView> {
   struct ShownColumn {
     std::wstring heading;
     int width = 0;  // in pixels
+    friend bool operator==(const ShownColumn&, const ShownColumn&) = default;
   };
 
   void give_text(LVITEMW& item) const {
     if ((item.mask & LVIF_TEXT) == 0 || item.cchTextMax <= 0) return;
-    const auto row = static_cast<std::size_t>(item.iItem);
+    const std::size_t row = typed().order().row_at(static_cast<std::size_t>(item.iItem));
     const auto column = static_cast<std::size_t>(item.iSubItem);
     item.pszText[0] = L'\0';
     if (row >= typed().count() || column >= typed().columns().size()) return;
@@ -104,16 +115,17 @@ class NativeListView : public PeerOf<ListView> {
     *std::copy(shown.begin(), shown.end(), item.pszText) = L'\0';
   }
 
-  /// The next row whose first cell begins with the letters typed into the list, -1 for none.
+  /// The position of the next row whose first cell begins with the letters typed into the list, -1
+  /// for none.
   [[nodiscard]] LRESULT find(const NMLVFINDITEMW& sought) const {
     if ((sought.lvfi.flags & LVFI_STRING) == 0 || typed().columns().empty()) return -1;
     const std::string start = nearest_1252(sought.lvfi.psz);
     const std::size_t count = typed().count();
     for (std::size_t i = 0; i < count; ++i) {
-      const std::size_t row = (static_cast<std::size_t>(std::max(sought.iStart, 0)) + i) % count;
-      const std::string text = typed().cell(row, 0);
+      const std::size_t at = (static_cast<std::size_t>(std::max(sought.iStart, 0)) + i) % count;
+      const std::string text = typed().cell(typed().order().row_at(at), 0);
       if (equal_ignoring_case(std::string_view(text).substr(0, start.size()), start)) {
-        return static_cast<LRESULT>(row);
+        return static_cast<LRESULT>(at);
       }
     }
     return -1;
@@ -141,13 +153,16 @@ class NativeListView : public PeerOf<ListView> {
     const bool was = (change.uOldState & LVIS_SELECTED) != 0;
     const bool is = (change.uNewState & LVIS_SELECTED) != 0;
     if (was == is) return;
-    const bool this_row = change.iItem == -1 || change.iItem == shown_row_;
+    const bool this_one = change.iItem == -1 || change.iItem == shown_at_;
     if (is) {
-      shown_row_ = change.iItem;
-    } else if (this_row) {
-      shown_row_ = -1;
+      shown_at_ = change.iItem;
+    } else if (this_one) {
+      shown_at_ = -1;
     }
-    if (!muted()) typed().take_user_select(shown_row_);
+    if (muted()) return;
+    typed().take_user_select(shown_at_ < 0 ? -1
+                                           : static_cast<int>(typed().order().row_at(
+                                                 static_cast<std::size_t>(shown_at_))));
   }
 
   /// The widths asked for, in pixels. Columns that leave room share it, so that a larger window
@@ -161,65 +176,93 @@ class NativeListView : public PeerOf<ListView> {
     }
     RECT area{};
     GetWindowRect(window(), &area);
-    const auto dpi = static_cast<UINT>(form().place().dpi());
+    const auto dpi = static_cast<UINT>(form().place().screen_dpi());
+    const bool scrolls = typed().count() > static_cast<std::size_t>(send(LVM_GETCOUNTPERPAGE));
     const int room = static_cast<int>(area.right - area.left) -
-                     GetSystemMetricsForDpi(SM_CXVSCROLL, dpi) -
+                     (scrolls ? GetSystemMetricsForDpi(SM_CXVSCROLL, dpi) : 0) -
                      2 * GetSystemMetricsForDpi(SM_CXEDGE, dpi);
     if (sum == 0 || sum >= room) return widths;
     for (int& width : widths) width = MulDiv(width, room, sum);
     return widths;
   }
 
+  [[nodiscard]] std::vector<ShownColumn> wanted_columns() const {
+    const auto& columns = typed().columns();
+    const std::vector<int> widths = column_widths();
+    std::vector<ShownColumn> wanted(columns.size());
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+      wanted[i] = {std::wstring(column_mark(columns[i].kind)), widths[i]};
+      wanted[i].heading += wide(columns[i].heading);
+    }
+    return wanted;
+  }
+
   /// Only what differs is sent: a file may have thousands of columns, and the native heading places
   /// all of them anew at each change.
   void show_columns() {
+    std::vector<ShownColumn> wanted = wanted_columns();
+    const auto& sorted_by = typed().order().key();
+    if (wanted == shown_columns_ && sorted_by == shown_sorted_by_) return;
     const auto header = from_lparam<HWND__>(send(LVM_GETHEADER));
-    const auto& columns = typed().columns();
-    const std::vector<int> widths = column_widths();
-    auto shown = static_cast<std::size_t>(SendMessageW(header, HDM_GETITEMCOUNT, 0, 0));
     const bool hidden = (GetWindowLongPtrW(window(), GWL_STYLE) & WS_VISIBLE) == 0;
     send(WM_SETREDRAW, FALSE);
     SendMessageW(header, WM_SETREDRAW, FALSE, 0);
-    while (shown > columns.size()) send(LVM_DELETECOLUMN, --shown);
-    shown_columns_.resize(columns.size());
-    for (std::size_t i = 0; i < columns.size(); ++i) {
-      ShownColumn wanted{std::wstring(column_mark(columns[i].kind)), widths[i]};
-      wanted.heading += wide(columns[i].heading);
+    std::size_t shown = shown_columns_.size();
+    while (shown > wanted.size()) send(LVM_DELETECOLUMN, --shown);
+    for (std::size_t i = 0; i < wanted.size(); ++i) {
       LVCOLUMNW column{};
       column.mask = LVCF_SUBITEM;
-      if (i >= shown || shown_columns_[i].heading != wanted.heading) column.mask |= LVCF_TEXT;
+      if (i >= shown || shown_columns_[i].heading != wanted[i].heading) column.mask |= LVCF_TEXT;
       // A width that the user has dragged stays until the control asks for another.
-      if (i >= shown || shown_columns_[i].width != wanted.width) column.mask |= LVCF_WIDTH;
+      if (i >= shown || shown_columns_[i].width != wanted[i].width) column.mask |= LVCF_WIDTH;
       if (column.mask == LVCF_SUBITEM) continue;
-      column.cx = wanted.width;
+      column.cx = wanted[i].width;
       column.iSubItem = static_cast<int>(i);
-      column.pszText = wanted.heading.data();
+      column.pszText = wanted[i].heading.data();
       send(i < shown ? LVM_SETCOLUMNW : LVM_INSERTCOLUMNW, i, as_lparam(&column));
-      shown_columns_[i] = std::move(wanted);
     }
+    shown_columns_ = std::move(wanted);
+    shown_sorted_by_ = sorted_by;
+    if (typed().sortable()) mark_sorted(header);
     SendMessageW(header, WM_SETREDRAW, TRUE, 0);
     send(WM_SETREDRAW, TRUE);
     if (hidden) ShowWindow(window(), SW_HIDE);  // to draw again is to be visible
     RedrawWindow(window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
   }
 
+  /// The arrow in the heading of the column that the rows are sorted by.
+  void mark_sorted(HWND header) const {
+    const auto& key = typed().order().key();
+    for (std::size_t i = 0; i < typed().columns().size(); ++i) {
+      HDITEMW item{};
+      item.mask = HDI_FORMAT;
+      SendMessageW(header, HDM_GETITEMW, i, as_lparam(&item));
+      item.fmt &= ~(HDF_SORTUP | HDF_SORTDOWN);
+      if (key && key->column == i) item.fmt |= key->descending ? HDF_SORTDOWN : HDF_SORTUP;
+      SendMessageW(header, HDM_SETITEMW, i, as_lparam(&item));
+    }
+  }
+
   void show_selection() {
-    const int wanted = typed().selected();
-    if (shown_row_ == wanted) return;
+    const int row = typed().selected();
+    const int wanted =
+        row < 0 ? -1 : static_cast<int>(typed().order().position_of(static_cast<std::size_t>(row)));
+    if (shown_at_ == wanted) return;
     LVITEMW item{};
     item.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
-    if (shown_row_ >= 0) {
-      send(LVM_SETITEMSTATE, static_cast<WPARAM>(shown_row_), as_lparam(&item));
+    if (shown_at_ >= 0) {
+      send(LVM_SETITEMSTATE, static_cast<WPARAM>(shown_at_), as_lparam(&item));
     }
-    shown_row_ = wanted;
+    shown_at_ = wanted;
     if (wanted < 0) return;
     item.state = item.stateMask;
     send(LVM_SETITEMSTATE, static_cast<WPARAM>(wanted), as_lparam(&item));
     send(LVM_ENSUREVISIBLE, static_cast<WPARAM>(wanted), FALSE);
   }
 
-  int shown_row_ = -1;
+  int shown_at_ = -1;                       // position of the selected row
   std::vector<ShownColumn> shown_columns_;  // as last asked for
+  std::optional<ViewOrder::Key> shown_sorted_by_;
 };
 
 }  // namespace

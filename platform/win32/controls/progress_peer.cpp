@@ -1,7 +1,9 @@
 #include "platform/win32/controls/progress_peer.h"
 
+#include <optional>
 #include <string>
 
+#include "platform/controls/progress_text.h"
 #include "platform/win32/controls/panel_window.h"
 #include "platform/win32/text_win32.h"
 #include "platform/win32/windows/form_window.h"
@@ -17,6 +19,10 @@ class NativeProgress : public PeerOf<PictureBox> {
   [[nodiscard]] WindowSpec spec() const override { return {kPictureClass, false, WS_BORDER}; }
 
   void show(Aspect aspect) override {
+    if (aspect == Aspect::kVisible) begun_ = GetTickCount64();
+    if (aspect == Aspect::kVisible || aspect == Aspect::kValue) {
+      form().show_progress(typed().visible() ? std::optional(typed().percent()) : std::nullopt);
+    }
     if (aspect != Aspect::kValue) return;
     // The text of the window is what a screen reader says.
     set_window_text(percentage());
@@ -39,7 +45,9 @@ class NativeProgress : public PeerOf<PictureBox> {
   }
 
  private:
-  [[nodiscard]] std::string percentage() const { return std::to_string(typed().percent()) + " %"; }
+  [[nodiscard]] std::string percentage() const {
+    return progress_text(typed().percent(), static_cast<long long>(GetTickCount64() - begun_));
+  }
 
   /// Paints aside and copies the finished picture, so that nothing flickers.
   void paint_buffered(HDC screen) const {
@@ -72,6 +80,8 @@ class NativeProgress : public PeerOf<PictureBox> {
               DT_CENTER | DT_VCENTER | DT_SINGLELINE);
     RestoreDC(dc, saved);
   }
+
+  ULONGLONG begun_ = GetTickCount64();
 };
 
 class NativeTimer : public PeerOf<Timer> {

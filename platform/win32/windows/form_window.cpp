@@ -10,6 +10,7 @@
 #include "platform/win32/text_win32.h"
 #include "platform/win32/windows/dropped_file.h"
 #include "text/fault.h"
+#include "text/text.h"
 
 namespace quenda {
 namespace {
@@ -55,7 +56,7 @@ FormWindow::FormWindow(MessageLoop& loop, Form& form, HWND owner)
   if (form_.default_button != nullptr) {
     SendMessageW(window(), DM_SETDEFID, static_cast<WPARAM>(id_of(*form_.default_button)), 0);
   }
-  SetWindowTextW(window(), wide(form_.caption()).c_str());
+  show_title();
   accept_drops(window(), form_);
   form_.attach(this);
   loop_.add(*this);
@@ -148,7 +149,7 @@ void FormWindow::show() {
   ready_ = true;
   place_.shown();
   loop_.presses().window_came_up();
-  icons_.show(window(), place_.dpi());
+  icons_.show(window(), place_.screen_dpi());
   // The system has chosen the first field; where the work begins is for the form to say.
   focus_.page_shown();
   settle(true);
@@ -157,7 +158,7 @@ void FormWindow::show() {
 void FormWindow::refresh(Aspect aspect) {
   switch (aspect) {
     case Aspect::kCaption:
-      SetWindowTextW(window(), wide(form_.caption()).c_str());
+      show_title();
       break;
     case Aspect::kPlace:
       place_.place(window());
@@ -213,8 +214,22 @@ void FormWindow::follow_scale() {
     control->apply_font();
     control->refresh(Aspect::kPlace);
   }
-  if (ready_) icons_.show(window(), place_.dpi());
+  if (ready_) icons_.show(window(), place_.screen_dpi());
   RedrawWindow(window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+}
+
+void FormWindow::show_progress(std::optional<int> percent) {
+  progress_ = percent;
+  task_bar_.show(window(), percent);
+  if (IsIconic(window()) != 0) show_title();
+}
+
+void FormWindow::show_title() const {
+  std::string title = form_.caption();
+  if (progress_ && IsIconic(window()) != 0) {
+    title = concat(std::to_string(*progress_), " % - ", title);
+  }
+  SetWindowTextW(window(), wide(title).c_str());
 }
 
 void FormWindow::show_pointer() const {
@@ -296,6 +311,7 @@ INT_PTR FormWindow::on_message(UINT message, WPARAM wparam, LPARAM lparam) {
       if (wparam != 0 && owner_ == nullptr) form_.unload(CloseReason::kCode);
       return TRUE;
     case WM_SIZE:
+      if (progress_) show_title();
       place_.on_size(window());
       for (const auto& control : controls_) control->refresh(Aspect::kPlace);
       return TRUE;
@@ -310,7 +326,7 @@ INT_PTR FormWindow::on_message(UINT message, WPARAM wparam, LPARAM lparam) {
       follow_scale();
       return TRUE;
     case WM_SETTINGCHANGE:
-      place_.scale(place_.dpi());
+      place_.on_settings(window());
       follow_scale();
       return FALSE;
     case WM_DROPFILES:

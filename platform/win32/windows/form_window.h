@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "platform/controls/form.h"
@@ -11,6 +12,7 @@
 #include "platform/win32/windows/keyed_captions.h"
 #include "platform/win32/windows/message_loop.h"
 #include "platform/win32/windows/reader_names.h"
+#include "platform/win32/windows/task_bar.h"
 
 namespace quenda {
 
@@ -39,6 +41,8 @@ class FormWindow : public ControlPeer, public LoopClient {
   /// A frame has come into view: its controls get their windows, if they have none yet, and the
   /// focus when the work at hand is done.
   void page_shown(NativeControl& frame);
+  /// How far long work has come, in percent; none when it is over.
+  void show_progress(std::optional<int> percent);
   /// What is to be seen means something else now: a press that belongs to what was there before
   /// must not reach it.
   void content_changed();
@@ -66,6 +70,9 @@ class FormWindow : public ControlPeer, public LoopClient {
   INT_PTR answer(LRESULT result) const;
   void on_command(UINT code, int id, HWND control);
   [[nodiscard]] INT_PTR color(WPARAM dc, HWND control) const;
+  /// The form's caption. While the window is minimised the progress stands before it, since there
+  /// is no other place to see it.
+  void show_title() const;
   void close();
   [[nodiscard]] bool takes_input() const;
   /// Has the controls follow another DPI or other settings of the system.
@@ -80,6 +87,8 @@ class FormWindow : public ControlPeer, public LoopClient {
   KeyedCaptions captions_;
   ReaderNames names_;
   FocusKeeper focus_{*this};
+  TaskBarProgress task_bar_;
+  std::optional<int> progress_;
   std::vector<std::unique_ptr<NativeControl>> controls_;
   bool ready_ = false;
   bool showing_ = false;

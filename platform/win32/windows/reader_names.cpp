@@ -6,12 +6,19 @@
 
 namespace quenda {
 
+SpokenNames& ReaderNames::service() {
+  if (!names_) names_ = std::make_unique<SpokenNames>();
+  return *names_;
+}
+
 std::string ReaderNames::name_to_answer(const NativeControl& native) {
+  if (native.control().kind() == ControlKind::kStatusBar) {
+    service().tell_changes_of(native.window());
+  }
   std::string name = native.control().spoken_name();
   if (name.empty()) name = label_of_list(form_, native.control());
   if (name.empty()) return name;
-  if (!names_) names_ = std::make_unique<SpokenNames>();
-  return names_->set(native.window(), name) ? std::string() : name;
+  return service().set(native.window(), name) ? std::string() : name;
 }
 
 void ReaderNames::tell(const std::vector<std::unique_ptr<NativeControl>>& controls) {

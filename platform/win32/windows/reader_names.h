@@ -24,6 +24,8 @@ class ReaderNames {
   void tell(const std::vector<std::unique_ptr<NativeControl>>& controls);
 
  private:
+  SpokenNames& service();
+
   const Form& form_;
   bool changed_ = false;
   std::unique_ptr<SpokenNames> names_;

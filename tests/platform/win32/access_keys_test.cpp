@@ -65,7 +65,7 @@ TEST_F(WizardTest, EveryButtonOfAPageHasAnAltLetterOfItsOwnInBothLanguages) {
       window.show_changes();
       std::set<char> taken;
       for (const Control* control : keyed_controls(*form)) {
-        const std::string caption = window.keyed_caption(*control);
+        const std::string caption = window.captions().of(*control);
         const auto mark = caption.find('&');
         if (mark != caption.npos) {
           EXPECT_TRUE(taken.insert(to_lower(caption[mark + 1])).second) << caption;

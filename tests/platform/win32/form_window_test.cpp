@@ -142,6 +142,53 @@ TEST_F(FormWindowTest, ColumnsShareTheRoomOfAListButStayAsWideAsAskedFor) {
   EXPECT_NEAR(width(1), 2 * width(0), 6);
 }
 
+TEST_F(FormWindowTest, ColumnsOfAListThatDoesNotScrollFillIt) {
+  form_.view.set_columns({{"Name", 500}, {"Nummer", 500}});
+  form_.view.add_row({"Anna", "030"});
+  show();
+  RECT area{};
+  GetClientRect(window(form_.view), &area);
+  EXPECT_EQ(send(form_.view, LVM_GETCOLUMNWIDTH, 0) + send(form_.view, LVM_GETCOLUMNWIDTH, 1),
+            area.right);
+}
+
+TEST_F(FormWindowTest, AHeadingSortsWhatIsSeenAndTheRowsStay) {
+  form_.view.set_sortable(true);
+  form_.view.set_columns({{"Name", 500}, {"Nummer", 500}});
+  for (const char* name : {"Zorn", "\xC4rmel", "berg", "Anna"}) form_.view.add_row({name, "0"});
+  show();
+  const auto click_heading = [&] {
+    NMLISTVIEW notice{};
+    notice.hdr = {window(form_.view), 0, static_cast<UINT>(LVN_COLUMNCLICK)};
+    SendMessageW(GetParent(window(form_.view)), WM_NOTIFY, 0, as_lparam(&notice));
+    loop_.pump();
+  };
+  const auto seen = [&] {
+    std::string names;
+    for (WPARAM at = 0; at < form_.view.count(); ++at) {
+      wchar_t cell[40] = {};
+      LVITEMW item{};
+      item.pszText = cell;
+      item.cchTextMax = 40;
+      send(form_.view, LVM_GETITEMTEXTW, at, as_lparam(&item));
+      names += nearest_1252(cell) + " ";
+    }
+    return names;
+  };
+  form_.view.select(2);
+  click_heading();
+  EXPECT_EQ(seen(), "Anna \xC4rmel berg Zorn ");
+  EXPECT_EQ(send(form_.view, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED), 2);
+  EXPECT_EQ(form_.view.cell(0, 0), "Zorn");
+  click_heading();
+  EXPECT_EQ(seen(), "Zorn berg \xC4rmel Anna ");
+  form_.view.remove_row(2);
+  loop_.pump();
+  EXPECT_EQ(seen(), "Zorn \xC4rmel Anna ");
+  click_heading();
+  EXPECT_EQ(seen(), "Zorn \xC4rmel Anna ");
+}
+
 std::string read_aloud(HWND window) {
   ComPtr<IAccessible> object;
   AccessibleObjectFromWindow(window, static_cast<DWORD>(OBJID_CLIENT), IID_IAccessible,
@@ -162,6 +209,45 @@ TEST_F(FormWindowTest, BoxesAndListsTellAScreenReaderWhatTheyAre) {
   const ApartmentScope apartment;
   EXPECT_EQ(read_aloud(window(form_.box)), "Adresse 1");
   EXPECT_EQ(read_aloud(window(form_.view)), "Vorschau");
+}
+
+TEST_F(FormWindowTest, TheTitleTellsTheProgressWhileTheWindowIsMinimised) {
+  PictureBox progress(form_, "PicProgress");
+  form_.set_caption("Quenda - Import");
+  form_.set_resizable(true);
+  show();
+  const HWND main = window_of(form_);
+  progress.set_percent(37);
+  loop_.pump();
+  EXPECT_EQ(window_text(main), L"Quenda - Import");
+  ShowWindow(main, SW_MINIMIZE);
+  EXPECT_EQ(window_text(main), L"37 % - Quenda - Import");
+  progress.set_percent(38);
+  loop_.pump();
+  EXPECT_EQ(window_text(main), L"38 % - Quenda - Import");
+  ShowWindow(main, SW_RESTORE);
+  EXPECT_EQ(window_text(main), L"Quenda - Import");
+}
+
+int announced_panel = 0;
+
+void CALLBACK hear(HWINEVENTHOOK, DWORD, HWND, LONG, LONG child, DWORD, DWORD) noexcept {
+  announced_panel = static_cast<int>(child);
+}
+
+TEST_F(FormWindowTest, WhatHappensIsAnnouncedToAScreenReader) {
+  StatusBar status(form_, "StatusBar");
+  show();
+  constexpr DWORD kLiveRegionChanged = 0x8019;
+  const HWINEVENTHOOK hook = SetWinEventHook(kLiveRegionChanged, kLiveRegionChanged, nullptr, &hear,
+                                             GetCurrentProcessId(), 0, WINEVENT_OUTOFCONTEXT);
+  status.set_panel(2, "7 Eintr\xE4ge gelesen");
+  for (int i = 0; i < 20 && announced_panel == 0; ++i) {
+    loop_.pump();
+    Sleep(10);
+  }
+  UnhookWinEvent(hook);
+  EXPECT_EQ(announced_panel, 2);
 }
 
 /// An empty path drops nothing at all.

@@ -1,0 +1,60 @@
+// Rules of controls that hold with and without a window.
+#include "platform/controls/progress_text.h"
+#include "platform/controls/view_order.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <array>
+#include <string_view>
+#include <vector>
+
+namespace quenda {
+namespace {
+
+using testing::ElementsAre;
+
+TEST(ProgressText, TellsTheTimeLeftOnceItCanBeKnown) {
+  EXPECT_EQ(progress_text(4, 60'000), "4 %");
+  EXPECT_EQ(progress_text(50, 2'999), "50 %");
+  EXPECT_EQ(progress_text(37, 25'000), "37 % (0:43)");
+  EXPECT_EQ(progress_text(10, 60'000), "10 % (9:01)");
+  EXPECT_EQ(progress_text(100, 60'000), "100 %");
+}
+
+class ViewOrderTest : public testing::Test {
+ protected:
+  ViewOrderTest() {
+    for (const std::string_view name : {"Zorn", "\xC4rmel", "berg", "Arm", "Berg"}) {
+      table_.add_row(std::array{name});
+    }
+  }
+  std::vector<std::size_t> seen() {
+    std::vector<std::size_t> rows;
+    for (std::size_t at = 0; at < table_.rows(); ++at) rows.push_back(order_.row_at(at));
+    return rows;
+  }
+
+  FlatTable table_{1};
+  ViewOrder order_;
+};
+
+TEST_F(ViewOrderTest, GoesUpDownAndBack) {
+  order_.sort_by(table_, 0);
+  EXPECT_THAT(seen(), ElementsAre(3, 1, 2, 4, 0));
+  EXPECT_EQ(order_.position_of(4), 3U);
+  order_.sort_by(table_, 0);
+  EXPECT_THAT(seen(), ElementsAre(0, 2, 4, 1, 3));
+  order_.sort_by(table_, 0);
+  EXPECT_THAT(seen(), ElementsAre(0, 1, 2, 3, 4));
+}
+
+TEST_F(ViewOrderTest, FollowsARowThatGoes) {
+  order_.sort_by(table_, 0);
+  table_.remove_row(1);
+  order_.row_removed(1);
+  EXPECT_THAT(seen(), ElementsAre(2, 1, 3, 0));
+}
+
+}  // namespace
+}  // namespace quenda
