@@ -24,9 +24,10 @@ struct Place {
 };
 
 /// What a control does along one axis when its parent is larger than designed: keep its distance
-/// from the start, from the end, or from both by growing; or keep its share of the parent, as
-/// neighbours in a row do (no frames: what lies in one does not grow with it).
-enum class Anchor { kStart, kEnd, kBoth, kShare };
+/// from the start, from the end, or from both by growing; keep its share of the parent, as
+/// neighbours in a row do; or only move to where its share begins, as the label of such a
+/// neighbour.
+enum class Anchor { kStart, kEnd, kBoth, kShare, kShareStart };
 
 /// What kind of native control shows a control.
 enum class ControlKind {
@@ -109,8 +110,10 @@ class Control {
   [[nodiscard]] Anchor anchor_across() const { return anchor_across_; }
   [[nodiscard]] Anchor anchor_down() const { return anchor_down_; }
   void set_anchors(Anchor across, Anchor down) {
+    if (anchor_across_ == across && anchor_down_ == down) return;
     anchor_across_ = across;
     anchor_down_ = down;
+    refresh(Aspect::kPlace);
   }
   /// A heading is shown in larger, bold letters. Part of the design, not changed later.
   [[nodiscard]] bool heading() const { return heading_; }

@@ -33,9 +33,30 @@ Icon load_icon(int width_metric, int height_metric, int dpi) {
 
 }  // namespace
 
-void FormPlace::scale(int dpi) {
-  dpi_ = dpi;
-  fonts_.emplace(dpi);
+int FormPlace::fitting_scale(HWND window, int dpi) const {
+  MONITORINFO screen{};
+  screen.cbSize = sizeof screen;
+  if (GetMonitorInfoW(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST), &screen) == 0) {
+    return 100;
+  }
+  const SIZE around = border(window);
+  const auto percent = [](LONG room, int designed) {
+    return MulDiv(static_cast<int>(room), 100, std::max(designed, 1));
+  };
+  const int width = form_.outer_width() > 0 ? form_.outer_width() : form_.place().width;
+  const int across =
+      percent(screen.rcWork.right - screen.rcWork.left - around.cx, pixels_of(width, dpi));
+  const int down = percent(screen.rcWork.bottom - screen.rcWork.top - around.cy,
+                           pixels_of(form_.place().height, dpi));
+  return std::max(std::min(across, down), 100);
+}
+
+void FormPlace::scale(HWND window, int dpi) {
+  screen_dpi_ = dpi;
+  const int wanted = text_scale(dpi);
+  const int scale = wanted > 100 ? std::min(wanted, fitting_scale(window, dpi)) : wanted;
+  dpi_ = MulDiv(dpi, scale, 100);
+  fonts_.emplace(dpi, scale);
 }
 
 /// What the title bar and the borders take at the window's DPI.
@@ -43,7 +64,7 @@ SIZE FormPlace::border(HWND window) const {
   RECT area{};
   AdjustWindowRectExForDpi(&area, static_cast<DWORD>(GetWindowLongPtrW(window, GWL_STYLE)), FALSE,
                            static_cast<DWORD>(GetWindowLongPtrW(window, GWL_EXSTYLE)),
-                           static_cast<UINT>(dpi_));
+                           static_cast<UINT>(screen_dpi_));
   return {area.right - area.left, area.bottom - area.top};
 }
 
@@ -65,7 +86,7 @@ void FormPlace::place(HWND window) {
   place.top = pixels_of(form_.place().top, system);
   SetWindowPos(window, nullptr, place.left, place.top, 0, 0,
                SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
-  scale(static_cast<int>(GetDpiForWindow(window)));
+  scale(window, static_cast<int>(GetDpiForWindow(window)));
   const SIZE size = outer_size(window);
   RECT owner{};
   if (owner_ != nullptr && form_.place().left == 0 && form_.place().top == 0 &&
@@ -82,8 +103,25 @@ void FormPlace::place(HWND window) {
 }
 
 void FormPlace::on_dpi(HWND window, int dpi, const RECT& place) {
-  const Growth grown{MulDiv(growth_.across, dpi, dpi_), MulDiv(growth_.down, dpi, dpi_)};
-  scale(dpi);
+  const int before = dpi_;
+  scale(window, dpi);
+  resize(window, place, before);
+}
+
+void FormPlace::on_settings(HWND window) {
+  const int before = dpi_;
+  scale(window, screen_dpi_);
+  RECT place{};
+  if (dpi_ == before || GetWindowRect(window, &place) == 0) return;
+  place.right = place.left;
+  place.bottom = place.top;
+  resize(window, place, before);
+}
+
+/// At least as large as designed and by how much the user has made it larger.
+void FormPlace::resize(HWND window, const RECT& place, int dpi_before) {
+  const Growth grown{MulDiv(growth_.across, dpi_, dpi_before),
+                     MulDiv(growth_.down, dpi_, dpi_before)};
   const SIZE least = outer_size(window);
   SetWindowPos(window, nullptr, place.left, place.top,
                std::max(place.right - place.left, least.cx + grown.across),

@@ -15,7 +15,10 @@ class FormPlace {
  public:
   FormPlace(Form& form, HWND owner) : form_(form), owner_(owner) {}
 
+  /// At which everything in the window is laid out: that of the screen, and more where the user
+  /// wants larger text, so that boxes grow with what stands in them.
   [[nodiscard]] int dpi() const { return dpi_; }
+  [[nodiscard]] int screen_dpi() const { return screen_dpi_; }
   [[nodiscard]] Growth growth() const { return growth_; }
   /// There from the first `place` on.
   [[nodiscard]] const Fonts& fonts() const { return *fonts_; }
@@ -25,22 +28,26 @@ class FormPlace {
   void place(HWND window);
   /// From now on a movement is the user's doing.
   void shown() { shown_ = true; }
-  /// The fonts anew, for another DPI or after the user has changed the settings of the system.
-  void scale(int dpi);
-
   // What the window is told by the system.
   void on_dpi(HWND window, int dpi, const RECT& place);
+  void on_settings(HWND window);
   void on_size(HWND window);
   void on_move(HWND window) const;
   void limit_size(HWND window, MINMAXINFO& limits) const;
 
  private:
+  /// The fonts anew, for a screen's DPI.
+  void scale(HWND window, int dpi);
+  /// The largest scale, in percent, at which the window fits onto its screen.
+  [[nodiscard]] int fitting_scale(HWND window, int dpi) const;
+  void resize(HWND window, const RECT& place, int dpi_before);
   [[nodiscard]] SIZE border(HWND window) const;
   /// As designed, without what the user has added.
   [[nodiscard]] SIZE outer_size(HWND window) const;
 
   Form& form_;
   HWND owner_;
+  int screen_dpi_ = 96;
   int dpi_ = 96;
   Growth growth_;
   std::optional<Fonts> fonts_;

@@ -16,6 +16,11 @@ int scaled(int value, int factor, int divisor) {
   return static_cast<int>((product + half) / divisor);
 }
 
+/// The part of the growth that belongs to what lies before a position.
+int share(int growth, int position, int whole) {
+  return scaled(growth, position, std::max(whole, 1));
+}
+
 /// One axis of a control: where it starts and how long it is, after its parent, `whole` as
 /// designed, has grown.
 std::pair<int, int> along(Anchor anchor, int start, int size, int growth, int whole) {
@@ -25,10 +30,12 @@ std::pair<int, int> along(Anchor anchor, int start, int size, int growth, int wh
     case Anchor::kBoth:
       return {start, std::max(size + growth, 0)};
     case Anchor::kShare: {
-      const int share_before = scaled(growth, start, std::max(whole, 1));
-      const int share_behind = scaled(growth, start + size, std::max(whole, 1));
-      return {start + share_before, std::max(size + share_behind - share_before, 0)};
+      const int share_before = share(growth, start, whole);
+      return {start + share_before,
+              std::max(size + share(growth, start + size, whole) - share_before, 0)};
     }
+    case Anchor::kShareStart:
+      return {start + share(growth, start, whole), size};
     default:
       return {start, size};
   }
@@ -38,8 +45,16 @@ std::pair<int, int> along(Anchor anchor, int start, int size, int growth, int wh
 Growth growth_of(const Control* control, Growth form) {
   if (control == nullptr) return form;
   const Growth parent = growth_of(control->parent(), form);
-  return {control->anchor_across() == Anchor::kBoth ? parent.across : 0,
-          control->anchor_down() == Anchor::kBoth ? parent.down : 0};
+  const Place& place = control->place();
+  const Place around = control->parent() == nullptr ? Place{} : control->parent()->place();
+  const auto gained = [](Anchor anchor, int start, int size, int growth, int whole) {
+    if (anchor == Anchor::kShare) {
+      return share(growth, start + size, whole) - share(growth, start, whole);
+    }
+    return anchor == Anchor::kBoth ? growth : 0;
+  };
+  return {gained(control->anchor_across(), place.left, place.width, parent.across, around.width),
+          gained(control->anchor_down(), place.top, place.height, parent.down, around.height)};
 }
 
 int tab_position(const ControlHost& host, const Control& control) {

@@ -1,18 +1,49 @@
 #include "platform/win32/windows/look.h"
 
+#include <algorithm>
+#include <cstdlib>
 #include <string_view>
 
 namespace quenda {
 
-Fonts::Fonts(int dpi) {
+namespace {
+
+constexpr int kNormalScale = 100;
+constexpr int kLargestScale = 225;
+
+LOGFONTW message_font(int dpi) {
   NONCLIENTMETRICSW metrics{};
   metrics.cbSize = sizeof metrics;
-  if (SystemParametersInfoForDpi(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0,
-                                 static_cast<UINT>(dpi)) == 0) {
-    return;
-  }
-  plain.reset(CreateFontIndirectW(&metrics.lfMessageFont));
-  LOGFONTW large = metrics.lfMessageFont;
+  SystemParametersInfoForDpi(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0,
+                             static_cast<UINT>(dpi));
+  return metrics.lfMessageFont;
+}
+
+/// How large the font is against the 9 points that the forms are designed for, in percent.
+int scale_of(const LOGFONTW& font, int dpi) {
+  constexpr int kPixelsPerInch = 96;
+  constexpr int kDesignedPixels = 12;
+  return MulDiv(std::abs(font.lfHeight), kNormalScale * kPixelsPerInch, kDesignedPixels * dpi);
+}
+
+}  // namespace
+
+int text_scale(int dpi) {
+  DWORD wanted = kNormalScale;
+  DWORD size = sizeof wanted;
+  RegGetValueW(HKEY_CURRENT_USER, L"Software\\Microsoft\\Accessibility", L"TextScaleFactor",
+               RRF_RT_REG_DWORD, nullptr, &wanted, &size);
+  const int set = static_cast<int>(std::min<DWORD>(wanted, kLargestScale));
+  return std::clamp(std::max(set, scale_of(message_font(dpi), dpi)), kNormalScale, kLargestScale);
+}
+
+Fonts::Fonts(int dpi, int scale) {
+  LOGFONTW usual = message_font(dpi);
+  // Whether the system has put the wish for larger text into its font already is up to it.
+  const int there = std::max(scale_of(usual, dpi), kNormalScale);
+  usual.lfHeight = MulDiv(usual.lfHeight, scale, there);
+  plain.reset(CreateFontIndirectW(&usual));
+  LOGFONTW large = usual;
   large.lfHeight = large.lfHeight * 5 / 4;
   large.lfWeight = FW_BOLD;
   heading.reset(CreateFontIndirectW(&large));

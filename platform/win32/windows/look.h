@@ -7,9 +7,13 @@
 // How the window looks: the user's message font and colours.
 namespace quenda {
 
-/// The user's message font in the size for one DPI, and a larger bold one for headings.
+/// By how much larger than designed the user wants to read, in percent: what the setting for larger
+/// text says, or a larger message font. At least 100.
+int text_scale(int dpi);
+
+/// The user's message font for one DPI and a scale in percent, and a larger bold one for headings.
 struct Fonts {
-  explicit Fonts(int dpi);
+  Fonts(int dpi, int scale);
   Font plain;
   Font heading;
 };

@@ -29,6 +29,43 @@ TEST_F(FormWindowTest, AnotherScreensDpiScalesPlacesAndIsTakenFromTheMessage) {
   EXPECT_EQ(laid_out(form_.go, 192, {}).width, 200);
 }
 
+/// The user's wish for larger text, for as long as it lives.
+class LargerText {
+ public:
+  explicit LargerText(DWORD percent) {
+    RegSetKeyValueW(HKEY_CURRENT_USER, kKey, kValue, REG_DWORD, &percent, sizeof percent);
+  }
+  LargerText(const LargerText&) = delete;
+  LargerText& operator=(const LargerText&) = delete;
+  ~LargerText() { RegDeleteKeyValueW(HKEY_CURRENT_USER, kKey, kValue); }
+
+ private:
+  static constexpr const wchar_t* kKey = L"Software\\Microsoft\\Accessibility";
+  static constexpr const wchar_t* kValue = L"TextScaleFactor";
+};
+
+TEST_F(FormWindowTest, BoxesGrowWithTheTextThatTheUserWantsLarger) {
+  show();
+  const auto size = [&](HWND of) {
+    RECT area{};
+    GetWindowRect(of, &area);
+    return SIZE{area.right - area.left, area.bottom - area.top};
+  };
+  const SIZE field = size(window(form_.text));
+  const SIZE whole = size(window_of(form_));
+  {
+    const LargerText wish(200);
+    SendMessageW(window_of(form_), WM_SETTINGCHANGE, 0, 0);
+    loop_.pump();
+    EXPECT_EQ(size(window(form_.text)).cx, 2 * field.cx);
+    EXPECT_EQ(size(window(form_.text)).cy, 2 * field.cy);
+    EXPECT_GT(size(window_of(form_)).cx, whole.cx + field.cx);
+  }
+  SendMessageW(window_of(form_), WM_SETTINGCHANGE, 0, 0);
+  loop_.pump();
+  EXPECT_EQ(size(window_of(form_)).cx, whole.cx);
+}
+
 TEST_F(FormWindowTest, APositionOutsideEveryScreenIsShownWithinAndKeptAsItIs) {
   form_.set_place({9'000'000, 9'000'000, 6000, 3000});
   show();

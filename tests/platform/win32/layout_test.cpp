@@ -61,6 +61,24 @@ TEST_F(LayoutTest, NeighboursInARowShareWhatTheirFrameGains) {
   EXPECT_EQ(laid_out(right_, 96, {100, 30}), (Pixels{104, 0, 96, 20}));
 }
 
+TEST_F(LayoutTest, WhatLiesInAFrameWithAShareGrowsByIt) {
+  Frame whole{form_, "whole"};
+  whole.set_place({0, 0, 1500, 1500});
+  whole.set_anchors(Anchor::kBoth, Anchor::kBoth);
+  page_.set_parent(&whole);
+  page_.set_place({0, 0, 1500, 600});
+  page_.set_anchors(Anchor::kBoth, Anchor::kShare);
+  left_.set_parent(&page_);
+  left_.set_place({0, 150, 750, 450});
+  left_.set_anchors(Anchor::kStart, Anchor::kBoth);
+  right_.set_parent(&whole);
+  right_.set_place({0, 600, 1500, 300});
+  right_.set_anchors(Anchor::kStart, Anchor::kShareStart);
+  EXPECT_EQ(laid_out(page_, 96, {0, 100}), (Pixels{0, 0, 100, 80}));
+  EXPECT_EQ(laid_out(left_, 96, {0, 100}), (Pixels{0, 10, 50, 70}));
+  EXPECT_EQ(laid_out(right_, 96, {0, 100}), (Pixels{0, 80, 100, 20}));
+}
+
 TEST_F(LayoutTest, TabOrderPutsAFrameWhereItsFirstControlIsAndALabelBeforeItsField) {
   Label name{form_, "labName"};
   Button field{form_, "field"};
