@@ -13,8 +13,8 @@ namespace quenda {
 
 /// The host link over the system's dynamic data exchange. Hosts may connect in any number, watch
 /// the item (hot or warm) or ask for it, as Windows-1252 or as Unicode text. `closed` is raised
-/// when the last host has left: while one listens, the link is open. `failed` is raised instead when
-/// the last one has died.
+/// when the last host has left: while one listens, the link is open. `failed` is raised instead
+/// when the last one has died.
 class DdeServer : public HostLink {
  public:
   /// `service` is the application name that hosts ask for.
@@ -47,8 +47,8 @@ class DdeServer : public HostLink {
   [[nodiscard]] HDDEDATA text_data(UINT format, HSZ item) const;
   void connected(HCONV conversation);
   void disconnected(HCONV conversation, bool died);
-  /// Whether a host that is connected is gone. The system ends the conversation in its name then, so
-  /// that it looks like a goodbye.
+  /// Whether a host that is connected is gone. The system ends the conversation in its name then,
+  /// so that it looks like a goodbye.
   [[nodiscard]] bool died(HCONV conversation) const;
   /// Ends conversations whose host is gone without having said so; whether there were any.
   bool drop_dead();

@@ -37,9 +37,9 @@ struct OutlookScript {
 };
 
 /// Keys: version, types (interface, class, nothing), refuses, leaves, busy_from, busy_for,
-/// starts_after, hangs_at, dies_at, missing, report; `contacts=N` adds N made-up contacts, `list=` a distribution list,
-/// `contact=` one contact with its properties as "Name=text|Name=text". "\n" in a text is a line
-/// break.
+/// starts_after, hangs_at, dies_at, missing, report; `contacts=N` adds N made-up contacts, `list=`
+/// a distribution list, `contact=` one contact with its properties as "Name=text|Name=text". "\n"
+/// in a text is a line break.
 OutlookScript read_outlook_script(std::string_view text);
 
 }  // namespace quenda
