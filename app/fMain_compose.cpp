@@ -53,23 +53,23 @@ void fMain::HeaderFillName() {
       frmBind(index).set_caption(used ? numbers[row] : std::string());
       frmBind(index).set_visible(used);
     }
-  });
+  }).or_go_on();
 }
 
 void fMain::chkFlip_Click() {
   procedure(app_.errors, "fMain.chkFlip_Click", {}, [&] {
     if (!wizard.loading) HeaderFillName();
-  });
+  }).or_go_on();
 }
 
 void fMain::pClearName() {
-  procedure(app_.errors, "fMain.pClearName", {}, [&] { txtHeadName.set_text(""); });
+  procedure(app_.errors, "fMain.pClearName", {}, [&] { txtHeadName.set_text(""); }).or_go_on();
 }
 
 void fMain::pClearAdress() {
   procedure(app_.errors, "fMain.pClearAdress", {}, [&] {
     for (const auto& preview : txtAdres) preview->set_text("");
-  });
+  }).or_go_on();
 }
 
 void fMain::HeaderFillAdress() {
@@ -93,7 +93,7 @@ void fMain::HeaderFillAdress() {
     } else {
       refresh_bound_addresses();
     }
-  });
+  }).or_go_on();
 }
 
 std::vector<std::string> fMain::address_names(std::size_t address) const {
@@ -108,7 +108,7 @@ void fMain::cmbFlipAdress_Click() {
     address_order_ = address_order(cmbFlipAdress.text(), chosen);
     SetAdress();
     refresh_bound_addresses();
-  });
+  }).or_go_on();
 }
 
 void fMain::SetAdress() {
@@ -117,7 +117,7 @@ void fMain::SetAdress() {
       txtAdres(static_cast<int>(address))
           .set_text(address_preview(address_names(address), address_order_));
     }
-  });
+  }).or_go_on();
 }
 
 void fMain::refresh_bound_addresses() {

@@ -234,7 +234,7 @@ void fMain::Language() {
       list->set_column_heading(1, texts.number);
       list->set_column_heading(2, texts.address);
     }
-  });
+  }).or_go_on();
 }
 
 void fMain::name_address_boxes() {

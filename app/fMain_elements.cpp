@@ -21,12 +21,13 @@ void fMain::LockElements(bool lock) {
       ObjectEnable(ticked, txtImport(kind));
       if (has_two_addresses(static_cast<std::size_t>(kind))) chkAdr(kind + 10).set_enabled(ticked);
     }
-  });
+  }).or_go_on();
 }
 
 void fMain::ObjectEnable(bool enabled, Control& control) {
-  procedure(app_.errors, "fMain.ObjectEnable", {enabled, control.name(), control.index()},
-            [&] { control.set_back_color(enabled ? BackColor::kWindow : BackColor::kButtonFace); });
+  procedure(app_.errors, "fMain.ObjectEnable", {enabled, control.name(), control.index()}, [&] {
+    control.set_back_color(enabled ? BackColor::kWindow : BackColor::kButtonFace);
+  }).or_go_on();
 }
 
 ControlArray<CheckBox>& fMain::address_boxes(std::size_t row) {
@@ -49,15 +50,15 @@ void fMain::bind_row(std::size_t row, int index) {
 }
 
 void fMain::chk1_Click(int index) {
-  procedure(app_.errors, "fMain.chk1_Click", {index}, [&] { bind_row(0, index); });
+  procedure(app_.errors, "fMain.chk1_Click", {index}, [&] { bind_row(0, index); }).or_go_on();
 }
 
 void fMain::chk2_Click(int index) {
-  procedure(app_.errors, "fMain.chk2_Click", {index}, [&] { bind_row(1, index); });
+  procedure(app_.errors, "fMain.chk2_Click", {index}, [&] { bind_row(1, index); }).or_go_on();
 }
 
 void fMain::chk3_Click(int index) {
-  procedure(app_.errors, "fMain.chk3_Click", {index}, [&] { bind_row(2, index); });
+  procedure(app_.errors, "fMain.chk3_Click", {index}, [&] { bind_row(2, index); }).or_go_on();
 }
 
 }  // namespace quenda

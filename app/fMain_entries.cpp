@@ -19,15 +19,17 @@ namespace quenda {
 
 std::string fMain::fCleanNumbers(std::string_view number) {
   std::string cleaned;
-  procedure(app_.errors, "fMain.fCleanNumbers", {number},
-            [&] { cleaned = clean_number(number, txtStateCode.text()); });
+  procedure(app_.errors, "fMain.fCleanNumbers", {number}, [&] {
+    cleaned = clean_number(number, txtStateCode.text());
+  }).or_go_on();
   return cleaned;
 }
 
 std::string fMain::AddVW(std::string_view number) {
   std::string completed;
-  procedure(app_.errors, "fMain.AddVW", {number},
-            [&] { completed = add_area_code(number, txtOVW.text()); });
+  procedure(app_.errors, "fMain.AddVW", {number}, [&] {
+    completed = add_area_code(number, txtOVW.text());
+  }).or_go_on();
   return completed;
 }
 
@@ -47,7 +49,7 @@ void fMain::PreviewEntries() {
     }
     remove_repeated_lines(entries_, [this] { answer_events(); });
     ListUpdate();
-  });
+  }).or_go_on();
 }
 
 void fMain::ListUpdate() {
@@ -56,7 +58,7 @@ void fMain::ListUpdate() {
     lstImpFinal.set_table(
         entry_rows(std::exchange(entries_, FlatTable(kEntryColumns)), chkNameLen.ticked(),
                    [this](std::size_t done, std::size_t total) { step(done, total); }));
-  });
+  }).or_go_on();
 }
 
 void fMain::lstImpFinal_DblClick() {
@@ -70,11 +72,13 @@ void fMain::lstImpFinal_DblClick() {
     dialog.txtAdress.set_text(lstImpFinal.cell(at, kEntryAddress));
     dialog.SettVars(row);
     app_.machine.events.show_modal(dialog, *this);
-  });
+  }).or_go_on();
 }
 
 void fMain::cmdEditItems_Click() {
-  procedure(app_.errors, "fMain.cmdEditItems_Click", {}, [&] { lstImpFinal_DblClick(); });
+  procedure(app_.errors, "fMain.cmdEditItems_Click", {}, [&] {
+    lstImpFinal_DblClick();
+  }).or_go_on();
 }
 
 void fMain::lstImpFinal_KeyDown(std::int16_t code) {
@@ -84,7 +88,7 @@ void fMain::lstImpFinal_KeyDown(std::int16_t code) {
     if (lstImpFinal.count() == 0) return;
     if (code == kDelete) cmdDel_Click();
     if (code == kEnter) lstImpFinal_DblClick();
-  });
+  }).or_go_on();
 }
 
 void fMain::ChangeItem() {
@@ -98,7 +102,7 @@ void fMain::ChangeItem() {
     lstImpFinal.set_cell(row, kEntryName, edited.name);
     lstImpFinal.set_cell(row, kEntryNumber, edited.number);
     lstImpFinal.set_cell(row, kEntryAddress, edited.address);
-  });
+  }).or_go_on();
 }
 
 void fMain::cmdDel_Click() {
@@ -118,12 +122,13 @@ void fMain::cmdDel_Click() {
     cmdDel.set_enabled(rows_left);
     cmdEditItems.set_enabled(rows_left);
     if (!rows_left) cmdFor.set_enabled(false);
-  });
+  }).or_go_on();
 }
 
 void fMain::optAsk_Click(int index) {
-  procedure(app_.errors, "fMain.optAsk_Click", {index},
-            [&] { merge_mode = static_cast<MergeMode>(index); });
+  procedure(app_.errors, "fMain.optAsk_Click", {index}, [&] {
+    merge_mode = static_cast<MergeMode>(index);
+  }).or_go_on();
 }
 
 }  // namespace quenda

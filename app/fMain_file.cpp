@@ -24,7 +24,7 @@ void fMain::cmdFile_Click() {
     txtImpFile.set_text("");
     const std::string path = app_.open_file(FilterSet::kAll);
     if (!path.empty()) txtImpFile.set_text(path);
-  });
+  }).or_go_on();
 }
 
 void fMain::txtImpFile_Change() {
@@ -53,7 +53,7 @@ void fMain::txtImpFile_Change() {
     }
     if (wizard.abort) throw EndProgram();
     cmdFor.set_enabled(source.IsISpyFile || delimiter_found);
-  });
+  }).or_go_on();
 }
 
 void fMain::FileImport() {
@@ -89,7 +89,7 @@ void fMain::FileImport() {
     cmbLimiter.set_enabled(!source.IsISpyFile);
     ObjectEnable(!source.IsISpyFile, cmbLimiter);
     StatusBar.set_panel(1, source.IsISpyFile ? "Importmode: ISpy" : "Importmode: CSV");
-  });
+  }).or_go_on();
 }
 
 bool fMain::CheckLimiter() {
@@ -101,7 +101,7 @@ bool fMain::CheckLimiter() {
     const int chosen = cmbLimiter.list_index();
     acceptable = chosen > -1 && delimiter_acceptable(counts, chosen);
     labLimError.set_visible(!acceptable);
-  });
+  }).or_go_on();
   return acceptable;
 }
 
@@ -114,7 +114,7 @@ void fMain::cmbLimiter_Click() {
       cmdFor.set_enabled(true);
     }
     labLimError.set_visible(false);
-  });
+  }).or_go_on();
 }
 
 void fMain::CSVclean() {
@@ -125,14 +125,14 @@ void fMain::CSVclean() {
     std::string text = std::move(*source.ImportText);
     remove_doubled_quotes(text, [this] { answer_events(); });
     source.ImportRows = build_records(std::move(text), source.Delimiter.front(), busy.on_step());
-  });
+  }).or_go_on();
 }
 
 void fMain::DatasetComplete() {
   procedure(app_.errors, "fMain.DatasetComplete", {}, [&] {
     BusyWork busy(*this);
     pad_records(source.ImportRows, source.Delimiter.front(), busy.on_step());
-  });
+  }).or_go_on();
 }
 
 }  // namespace quenda

@@ -56,7 +56,7 @@ void fMain::ImpHeader() {
                        MessageStyle::kInformation);
     }
     select_saved_columns(header);
-  });
+  }).or_go_on();
 }
 
 void fMain::fill_header_lists(const std::vector<std::string>& header) {
@@ -96,7 +96,7 @@ void fMain::lstHeader_Click(int index) {
       list.set_selected(list.list_index(), false);
     }
     ListColor();
-  });
+  }).or_go_on();
 }
 
 void fMain::ListColor() {
@@ -111,7 +111,7 @@ void fMain::ListColor() {
       }
     }
     lstShow.set_column_kinds(kinds);
-  });
+  }).or_go_on();
 }
 
 }  // namespace quenda

@@ -22,7 +22,7 @@ void fMain::cmdIspy_Click() {
     txtImpFile.set_text("");
     const std::string path = app_.open_file(FilterSet::kISpy);
     if (!path.empty()) txtImpFile.set_text(path);
-  });
+  }).or_go_on();
 }
 
 void fMain::ISpyImport() {
@@ -48,7 +48,7 @@ void fMain::ISpyImport() {
     remove_repeated_lines(entries_, [this] { answer_events(); });
     StatusBar.set_panel(2, texts.items_recycle);
     lstImpFinal.set_table(caller_rows(std::exchange(entries_, FlatTable(kEntryColumns))));
-  });
+  }).or_go_on();
 }
 
 }  // namespace quenda

@@ -32,7 +32,7 @@ void fMain::tmOLcheck_Timer() {
     labOLver.set_caption(label);
     // Outlook may take its time to answer; what a file taken meanwhile has to say is worth more.
     if (StatusBar.panel(2) == texts.outlook_search) StatusBar.set_panel(2, result);
-  });
+  }).or_go_on();
 }
 
 void fMain::cmdOutlook_Click() {
@@ -50,7 +50,7 @@ void fMain::cmdOutlook_Click() {
     source.IsOutlookSource = true;
     Import();
     cmdFor.set_enabled(lstImport.count() > 0);
-  });
+  }).or_go_on();
 }
 
 /// In place of the wizard's page, not only before it: keys must not lead to what is covered.
@@ -84,7 +84,7 @@ void fMain::Import() {
     }
     StatusBar.set_panel(2, concat(std::to_string(contacts.size()), " ", texts.contacts_found));
     came_through = true;
-  });
+  }).or_go_on();
   if (!came_through) {
     // Half of the contacts would look like all of them: the user gets none and is told.
     contacts_.clear();
@@ -110,7 +110,7 @@ void fMain::DataView() {
     show_counts(lstImport.count(), texts.items_for_import);
     // Ticking a kind that has numbers opens the way on again.
     if (frmImpOL.visible()) cmdFor.set_enabled(lstImport.count() > 0);
-  });
+  }).or_go_on();
 }
 
 void fMain::chkImport_Click(int index) {
@@ -118,13 +118,13 @@ void fMain::chkImport_Click(int index) {
     if (wizard.loading) return;
     LockElements(false);
     DataView();
-  });
+  }).or_go_on();
 }
 
 void fMain::chkAdr_Click(int index) {
   procedure(app_.errors, "fMain.chkAdr_Click", {index}, [&] {
     if (!wizard.loading) DataView();
-  });
+  }).or_go_on();
 }
 
 }  // namespace quenda

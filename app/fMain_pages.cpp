@@ -32,7 +32,7 @@ void fMain::ShowSite(bool hide_only) {
     lstShow.set_visible(preview);
     labShow.set_visible(preview);
     show_title(wizard.CurrentPage + 1);
-  });
+  }).or_go_on();
 }
 
 void fMain::cmdFor_Click() {
@@ -56,7 +56,7 @@ void fMain::cmdFor_Click() {
     wizard.CurrentPage = static_cast<std::int16_t>(next.page);
     if (next.page < kWritePage) ShowSite();
     run_page_work(next.work);
-  });
+  }).or_go_on();
 }
 
 void fMain::run_page_work(PageWork work) {
@@ -161,7 +161,7 @@ void fMain::cmdBack_Click() {
         return_to_source();
         break;
     }
-  });
+  }).or_go_on();
 }
 
 void fMain::return_to_source() {

@@ -135,7 +135,7 @@ void fMain::SaveOptions(bool delimited_file) {
     }
     save_header_options(app_.ini, settings);
     SaveSelections();
-  });
+  }).or_go_on();
 }
 
 }  // namespace quenda

@@ -58,7 +58,7 @@ void fMain::Form_Load() {
     app_.machine.host_link.offer(
         "book", "txtDDE",
         {[this] { Form_LinkOpen(); }, [this] { Form_LinkClose(); }, [this] { Form_LinkError(); }});
-  });
+  }).or_go_on();
 }
 
 void fMain::Form_LinkOpen() {
@@ -66,21 +66,21 @@ void fMain::Form_LinkOpen() {
     wizard.link_open = true;
     txtDDE.set_text("ON");
     StatusBar.set_panel(3, texts.dde_active);
-  });
+  }).or_go_on();
 }
 
 void fMain::Form_LinkClose() {
   procedure(app_.errors, "fMain.Form_LinkClose", {}, [&] {
     wizard.link_open = false;
     StatusBar.set_panel(3, texts.dde_exit);
-  });
+  }).or_go_on();
 }
 
 void fMain::Form_LinkError() {
   procedure(app_.errors, "fMain.Form_LinkError", {}, [&] {
     wizard.link_open = false;
     StatusBar.set_panel(3, texts.dde_break);
-  });
+  }).or_go_on();
 }
 
 void fMain::Form_Unload() {
@@ -89,7 +89,7 @@ void fMain::Form_Unload() {
     wizard.abort = true;
     SaveWindowPosition();
     app_.machine.host_link.shut_down();
-  });
+  }).or_go_on();
   throw EndProgram();
 }
 
@@ -104,34 +104,36 @@ void fMain::Form_GotFocus() {
     }
     if (first == nullptr && cmdFor.reachable()) first = &cmdFor;
     if (first != nullptr) first->set_focus();
-  });
+  }).or_go_on();
 }
 
 void fMain::cmdCancel_Click() {
   procedure(app_.errors, "fMain.cmdCancel_Click", {}, [&] {
     wizard.abort = true;
     unload();
-  });
+  }).or_go_on();
 }
 
 void fMain::cmdHelp_Click() {
   procedure(app_.errors, "fMain.cmdHelp_Click", {}, [&] {
     modImport::ShellEx(app_.errors, app_.machine.system, "Open", kHelpPage, "", "");
-  });
+  }).or_go_on();
 }
 
 void fMain::txtImport_Change() {
-  procedure(app_.errors, "fMain.txtImport_Change", {}, [&] { DataView(); });
+  procedure(app_.errors, "fMain.txtImport_Change", {}, [&] { DataView(); }).or_go_on();
 }
 
 void fMain::txtImport_KeyPress(std::int16_t& code) {
-  procedure(app_.errors, "fMain.txtImport_KeyPress", {code},
-            [&] { code = filter_key(code, KeyFilter::kNoSem); });
+  procedure(app_.errors, "fMain.txtImport_KeyPress", {code}, [&] {
+    code = filter_key(code, KeyFilter::kNoSem);
+  }).or_go_on();
 }
 
 void fMain::txtIndex_KeyPress(std::int16_t& code) {
-  procedure(app_.errors, "fMain.txtIndex_KeyPress", {code},
-            [&] { code = filter_key(code, KeyFilter::kNoSem); });
+  procedure(app_.errors, "fMain.txtIndex_KeyPress", {code}, [&] {
+    code = filter_key(code, KeyFilter::kNoSem);
+  }).or_go_on();
 }
 
 void fMain::step(std::size_t done, std::size_t total) {

@@ -50,7 +50,7 @@ std::string modAPI_INI::GetMainPath(std::string_view file) {
     } else {
       path = concat(paths_.data_root, "\\data\\Quenda.ini");
     }
-  });
+  }).or_go_on();
   return path;
 }
 
@@ -63,7 +63,7 @@ std::string modAPI_INI::GetSettStr(std::string_view section, std::string_view ke
     if ((numeric_only && !is_numeric(value)) || (empty_to_default && value.empty())) {
       value = standard;
     }
-  });
+  }).or_go_on();
   return value;
 }
 
@@ -74,7 +74,7 @@ std::int32_t modAPI_INI::GetSettLng(std::string_view section, std::string_view k
   procedure(errors_, "modAPI_INI.GetSettLng", {section, key, standard, min, max, mode, file}, [&] {
     value = load(GetMainPath(file)).number(section, key, standard);
     if (min != 0 || max != 0) value = Range(min, max, value, mode, standard);
-  });
+  }).or_go_on();
   return value;
 }
 
@@ -84,15 +84,16 @@ bool modAPI_INI::GetSettBool(std::string_view section, std::string_view key, boo
   procedure(errors_, "modAPI_INI.GetSettBool", {section, key, standard, file}, [&] {
     const std::int32_t number = load(GetMainPath(file)).number(section, key, standard ? -1 : 0);
     value = Range(0, 1, number, false, 0) != 0;
-  });
+  }).or_go_on();
   return value;
 }
 
 std::int32_t modAPI_INI::Range(std::int32_t min, std::int32_t max, std::int32_t value, bool mode,
                                std::int32_t standard) {
   std::int32_t result = standard;
-  procedure(errors_, "modAPI_INI.Range", {min, max, value, mode, standard},
-            [&] { result = limited(min, max, value, mode, standard); });
+  procedure(errors_, "modAPI_INI.Range", {min, max, value, mode, standard}, [&] {
+    result = limited(min, max, value, mode, standard);
+  }).or_go_on();
   return result;
 }
 
@@ -107,7 +108,7 @@ void modAPI_INI::SetSettStr(std::string_view section, std::string_view key, std:
     if (after == before) return;
     loaded_.erase(path);
     files_.write(path, after);
-  });
+  }).or_go_on();
 }
 
 }  // namespace quenda

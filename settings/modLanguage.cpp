@@ -24,7 +24,7 @@ void modLanguage::LanguageInit(std::string_view language) {
                     : std::string(language);
     file_ = replace_all("\\base\\language_##.ini", "##", language_);
     file_missing_ = !files_.exists(ini_.GetMainPath(file_));
-  });
+  }).or_go_on();
 }
 
 std::string modLanguage::LoadLangKey(std::string_view key, std::string_view german) {
@@ -41,7 +41,7 @@ std::string modLanguage::LoadLangKey(std::string_view key, std::string_view germ
       }
     }
     text = replace_all(replace_all(text, "<CR>", kCrLf), "<TAB>", "\t");
-  });
+  }).or_go_on();
   return text;
 }
 
@@ -55,7 +55,7 @@ void modLanguage::Log(std::string_view key, std::string_view german) {
         .FileWrite_Log(concat(errors_.main_folder(), "\\log\\language.log"),
                        concat(errors_.program_and_version(), " | ", key, " | ", german),
                        log_maximum);
-  });
+  }).or_go_on();
 }
 
 }  // namespace quenda

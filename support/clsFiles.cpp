@@ -44,7 +44,7 @@ void clsFiles::FileWrite_Log(std::string_view path, std::string_view text, std::
     long count = 0;
     const std::string log = fOpenFileToStream(path, count);
     MakeFile(path, concat(newest_lines(log, maximum), entry), false);
-  });
+  }).or_go_on();
 }
 
 std::string clsFiles::fOpenFileToStream(std::string_view path, long& count) {
@@ -54,7 +54,7 @@ std::string clsFiles::fOpenFileToStream(std::string_view path, long& count) {
     if (!files_.exists(path) || files_.size(path) == 0) return;
     text = files_.read(path);
     count = line_count(text);
-  });
+  }).or_go_on();
   return text;
 }
 
@@ -76,12 +76,12 @@ bool clsFiles::MakeFile(std::string_view path, std::string_view text, bool appen
 
 bool clsFiles::FileExist(std::string_view path) {
   bool there = false;
-  procedure(errors_, "clsFiles.FileExist", {path}, [&] { there = files_.exists(path); });
+  procedure(errors_, "clsFiles.FileExist", {path}, [&] { there = files_.exists(path); }).or_go_on();
   return there;
 }
 
 void clsFiles::FileDelete(std::string_view path) {
-  procedure(errors_, "clsFiles.FileDelete", {path}, [&] { files_.remove(path); });
+  procedure(errors_, "clsFiles.FileDelete", {path}, [&] { files_.remove(path); }).or_go_on();
 }
 
 }  // namespace quenda

@@ -62,7 +62,7 @@ std::vector<FileFilter> fFilter(clsErrorHandling& errors, FilterSet set, const F
           {concat(texts.pictures, " (jpg, bmp, gif, png, ico)"), "*.jpg;*.bmp;*.gif;*.png;*.ico"});
     }
     filters.push_back({texts.all_files, "*.*"});
-  });
+  }).or_go_on();
   return filters;
 }
 
@@ -71,7 +71,8 @@ ChosenFile FileOpenDialog(clsErrorHandling& errors, Dialogs& dialogs, FilterSet 
   ChosenFile chosen;
   procedure(errors, "modAPI_FileOpenDlg.FileOpenDialog", {name_of(set)}, [&] {
     chosen = dialogs.open_file(fFilter(errors, set, texts), [&](const auto& action) {
-      procedure(errors, "modAPI_FileOpenDlg.OFNHookProc", {}, action);
+      procedure(errors, "modAPI_FileOpenDlg.OFNHookProc", {}, action).or_go_on();
+      .or_go_on()
     });
   });
   return chosen;

@@ -15,7 +15,7 @@ MessageAnswer MsgBoxForward(clsErrorHandling& errors, Dialogs& dialogs, const Sy
   auto answer = MessageAnswer::kOk;
   procedure(errors, "modPrivateDummy.MsgBoxForward", {text, static_cast<int>(style), title}, [&] {
     answer = dialogs.message_box(text, style, message_title(title, system.executable_name()));
-  });
+  }).or_go_on();
   return answer;
 }
 

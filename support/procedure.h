@@ -23,6 +23,19 @@ class Statement {
   int number_ = 0;
 };
 
+/// Whether a guarded body came through. Whoever runs a procedure looks at this, or says by name
+/// that the work goes on without it: a fault that nobody asks about would look like success.
+class [[nodiscard]] Outcome {
+ public:
+  Outcome(bool came_through) : came_through_(came_through) {}
+  operator bool() const { return came_through_; }
+  /// The fault has been reported, and what follows does not depend on what the body did.
+  void or_go_on() const {}
+
+ private:
+  bool came_through_;
+};
+
 namespace procedure_detail {
 
 template <class Body>
@@ -56,9 +69,10 @@ bool trap(const clsErrorHandling& errors, Body& body, OnFault on_fault) {
 
 /// The frame of every procedure: announces it in trace mode, runs the body (which may take a
 /// `Statement&` to number its statements), and reports a trapped fault silently under the name.
-/// Returns whether the body came through.
+/// Tells whether the body came through.
 template <class Body>
-bool procedure(clsErrorHandling& errors, std::string_view name, TraceValues traced, Body&& body) {
+Outcome procedure(clsErrorHandling& errors, std::string_view name, TraceValues traced,
+                  Body&& body) {
   if (errors.tracing()) errors.LogDebug_Trace(name, traced);
   return procedure_detail::trap(errors, body, [&](const RuntimeFault& fault, int statement) {
     errors.ErrorLogNew(name, {}, fault, statement);
@@ -68,8 +82,8 @@ bool procedure(clsErrorHandling& errors, std::string_view name, TraceValues trac
 /// As `procedure`, but the user sees a message box, and the report carries one value that says what
 /// was being worked on when the fault came: the body keeps `worked_on` up to date.
 template <class Body>
-bool procedure_with_message(clsErrorHandling& errors, std::string_view name, TraceValues traced,
-                            const std::string_view& worked_on, Body&& body) {
+Outcome procedure_with_message(clsErrorHandling& errors, std::string_view name, TraceValues traced,
+                               const std::string_view& worked_on, Body&& body) {
   if (errors.tracing()) errors.LogDebug_Trace(name, traced);
   return procedure_detail::trap(errors, body, [&](const RuntimeFault& fault, int statement) {
     if (worked_on.empty()) {
@@ -82,8 +96,8 @@ bool procedure_with_message(clsErrorHandling& errors, std::string_view name, Tra
 
 /// As `procedure`, for procedures that tell the user about a fault in their own way.
 template <class Body, class OnFault>
-bool procedure_with_own_report(clsErrorHandling& errors, std::string_view name, TraceValues traced,
-                               Body&& body, OnFault on_fault) {
+Outcome procedure_with_own_report(clsErrorHandling& errors, std::string_view name,
+                                  TraceValues traced, Body&& body, OnFault on_fault) {
   if (errors.tracing()) errors.LogDebug_Trace(name, traced);
   return procedure_detail::trap(errors, body, on_fault);
 }

@@ -48,7 +48,7 @@ std::string ShellEx(clsErrorHandling& errors, System& system, std::string_view v
   procedure(errors, "modImport.ShellEx", {verb, file, parameters, folder}, [&] {
     error = shell_error_text(system.open_with_shell(verb, file, parameters, folder));
     if (!error.empty()) errors.LogDebug_Trace("Import_ShellEx", {verb, file, parameters, folder});
-  });
+  }).or_go_on();
   return error;
 }
 

@@ -59,22 +59,22 @@ void fImportItemEdit::connect() {
 }
 
 void fImportItemEdit::Form_Load() {
-  procedure(app_.errors, "fImportItemEdit.Form_Load", {}, [&] { Language(); });
+  procedure(app_.errors, "fImportItemEdit.Form_Load", {}, [&] { Language(); }).or_go_on();
 }
 
 void fImportItemEdit::Form_Unload() {
-  procedure(app_.errors, "fImportItemEdit.Form_Unload", {}, [&] { row_ = kNoRow; });
+  procedure(app_.errors, "fImportItemEdit.Form_Unload", {}, [&] { row_ = kNoRow; }).or_go_on();
 }
 
 void fImportItemEdit::Language() {
   procedure(app_.errors, "fImportItemEdit.Language", {}, [&] {
     set_caption(concat("Quenda - ", app_.text("Import_Label_Contacts")));
     load_captions(*this, kDesign, app_);
-  });
+  }).or_go_on();
 }
 
 void fImportItemEdit::SettVars(int row) {
-  procedure(app_.errors, "fImportItemEdit.SettVars", {row}, [&] { row_ = row; });
+  procedure(app_.errors, "fImportItemEdit.SettVars", {row}, [&] { row_ = row; }).or_go_on();
 }
 
 void fImportItemEdit::cmdEdit_Click(int index) {
@@ -90,7 +90,7 @@ void fImportItemEdit::cmdEdit_Click(int index) {
       main_.ChangeItem();
     }
     unload();
-  });
+  }).or_go_on();
 }
 
 }  // namespace quenda

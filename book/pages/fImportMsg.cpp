@@ -48,7 +48,7 @@ void fImportMsg::Language() {
   procedure(app_.errors, "fImportMsg.Language", {}, [&] {
     set_caption(concat("Quenda - ", app_.text("Import_Title")));
     load_captions(*this, kDesign, app_);
-  });
+  }).or_go_on();
 }
 
 void fImportMsg::fill(std::string_view number, std::string_view existing, std::string_view fresh) {
@@ -61,12 +61,13 @@ void fImportMsg::cmdMsg_Click(int index) {
   procedure(app_.errors, "fImportMsg.cmdMsg_Click", {index}, [&] {
     answer = DoubleAnswer{.take_new = index == 1, .for_all = optAsk(1).chosen()};
     unload();
-  });
+  }).or_go_on();
 }
 
 void fImportMsg::Form_QueryUnload(bool& cancel, CloseReason reason) {
-  procedure(app_.errors, "fImportMsg.Form_QueryUnload", {},
-            [&] { cancel = reason == CloseReason::kCloseBox; });
+  procedure(app_.errors, "fImportMsg.Form_QueryUnload", {}, [&] {
+    cancel = reason == CloseReason::kCloseBox;
+  }).or_go_on();
 }
 
 }  // namespace quenda

@@ -69,24 +69,24 @@ void fOVWInput::Form_Load() {
     labWithoutAreaCode.set_visible(no_area_code);
     labRequired.set_visible(true);
     enable_ok();
-  });
+  }).or_go_on();
 }
 
 void fOVWInput::Language() {
   procedure(app_.errors, "fOVWInput.Language", {}, [&] {
     set_caption(concat("Quenda - ", app_.text("Import_Title")));
     load_captions(*this, kDesign, app_);
-  });
+  }).or_go_on();
 }
 
 void fOVWInput::enable_ok() { cmdOK.set_enabled(own_codes_complete(txtLVW.text(), txtOVW.text())); }
 
 void fOVWInput::txtLVW_Change() {
-  procedure(app_.errors, "fOVWInput.txtLVW_Change", {}, [&] { enable_ok(); });
+  procedure(app_.errors, "fOVWInput.txtLVW_Change", {}, [&] { enable_ok(); }).or_go_on();
 }
 
 void fOVWInput::txtOVW_Change() {
-  procedure(app_.errors, "fOVWInput.txtOVW_Change", {}, [&] { enable_ok(); });
+  procedure(app_.errors, "fOVWInput.txtOVW_Change", {}, [&] { enable_ok(); }).or_go_on();
 }
 
 void fOVWInput::cmdOK_Click() {
@@ -94,7 +94,7 @@ void fOVWInput::cmdOK_Click() {
     main_.txtOVW.set_text(txtOVW.text());
     main_.txtStateCode.set_text(txtLVW.text());
     unload();
-  });
+  }).or_go_on();
 }
 
 void fOVWInput::cmdHelp_Click() { main_.cmdHelp_Click(); }

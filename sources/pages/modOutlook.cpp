@@ -60,7 +60,8 @@ void modOutlook::isOutlookInstalled(bool read_count) {
           errors_.ErrorLogNew("modOutlook.isOutlookInstalled", {}, fault, statement);
         }
         installed_ = false;
-      });
+      })
+      .or_go_on();
 }
 
 bool modOutlook::getContactsAll(std::vector<OutlookContact>& contacts, const OnItem& on_item) {
@@ -84,7 +85,7 @@ bool modOutlook::getContactsAll(std::vector<OutlookContact>& contacts, const OnI
     }
     contacts = std::move(read);
     came_through = true;
-  });
+  }).or_go_on();
   return came_through;
 }
 

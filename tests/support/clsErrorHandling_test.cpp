@@ -210,7 +210,7 @@ TEST(Procedure, ReportsWithStatementAndKeepsWhatWasReached) {
 
 TEST(Procedure, LetsTheEndOfTheProgramAndUntrappedFaultsPass) {
   ErrorService service;
-  const auto run = [&](auto body) { procedure(service.errors, "fMain.A", {}, body); };
+  const auto run = [&](auto body) { procedure(service.errors, "fMain.A", {}, body).or_go_on(); };
   EXPECT_THROW(run([] { throw EndProgram(); }), EndProgram);
   service.environment.trapping = false;
   EXPECT_THROW(run([] { raise_fault(6); }), RuntimeFault);
