@@ -3,7 +3,6 @@
 #include <string_view>
 #include <utility>
 
-#include "app/busy.h"
 #include "app/fMain.h"
 #include "book/entry_list.h"
 #include "platform/controls/events.h"
@@ -14,27 +13,20 @@
 #include "text/entry_origin.h"
 #include "text/entry_text.h"
 #include "text/text.h"
+#include "wizard/shell/busy.h"
 
 namespace quenda {
 
-void fMain::cmdIspy_Click() {
-  procedure(app_.errors, "fMain.cmdIspy_Click", {}, [&] {
-    txtImpFile.set_text("");
-    const std::string path = app_.open_file(FilterSet::kISpy);
-    if (!path.empty()) txtImpFile.set_text(path);
-  }).or_go_on();
-}
-
-void fMain::ISpyImport() {
-  procedure(app_.errors, "fMain.ISpyImport", {}, [&] {
+bool fMain::ISpyImport() {
+  return procedure(app_.errors, "fMain.ISpyImport", {}, [&] {
     const BusyWork busy(*this);
     lstImpFinal.clear();
     entries_.clear();
     app_.machine.events.yield();
     const RecordTable& lines = source.ImportRows;
-    StatusBar.set_panel(2, texts.items_analyze);
+    StatusBar.set_panel(2, texts["Import_Info_ItemsAnalyze"]);
     const std::size_t last = lines.empty() ? 0 : lines.size() - 1;
-    StatusBar.set_panel(3, concat(texts.items, " ", std::to_string(last)));
+    StatusBar.set_panel(3, concat(texts["Journal_Info_Items"], " ", std::to_string(last)));
     for (std::size_t i = 0; i < lines.size(); ++i) {
       step(i + 1, lines.size());
       const std::string_view line = lines[i];
@@ -44,11 +36,11 @@ void fMain::ISpyImport() {
         entries_.add_row(std::array<std::string_view, 2>{name, caller->number}, entry_origin(i, 1));
       }
     }
-    StatusBar.set_panel(2, texts.erase_multiple);
+    StatusBar.set_panel(2, texts["Import_Info_EraseMultible"]);
     remove_repeated_lines(entries_, [this] { answer_events(); });
-    StatusBar.set_panel(2, texts.items_recycle);
+    StatusBar.set_panel(2, texts["Import_Info_ItemsRecycle"]);
     lstImpFinal.set_table(caller_rows(std::exchange(entries_, FlatTable(kEntryColumns))));
-  }).or_go_on();
+  });
 }
 
 }  // namespace quenda

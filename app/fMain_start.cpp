@@ -1,15 +1,10 @@
 #include <string>
 
 #include "app/fMain.h"
-#include "platform/controls/events.h"
 #include "platform/host_link.h"
-#include "platform/system.h"
 #include "settings/app.h"
 #include "support/procedure.h"
-#include "support/shell.h"
-#include "text/characters.h"
 #include "text/text.h"
-#include "wizard/shell/modProgress.h"
 
 namespace quenda {
 namespace {
@@ -24,12 +19,27 @@ bool changeable(const Control& control) {
 
 }  // namespace
 
-fMain::fMain(App& app) : Form("fMain"), app_(app), outlook_(app.errors, app.machine.automation) {
-  design();
+fMain::fMain(App& services)
+    : WizardShell(services),
+      SourcePage(static_cast<WizardShell&>(*this)),
+      ColumnPage(static_cast<WizardShell&>(*this)),
+      NamePage(static_cast<WizardShell&>(*this), static_cast<ColumnPage&>(*this)),
+      AddressPage(static_cast<WizardShell&>(*this), static_cast<ColumnPage&>(*this)),
+      EntryPage(static_cast<WizardShell&>(*this)),
+      OutlookPage(static_cast<WizardShell&>(*this), static_cast<SourcePage&>(*this)),
+      app_(services) {
   connect();
 }
 
 fMain::~fMain() = default;
+
+void fMain::connect() {
+  cmdFor.on_click = [this] { cmdFor_Click(); };
+  cmdCancel.on_click = [this] { cmdCancel_Click(); };
+  on_unload = [this] { Form_Unload(); };
+  on_got_focus = [this] { Form_GotFocus(); };
+  txtDDE.on_change = [this] { app_.machine.host_link.set_text(txtDDE.text()); };
+}
 
 void fMain::Form_Load() {
   if (!app_.start()) throw EndProgram();
@@ -43,17 +53,15 @@ void fMain::Form_Load() {
     LoadPageOptions();
     load_selections(app_.ini, app_.settings);
     wizard.loading = false;
-    for (const int panel : {1, 2, 3}) StatusBar.set_panel(panel, "");
-    wizard.CurrentPage = kFirstPage;
-    cmdFor.set_enabled(false);
-    cmdBack.set_enabled(false);
-    cmdOutlook.set_enabled(false);
+    clear_panels();
+    wizard.CurrentPage = Page::kSource;
     ShowSite();
+    refresh_buttons();
+    open_choice(true);
     cmbLimiter.set_items({"Semikolon", "Komma", "Tabulator"});
     txtStateCode.set_text(concat("00", app_.settings.own_country_code));
     txtOVW.set_text(concat("0", app_.settings.own_area_code));
-    tmOLcheck.set_enabled(true);
-    StatusBar.set_panel(2, texts.outlook_search);
+    start_outlook_search();
     entries_.clear();
     app_.machine.host_link.offer(
         "book", "txtDDE",
@@ -65,21 +73,21 @@ void fMain::Form_LinkOpen() {
   procedure(app_.errors, "fMain.Form_LinkOpen", {}, [&] {
     wizard.link_open = true;
     txtDDE.set_text("ON");
-    StatusBar.set_panel(3, texts.dde_active);
+    StatusBar.set_panel(3, texts["Import_Info_DDEactive"]);
   }).or_go_on();
 }
 
 void fMain::Form_LinkClose() {
   procedure(app_.errors, "fMain.Form_LinkClose", {}, [&] {
     wizard.link_open = false;
-    StatusBar.set_panel(3, texts.dde_exit);
+    StatusBar.set_panel(3, texts["Import_Info_DDEexit"]);
   }).or_go_on();
 }
 
 void fMain::Form_LinkError() {
   procedure(app_.errors, "fMain.Form_LinkError", {}, [&] {
     wizard.link_open = false;
-    StatusBar.set_panel(3, texts.dde_break);
+    StatusBar.set_panel(3, texts["Import_Info_DDEbreak"]);
   }).or_go_on();
 }
 
@@ -114,46 +122,18 @@ void fMain::cmdCancel_Click() {
   }).or_go_on();
 }
 
-void fMain::cmdHelp_Click() {
-  procedure(app_.errors, "fMain.cmdHelp_Click", {}, [&] {
-    modImport::ShellEx(app_.errors, app_.machine.system, "Open", kHelpPage, "", "");
+void fMain::Language() {
+  procedure(app_.errors, "fMain.Language", {}, [&] {
+    set_caption(concat("Quenda - ", app_.text("Import_Title")));
+    texts.load(app_.language);
+    load_shell_captions();
+    SourcePage::load_captions();
+    ColumnPage::load_captions();
+    NamePage::load_captions();
+    AddressPage::load_captions();
+    EntryPage::load_captions();
+    OutlookPage::load_captions();
   }).or_go_on();
-}
-
-void fMain::txtImport_Change() {
-  procedure(app_.errors, "fMain.txtImport_Change", {}, [&] { DataView(); }).or_go_on();
-}
-
-void fMain::txtImport_KeyPress(std::int16_t& code) {
-  procedure(app_.errors, "fMain.txtImport_KeyPress", {code}, [&] {
-    code = filter_key(code, KeyFilter::kNoSem);
-  }).or_go_on();
-}
-
-void fMain::txtIndex_KeyPress(std::int16_t& code) {
-  procedure(app_.errors, "fMain.txtIndex_KeyPress", {code}, [&] {
-    code = filter_key(code, KeyFilter::kNoSem);
-  }).or_go_on();
-}
-
-void fMain::step(std::size_t done, std::size_t total) {
-  // A record takes well under a microsecond: to look at the clock for each would cost more than the
-  // work itself. The wish to end is seen at once.
-  constexpr unsigned kStepsPerLook = 64;
-  if (wizard.abort) throw EndProgram();
-  if (++steps_ % kStepsPerLook != 0 && done < total) return;
-  modProgress_Show(PicProgress, static_cast<std::int64_t>(done), 1,
-                   static_cast<std::int64_t>(total));
-  answer_events();
-}
-
-void fMain::answer_events() {
-  app_.machine.events.yield();
-  if (wizard.abort) throw EndProgram();
-}
-
-void fMain::show_counts(std::size_t count, std::string_view text) {
-  StatusBar.set_panel(3, concat(std::to_string(count), " ", text));
 }
 
 }  // namespace quenda

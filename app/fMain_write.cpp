@@ -3,7 +3,6 @@
 #include <string_view>
 #include <vector>
 
-#include "app/busy.h"
 #include "app/fMain.h"
 #include "book/book_file.h"
 #include "book/entry_list.h"
@@ -17,6 +16,7 @@
 #include "text/fault.h"
 #include "text/literal_1252.h"
 #include "text/text.h"
+#include "wizard/shell/busy.h"
 
 namespace quenda {
 namespace {
@@ -34,8 +34,9 @@ void fMain::Add() {
   if (!done || merge == Merge::kFailed) return;
   if (merge == Merge::kChangedMeanwhile) {
     // The same entries can be merged into the book as it is now.
-    wizard.CurrentPage = kEntryPage;
-    finish_entry_page(true);
+    wizard.CurrentPage = Page::kEntries;
+    show_composed(Composed::kEntries);
+    refresh_buttons();
     app_.message_box(
         u8"Das Telefonbuch ist inzwischen von einem anderen Programm geändert worden. "
         u8"Es ist nichts geschrieben worden; \"Übernehmen\" liest es neu."_de,
@@ -43,8 +44,9 @@ void fMain::Add() {
     return;
   }
   if (!wizard.link_open) {
-    app_.message_box(concat(texts.dde_not_connected, kCrLf, texts.refresh_info),
-                     MessageStyle::kInformation);
+    app_.message_box(
+        concat(texts["Import_Msg_DDENotConnect"], kCrLf, texts["Import_Msg_RefreshInfo"]),
+        MessageStyle::kInformation);
   }
   unload();
 }
@@ -54,13 +56,13 @@ fMain::Merge fMain::merge_into_book(std::string& book_text, std::string_view& li
   const std::string path = app_.paths.book_file();
   std::vector<BookEntry> entries;
   if (app_.machine.files.has_file(path)) {
-    StatusBar.set_panel(2, texts.load_book);
+    StatusBar.set_panel(2, texts["Import_Info_LoadBook"]);
     book_text = app_.machine.files.read(path);
     if (!read_book(book_text, entries, line)) return Merge::kFailed;
   }
   const std::size_t in_book = entries.size();
 
-  StatusBar.set_panel(2, texts.filter_data);
+  StatusBar.set_panel(2, texts["Import_Info_FilterData"]);
   append_new_entries(entries);
   const std::optional<std::size_t> kept = modImport::RemoveDoubleEntriesTypedImportArray(
       app_.errors, entries, merge_mode,
@@ -76,7 +78,7 @@ fMain::Merge fMain::merge_into_book(std::string& book_text, std::string_view& li
     txtDDE.set_text("nodata");
     return Merge::kDone;
   }
-  StatusBar.set_panel(2, texts.write_book);
+  StatusBar.set_panel(2, texts["Import_Info_WriteBook"]);
   const BookChange change = compose_book(book_text, entries, busy.on_step());
   const std::string_view tail = change.tail;
   const ReplaceResult result = app_.machine.files.replace_tail(path, {.old_text = book_text,
@@ -92,10 +94,10 @@ fMain::Merge fMain::merge_into_book(std::string& book_text, std::string_view& li
 bool fMain::read_book(std::string_view text, std::vector<BookEntry>& entries,
                       std::string_view& line) {
   book_line_end = line_end_of(text);
-  if (book_line_end == LineEnd::kLf) StatusBar.set_panel(3, texts.book_has_lf);
+  if (book_line_end == LineEnd::kLf) StatusBar.set_panel(3, texts["Import_Info_BookHasLf"]);
   if (const std::size_t joined = line_of_joined_entries(text, book_line_end); joined > 0) {
-    app_.message_box(concat(texts.book_line_ends, kCrLf, texts.book_line_without_end, " ",
-                            std::to_string(joined)),
+    app_.message_box(concat(texts["Import_Msg_BookLineEnds"], kCrLf,
+                            texts["Import_Msg_BookLineWithoutEnd"], " ", std::to_string(joined)),
                      MessageStyle::kExclamation);
     return false;
   }

@@ -13,7 +13,9 @@ App::App(const Machine& services)
       errors(environment, machine.files, machine.clock),
       ini(errors, machine.files, paths),
       language(errors, machine.files, machine.clock, ini) {
-  errors.look_up_text = [this](std::string_view key) { return language.LoadLangKey(key); };
+  errors.look_up_text = [this](std::string_view key) {
+    return language.LoadLangKey(key, german_text(key));
+  };
   errors.show_message = [this](std::string_view text, MessageStyle style, std::string_view title) {
     modPrivateDummy::MsgBoxForward(errors, machine.dialogs, machine.system, text, style, title);
   };

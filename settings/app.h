@@ -6,6 +6,7 @@
 #include "platform/dialogs.h"
 #include "platform/machine.h"
 #include "settings/import_settings.h"
+#include "settings/ini/language_keys.h"
 #include "settings/modAPI_INI.h"
 #include "settings/modLanguage.h"
 #include "settings/shared_texts.h"
@@ -35,7 +36,7 @@ struct App {
   bool start();
 
   /// A text in the user's language.
-  std::string text(std::string_view key) { return language.LoadLangKey(key); }
+  std::string text(TextKey key) { return language.LoadLangKey(key); }
   /// Shows a message under the program's own title.
   MessageAnswer message_box(std::string_view text, MessageStyle style);
   /// Lets the user choose a file with a set of filters; empty when the user cancels, and, after a

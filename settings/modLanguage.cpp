@@ -1,7 +1,6 @@
 #include "settings/modLanguage.h"
 
 #include "platform/files.h"
-#include "settings/ini/language_keys.h"
 #include "settings/modAPI_INI.h"
 #include "support/clsFiles.h"
 #include "support/procedure.h"
@@ -45,9 +44,7 @@ std::string modLanguage::LoadLangKey(std::string_view key, std::string_view germ
   return text;
 }
 
-std::string modLanguage::LoadLangKey(std::string_view key) {
-  return LoadLangKey(key, german_text(key));
-}
+std::string modLanguage::LoadLangKey(TextKey key) { return LoadLangKey(key.key(), key.german()); }
 
 void modLanguage::Log(std::string_view key, std::string_view german) {
   procedure(errors_, "modLanguage.Log", {key, german}, [&] {

@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "settings/ini/language_keys.h"
+
 namespace quenda {
 
 class Clock;
@@ -26,7 +28,7 @@ class modLanguage {
   /// marked for their translators: "[found]", "?missing?", and what is missing is logged.
   std::string LoadLangKey(std::string_view key, std::string_view german);
   /// The same with the German text of the key table.
-  std::string LoadLangKey(std::string_view key);
+  std::string LoadLangKey(TextKey key);
 
   /// Adds a missing key to the language log.
   void Log(std::string_view key, std::string_view german);

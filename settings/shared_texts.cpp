@@ -1,7 +1,6 @@
 #include "settings/shared_texts.h"
 
 #include <array>
-#include <string_view>
 
 #include "settings/modLanguage.h"
 
@@ -9,7 +8,7 @@ namespace quenda {
 namespace {
 
 struct SharedText {
-  std::string_view key;
+  TextKey key;
   std::string SharedTexts::*field;
 };
 

@@ -72,9 +72,8 @@ ChosenFile FileOpenDialog(clsErrorHandling& errors, Dialogs& dialogs, FilterSet 
   procedure(errors, "modAPI_FileOpenDlg.FileOpenDialog", {name_of(set)}, [&] {
     chosen = dialogs.open_file(fFilter(errors, set, texts), [&](const auto& action) {
       procedure(errors, "modAPI_FileOpenDlg.OFNHookProc", {}, action).or_go_on();
-      .or_go_on()
     });
-  });
+  }).or_go_on();
   return chosen;
 }
 

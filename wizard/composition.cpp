@@ -6,24 +6,10 @@
 #include "text/conversions.h"
 #include "text/entry_origin.h"
 #include "text/entry_text.h"
-#include "text/fault.h"
 #include "text/text.h"
 
 namespace quenda {
 namespace {
-
-using Order = std::vector<std::size_t>;
-
-const std::array<Order, 6>& orders_of_three() {
-  static const std::array<Order, 6> orders = {Order{0, 1, 2}, Order{0, 2, 1}, Order{1, 2, 0},
-                                              Order{1, 0, 2}, Order{2, 0, 1}, Order{2, 1, 0}};
-  return orders;
-}
-
-const std::array<Order, 2>& orders_of_two() {
-  static const std::array<Order, 2> orders = {Order{0, 1}, Order{1, 0}};
-  return orders;
-}
 
 /// Adds the field as the cell of an entry has it: without quotes, and with a blank for a line
 /// break.
@@ -46,7 +32,7 @@ void append_name(std::string& out, std::string_view first, std::string_view seco
 }
 
 template <class Parts>
-void append_parts(std::string& out, const Parts& parts, const Order& order) {
+void append_parts(std::string& out, const Parts& parts, const AddressOrder& order) {
   if (order.size() == 1) {
     out += parts[0];
     return;
@@ -65,45 +51,32 @@ std::string compose_name(std::string_view first, std::string_view second, bool f
   return name;
 }
 
-std::string compose_address(const std::array<std::string_view, 3>& parts, const Order& order) {
+std::string compose_address(const std::array<std::string_view, 3>& parts,
+                            const AddressOrder& order) {
   std::string address;
   append_parts(address, parts, order);
   return std::string(trim(address));
 }
 
-std::vector<std::string> address_order_names(const std::vector<std::string>& parts) {
-  std::vector<std::string> safe;
-  for (const std::string& part : parts) safe.push_back(replace_all(part, "/", "-"));
-  const auto joined = [&](const Order& order) {
-    std::string name;
-    for (const std::size_t part : order) {
-      if (!name.empty()) name += '/';
-      name += safe[part];
-    }
-    return name;
-  };
-  std::vector<std::string> names;
-  if (safe.size() == 1) names = safe;
-  if (safe.size() == 2) {
-    for (const Order& order : orders_of_two()) names.push_back(joined(order));
-  }
-  if (safe.size() >= 3) {
-    for (const Order& order : orders_of_three()) names.push_back(joined(order));
-  }
-  return names;
+const std::vector<AddressOrder>& address_orders(std::size_t parts) {
+  static const std::vector<std::vector<AddressOrder>> orders = {
+      {},
+      {{0}},
+      {{0, 1}, {1, 0}},
+      {{0, 1, 2}, {0, 2, 1}, {1, 2, 0}, {1, 0, 2}, {2, 0, 1}, {2, 1, 0}}};
+  return orders[std::min(parts, orders.size() - 1)];
 }
 
-Order address_order(std::string_view entry, int position) {
-  const auto at = static_cast<std::size_t>(position);
-  if (count_of(entry, '/') == 1) {
-    if (at >= orders_of_two().size()) raise_fault(kFaultIndexRange);
-    return orders_of_two()[at];
+std::string address_order_name(const std::vector<std::string>& parts, const AddressOrder& order) {
+  std::string name;
+  for (std::size_t i = 0; i < order.size(); ++i) {
+    if (i > 0) name += '/';
+    name += replace_all(parts.at(order[i]), "/", "-");
   }
-  if (at >= orders_of_three().size()) raise_fault(kFaultIndexRange);
-  return orders_of_three()[at];
+  return name;
 }
 
-std::string address_preview(const std::vector<std::string>& parts, const Order& order) {
+std::string address_preview(const std::vector<std::string>& parts, const AddressOrder& order) {
   std::string joined;
   for (const std::size_t part : order) {
     if (part >= parts.size()) continue;

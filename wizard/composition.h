@@ -26,11 +26,15 @@ struct ColumnChoice {
   std::array<std::vector<std::size_t>, kAddressCount> addresses;
 };
 
+/// The parts of an address in the order in which they are joined, as positions from 0; empty where
+/// no address has any part.
+using AddressOrder = std::vector<std::size_t>;
+
 /// Everything that the pages of the wizard settle about the entries.
 struct Composition {
   ColumnChoice columns;
   bool flip_name = false;
-  std::vector<std::size_t> address_order = {0};
+  AddressOrder address_order;
   std::array<std::string, kNumberRows> suffixes;
   std::array<Binding, kNumberRows> bindings{};
 };
@@ -42,20 +46,18 @@ std::string compose_name(std::string_view first, std::string_view second, bool f
 /// The parts in the given order, joined with blanks and trimmed; a blank stays for a part that is
 /// empty between others. An order of one entry takes the first part alone.
 std::string compose_address(const std::array<std::string_view, 3>& parts,
-                            const std::vector<std::size_t>& order);
+                            const AddressOrder& order);
 
-/// The possible orders of up to three address parts by their names, as "Straße/PLZ/Ort"; nothing
-/// for no parts. A "/" inside a name is shown as "-", because the number of "/" tells how many
-/// parts an order has.
-std::vector<std::string> address_order_names(const std::vector<std::string>& parts);
+/// The possible orders of so many address parts, in the order of the list that offers them: none
+/// for no parts, six for three and more.
+const std::vector<AddressOrder>& address_orders(std::size_t parts);
 
-/// The order behind an entry of the order list: its text tells the number of parts (one "/" means
-/// two, any other number three), its position the order. Fault 9 for a position without an order.
-std::vector<std::size_t> address_order(std::string_view entry, int position);
+/// An order by the names of its parts, as "Straße/PLZ/Ort". A "/" inside a name is shown as "-", so
+/// that the separators tell how many parts there are, also where a part has no name.
+std::string address_order_name(const std::vector<std::string>& parts, const AddressOrder& order);
 
 /// The names of an address's parts in an order, as the page shows them: "Straße/Ort".
-std::string address_preview(const std::vector<std::string>& parts,
-                            const std::vector<std::size_t>& order);
+std::string address_preview(const std::vector<std::string>& parts, const AddressOrder& order);
 
 /// Brings a number into dialling form.
 using CleanNumber = std::function<std::string(std::string_view)>;

@@ -45,12 +45,4 @@ bool columns_sufficient(int names, int numbers) {
          numbers <= kMostColumns[kNumbers];
 }
 
-int preview_width(std::size_t characters) {
-  constexpr std::size_t kFewest = 8;
-  constexpr std::size_t kMost = 32;
-  constexpr int kCharacter = 105;  // of the message font, on average
-  constexpr int kMargin = 240;
-  return static_cast<int>(std::clamp(characters, kFewest, kMost)) * kCharacter + kMargin;
-}
-
 }  // namespace quenda

@@ -50,8 +50,4 @@ std::vector<std::string> areas_to_check(const std::array<bool, kHeaderKinds>& un
 /// Whether the wizard can go on: one or two name columns and one to three number columns.
 bool columns_sufficient(int names, int numbers);
 
-/// Width in twips of a preview's column whose longest text has so many characters: whole numbers
-/// are to be read, and a long note must not push the other columns out of sight.
-int preview_width(std::size_t characters);
-
 }  // namespace quenda

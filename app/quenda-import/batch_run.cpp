@@ -52,13 +52,12 @@ class BatchRun {
   void answer(Form& form);
   void answer_double(fImportMsg& dialog);
   /// Presses "Weiter"; the page that comes has to be the given one.
-  void go_on(int page);
+  void go_on(Page page);
 
   const BatchOptions& options_;
   const BatchMachine& machine_;
   const BatchConsole& console_;
   int status_ = kExitRefused;
-  bool fault_reported_ = false;
 
   ProgressLine progress_;
   ConsoleDialogs dialogs_;
@@ -90,7 +89,6 @@ BatchRun::BatchRun(const BatchOptions& options, const BatchMachine& machine,
   app_.ini.write_protection = true;
   app_.errors.on_report = [this](std::string_view procedure, const RuntimeFault& fault,
                                  std::string_view parameters) {
-    fault_reported_ = true;
     say(concat(procedure, ": Fehler ", std::to_string(fault.number()), " ", fault.description(),
                parameters.empty() ? "" : " - ", parameters));
   };
@@ -119,7 +117,7 @@ void BatchRun::run() {
       choose_names();
       choose_addresses();
     }
-    go_on(kEntryPage);
+    go_on(Page::kEntries);
     write_or_show();
   } catch (const EndProgram&) {
     // The forms end the program in the end, and whenever they have to.
@@ -143,7 +141,7 @@ void BatchRun::refuse(std::string_view message) {
   throw EndProgram();
 }
 
-void BatchRun::go_on(int page) {
+void BatchRun::go_on(Page page) {
   if (!main_.cmdFor.enabled()) refuse(u8"Der Assistent lässt es hier nicht weitergehen."_de);
   main_.cmdFor.take_user_click();
   if (main_.wizard.CurrentPage != page) refuse(u8"Die Datei kann nicht eingelesen werden."_de);
@@ -153,9 +151,8 @@ void BatchRun::take_file() {
   if (!machine_.files.exists(options_.file)) {
     refuse(concat("Die Datei \"", options_.file, "\" gibt es nicht."));
   }
-  fault_reported_ = false;
   main_.txtImpFile.set_text(options_.file);
-  if (fault_reported_)
+  if (!main_.file_read())
     refuse(concat("Die Datei \"", options_.file, "\" kann nicht gelesen werden."));
   warn_about_encoding();
   if (main_.source.IsISpyFile) return;
@@ -183,15 +180,14 @@ void BatchRun::warn_about_encoding() {
 void BatchRun::take_outlook() {
   main_.tmOLcheck.take_tick();
   if (!main_.cmdOutlook.enabled()) refuse(main_.labOLver.caption());
-  fault_reported_ = false;
   main_.cmdOutlook.take_user_click();
-  if (fault_reported_) refuse(main_.StatusBar.panel(2));
-  if (!main_.cmdFor.enabled()) refuse(concat("Outlook: ", main_.texts.data_not_found));
+  if (!main_.contacts_read()) refuse(main_.StatusBar.panel(2));
+  if (!main_.cmdFor.enabled()) refuse(concat("Outlook: ", main_.texts["Import_Info_DataNotFound"]));
 }
 
 void BatchRun::choose_columns() {
   if (options_.columns_given()) app_.settings.selections = {};
-  go_on(1);
+  go_on(Page::kColumns);
   for (std::size_t kind = 0; kind < kHeaderKinds; ++kind) select_columns(kind);
   if (!main_.cmdFor.enabled()) refuse_columns();
 }
@@ -219,7 +215,7 @@ void BatchRun::refuse_columns() {
 }
 
 void BatchRun::choose_names() {
-  go_on(2);
+  go_on(Page::kNames);
   if (options_.flip_name) main_.chkFlip.set_ticked(*options_.flip_name);
   for (std::size_t row = 0; row < options_.suffixes.size(); ++row) {
     if (!options_.suffixes[row]) continue;
@@ -230,7 +226,7 @@ void BatchRun::choose_names() {
 }
 
 void BatchRun::choose_addresses() {
-  go_on(3);
+  go_on(Page::kAddresses);
   if (options_.address_order) {
     if (*options_.address_order < main_.cmbFlipAdress.count()) {
       main_.cmbFlipAdress.set_list_index(*options_.address_order);
@@ -251,8 +247,8 @@ void BatchRun::choose_addresses() {
 
 void BatchRun::write_or_show() {
   if (!main_.cmdFor.enabled()) {
-    refuse(fault_reported_ ? u8"Die Einträge konnten nicht zusammengestellt werden."_de
-                           : u8"Die Datei enthält nichts zum Einlesen."_de);
+    refuse(main_.composition_failed() ? u8"Die Einträge konnten nicht zusammengestellt werden."_de
+                                      : u8"Die Datei enthält nichts zum Einlesen."_de);
   }
   if (!options_.dry_run) {
     write();

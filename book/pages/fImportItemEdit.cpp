@@ -1,6 +1,5 @@
 #include "book/pages/fImportItemEdit.h"
 
-#include "app/fMain.h"
 #include "settings/app.h"
 #include "support/procedure.h"
 #include "text/characters.h"
@@ -10,21 +9,37 @@
 namespace quenda {
 namespace {
 
-constexpr DesignEntry kDesign[] = {
-    {"labName", -1, "", -1, {180, 180, 1400, 255}, 0, "String_Name"},
-    {"txtName", -1, "", -1, {1620, 135, 4380, 345}, 1, ""},
-    {"labNumber", -1, "", -1, {180, 660, 1400, 255}, 2, "String_Number"},
-    {"txtNumber", -1, "", -1, {1620, 615, 4380, 345}, 3, ""},
-    {"labAdress", -1, "", -1, {180, 1140, 1400, 255}, 4, "String_Address"},
-    {"txtAdress", -1, "", -1, {1620, 1095, 4380, 345}, 5, ""},
-    {"cmdEdit", 0, "", -1, {3060, 1680, 1400, 390}, 6, "Button_Save"},
-    {"cmdEdit", 1, "", -1, {4600, 1680, 1400, 390}, 7, "Button_Cancel"},
+constexpr DesignRow<fImportItemEdit> kDesign[] = {
+    {.control = control_at<&fImportItemEdit::labName>,
+     .place = {180, 180, 1400, 255},
+     .tab = 0,
+     .caption = "String_Name"},
+    {.control = control_at<&fImportItemEdit::txtName>, .place = {1620, 135, 4380, 345}, .tab = 1},
+    {.control = control_at<&fImportItemEdit::labNumber>,
+     .place = {180, 660, 1400, 255},
+     .tab = 2,
+     .caption = "String_Number"},
+    {.control = control_at<&fImportItemEdit::txtNumber>, .place = {1620, 615, 4380, 345}, .tab = 3},
+    {.control = control_at<&fImportItemEdit::labAdress>,
+     .place = {180, 1140, 1400, 255},
+     .tab = 4,
+     .caption = "String_Address"},
+    {.control = control_at<&fImportItemEdit::txtAdress>,
+     .place = {1620, 1095, 4380, 345},
+     .tab = 5},
+    {.control = control_at<&fImportItemEdit::cmdEdit, 0>,
+     .place = {3060, 1680, 1400, 390},
+     .tab = 6,
+     .caption = "Button_Save"},
+    {.control = control_at<&fImportItemEdit::cmdEdit, 1>,
+     .place = {4600, 1680, 1400, 390},
+     .tab = 7,
+     .caption = "Button_Cancel"},
 };
 
 }  // namespace
 
-fImportItemEdit::fImportItemEdit(App& app, fMain& main)
-    : Form("fImportItemEdit"), app_(app), main_(main) {
+fImportItemEdit::fImportItemEdit(App& app) : Form("fImportItemEdit"), app_(app) {
   design();
   connect();
   Form_Load();
@@ -80,14 +95,12 @@ void fImportItemEdit::SettVars(int row) {
 void fImportItemEdit::cmdEdit_Click(int index) {
   procedure(app_.errors, "fImportItemEdit.cmdEdit_Click", {index}, [&] {
     if (index == 0) {
-      auto& edited = main_.edited;
-      edited.row = row_;
-      edited.changed =
-          !(txtName.text().empty() && txtNumber.text().empty() && txtAdress.text().empty());
-      edited.name = txtName.text();
-      edited.address = txtAdress.text();
-      edited.number = txtNumber.text();
-      main_.ChangeItem();
+      answer = {.row = row_,
+                .changed = !(txtName.text().empty() && txtNumber.text().empty() &&
+                             txtAdress.text().empty()),
+                .name = txtName.text(),
+                .number = txtNumber.text(),
+                .address = txtAdress.text()};
     }
     unload();
   }).or_go_on();

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <cstdint>
+#include <string>
 
 #include "platform/controls/control_array.h"
 #include "platform/controls/form.h"
@@ -10,19 +10,33 @@
 namespace quenda {
 
 struct App;
-class fMain;
+/// Stands for "no row" where a row of the final list is meant.
+inline constexpr int kNoRow = -1;
+
+/// What the dialog hands back: an entry and the row that it belongs to, no row when it was left
+/// without saving.
+struct EditedItem {
+  int row = kNoRow;
+  bool changed = false;  // some field has text; nothing asks for it
+  std::string name;
+  std::string number;
+  std::string address;
+};
 
 /// Edits one entry of the final list.
 class fImportItemEdit : public Form {
  public:
-  fImportItemEdit(App& app, fMain& main);
+  explicit fImportItemEdit(App& app);
+
+  /// What the user has saved.
+  EditedItem answer;
 
   /// Tells the dialog which row it edits, -1 for none. It opens over the main form.
   void SettVars(int row);
   void Form_Load();
   void Form_Unload();
   void Language();
-  /// Button 0 hands the entry back to the main form; every button closes the dialog.
+  /// Button 0 saves the entry into `answer`; every button closes the dialog.
   void cmdEdit_Click(int index);
 
   Label labName{*this, "labName"};
@@ -38,8 +52,7 @@ class fImportItemEdit : public Form {
   void connect();
 
   App& app_;
-  fMain& main_;
-  int row_ = -1;
+  int row_ = kNoRow;
 };
 
 }  // namespace quenda

@@ -8,16 +8,34 @@
 namespace quenda {
 namespace {
 
-constexpr DesignEntry kDesign[] = {
-    {"labMsgNumber", -1, "", -1, {240, 210, 6720, 255}, -1, "Import_Label_ItemExistWithNumber"},
-    {"labIn", -1, "", -1, {240, 630, 6720, 255}, -1, "Import_Option_RetainDataSet"},
-    {"labMsgIn", -1, "", -1, {240, 870, 6720, 480}, -1, ""},
-    {"labNew", -1, "", -1, {240, 1380, 6720, 255}, -1, "Import_Option_NewDataSet"},
-    {"labMsgNew", -1, "", -1, {240, 1620, 6720, 480}, -1, ""},
-    {"optAsk", 0, "", -1, {240, 2220, 6720, 300}, 0, "Import_Option_AskAgain"},
-    {"optAsk", 1, "", -1, {240, 2550, 6720, 300}, 1, "Import_Option_ApplyAll"},
-    {"cmdMsg", 0, "", -1, {3660, 3060, 1600, 390}, 2, "Import_Button_Retain"},
-    {"cmdMsg", 1, "", -1, {5360, 3060, 1600, 390}, 3, "Button_Resume"},
+constexpr DesignRow<fImportMsg> kDesign[] = {
+    {.control = control_at<&fImportMsg::labMsgNumber>,
+     .place = {240, 210, 6720, 255},
+     .caption = "Import_Label_ItemExistWithNumber"},
+    {.control = control_at<&fImportMsg::labIn>,
+     .place = {240, 630, 6720, 255},
+     .caption = "Import_Option_RetainDataSet"},
+    {.control = control_at<&fImportMsg::labMsgIn>, .place = {240, 870, 6720, 480}},
+    {.control = control_at<&fImportMsg::labNew>,
+     .place = {240, 1380, 6720, 255},
+     .caption = "Import_Option_NewDataSet"},
+    {.control = control_at<&fImportMsg::labMsgNew>, .place = {240, 1620, 6720, 480}},
+    {.control = control_at<&fImportMsg::optAsk, 0>,
+     .place = {240, 2220, 6720, 300},
+     .tab = 0,
+     .caption = "Import_Option_AskAgain"},
+    {.control = control_at<&fImportMsg::optAsk, 1>,
+     .place = {240, 2550, 6720, 300},
+     .tab = 1,
+     .caption = "Import_Option_ApplyAll"},
+    {.control = control_at<&fImportMsg::cmdMsg, 0>,
+     .place = {3660, 3060, 1600, 390},
+     .tab = 2,
+     .caption = "Import_Button_Retain"},
+    {.control = control_at<&fImportMsg::cmdMsg, 1>,
+     .place = {5360, 3060, 1600, 390},
+     .tab = 3,
+     .caption = "Button_Resume"},
 };
 
 }  // namespace

@@ -1,39 +1,55 @@
 #include "book/pages/fOVWInput.h"
 
-#include "app/fMain.h"
 #include "book/number_cleaning.h"
 #include "settings/app.h"
 #include "support/procedure.h"
 #include "text/characters.h"
 #include "text/text.h"
 #include "wizard/shell/design.h"
+#include "wizard/shell/help.h"
 
 namespace quenda {
 namespace {
 
-constexpr DesignEntry kDesign[] = {
-    {"labRequired", -1, "", -1, {240, 180, 6240, 510}, -1, "Import_Label_ImportRequiredCodes"},
-    {"labWithoutAreaCode",
-     -1,
-     "",
-     -1,
-     {240, 720, 6240, 510},
-     -1,
-     "Import_Label_SettingsWithoutAreaCode"},
-    {"labOwnArea", -1, "", -1, {240, 1320, 6240, 255}, -1, "Import_Label_OwnArea"},
-    {"labLVW", -1, "", -1, {240, 1725, 2000, 255}, 0, "Settings_Label_CountryCode"},
-    {"txtLVW", -1, "", -1, {2340, 1680, 1300, 345}, 1, ""},
-    {"labFormatLVW", -1, "", -1, {3780, 1725, 2700, 255}, -1, "Import_Label_FormatCountryCode"},
-    {"labOVW", -1, "", -1, {240, 2205, 2000, 255}, 2, "Import_Label_MissingAreaCode1"},
-    {"txtOVW", -1, "", -1, {2340, 2160, 1300, 345}, 3, ""},
-    {"labFormatOVW", -1, "", -1, {3780, 2205, 2700, 255}, -1, "Import_Label_FormatAreaCode"},
-    {"cmdHelp", -1, "", -1, {240, 2760, 1400, 390}, 5, "Button_Help"},
-    {"cmdOK", -1, "", -1, {4880, 2760, 1600, 390}, 4, "Button_Resume"},
+constexpr DesignRow<fOVWInput> kDesign[] = {
+    {.control = control_at<&fOVWInput::labRequired>,
+     .place = {240, 180, 6240, 510},
+     .caption = "Import_Label_ImportRequiredCodes"},
+    {.control = control_at<&fOVWInput::labWithoutAreaCode>,
+     .place = {240, 720, 6240, 510},
+     .caption = "Import_Label_SettingsWithoutAreaCode"},
+    {.control = control_at<&fOVWInput::labOwnArea>,
+     .place = {240, 1320, 6240, 255},
+     .caption = "Import_Label_OwnArea"},
+    {.control = control_at<&fOVWInput::labLVW>,
+     .place = {240, 1725, 2000, 255},
+     .tab = 0,
+     .caption = "Settings_Label_CountryCode"},
+    {.control = control_at<&fOVWInput::txtLVW>, .place = {2340, 1680, 1300, 345}, .tab = 1},
+    {.control = control_at<&fOVWInput::labFormatLVW>,
+     .place = {3780, 1725, 2700, 255},
+     .caption = "Import_Label_FormatCountryCode"},
+    {.control = control_at<&fOVWInput::labOVW>,
+     .place = {240, 2205, 2000, 255},
+     .tab = 2,
+     .caption = "Import_Label_MissingAreaCode1"},
+    {.control = control_at<&fOVWInput::txtOVW>, .place = {2340, 2160, 1300, 345}, .tab = 3},
+    {.control = control_at<&fOVWInput::labFormatOVW>,
+     .place = {3780, 2205, 2700, 255},
+     .caption = "Import_Label_FormatAreaCode"},
+    {.control = control_at<&fOVWInput::cmdHelp>,
+     .place = {240, 2760, 1400, 390},
+     .tab = 5,
+     .caption = "Button_Help"},
+    {.control = control_at<&fOVWInput::cmdOK>,
+     .place = {4880, 2760, 1600, 390},
+     .tab = 4,
+     .caption = "Button_Resume"},
 };
 
 }  // namespace
 
-fOVWInput::fOVWInput(App& app, fMain& main) : Form("fOVWInput"), app_(app), main_(main) {
+fOVWInput::fOVWInput(App& app) : Form("fOVWInput"), app_(app) {
   design();
   connect();
   Form_Load();
@@ -91,12 +107,13 @@ void fOVWInput::txtOVW_Change() {
 
 void fOVWInput::cmdOK_Click() {
   procedure(app_.errors, "fOVWInput.cmdOK_Click", {}, [&] {
-    main_.txtOVW.set_text(txtOVW.text());
-    main_.txtStateCode.set_text(txtLVW.text());
+    answer = OwnCodes{.country = txtLVW.text(), .area = txtOVW.text()};
     unload();
   }).or_go_on();
 }
 
-void fOVWInput::cmdHelp_Click() { main_.cmdHelp_Click(); }
+void fOVWInput::cmdHelp_Click() {
+  procedure(app_.errors, "fOVWInput.cmdHelp_Click", {}, [&] { open_help(app_); }).or_go_on();
+}
 
 }  // namespace quenda

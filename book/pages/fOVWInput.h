@@ -1,5 +1,8 @@
 #pragma once
 
+#include <optional>
+#include <string>
+
 #include "platform/controls/form.h"
 #include "platform/controls/simple_controls.h"
 #include "platform/controls/text_box.h"
@@ -7,12 +10,20 @@
 namespace quenda {
 
 struct App;
-class fMain;
+
+/// The own codes as they are dialled, "0049" and "030".
+struct OwnCodes {
+  std::string country;
+  std::string area;
+};
 
 /// Asks for the own country and area code, without which numbers cannot be completed.
 class fOVWInput : public Form {
  public:
-  fOVWInput(App& app, fMain& main);
+  explicit fOVWInput(App& app);
+
+  /// What the user has confirmed; nothing when the dialog was closed.
+  std::optional<OwnCodes> answer;
 
   void Form_Load();
   void Language();
@@ -39,7 +50,6 @@ class fOVWInput : public Form {
   void enable_ok();
 
   App& app_;
-  fMain& main_;
 };
 
 }  // namespace quenda

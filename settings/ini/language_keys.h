@@ -200,12 +200,41 @@ inline constexpr std::array kLanguageKeys = {
     LanguageKey{"Import_Label_FormatAreaCode", "Format: 030"},
 };
 
-/// The German text of a key; empty for a key that the program does not know.
-constexpr std::string_view german_text(std::string_view key) {
+namespace language_detail {
+constexpr const LanguageKey* find(std::string_view key) {
   for (const LanguageKey& entry : kLanguageKeys) {
-    if (entry.key == key) return entry.german;
+    if (entry.key == key) return &entry;
   }
-  return {};
+  return nullptr;
 }
+/// Not a constant expression: what the compiler names when a key is mistyped.
+void no_such_text_key();
+}  // namespace language_detail
+
+/// The German text of a key that is known only at run time; empty for one that is not in the table.
+constexpr std::string_view german_text(std::string_view key) {
+  const LanguageKey* const entry = language_detail::find(key);
+  return entry == nullptr ? std::string_view() : entry->german;
+}
+
+/// A key that is in the table: a mistyped one does not compile.
+class TextKey {
+ public:
+  /// No text.
+  constexpr TextKey() = default;
+  consteval TextKey(const char* key) : entry_(language_detail::find(key)) {
+    if (entry_ == nullptr) language_detail::no_such_text_key();
+  }
+  [[nodiscard]] constexpr bool empty() const { return entry_ == nullptr; }
+  [[nodiscard]] constexpr std::string_view key() const {
+    return empty() ? std::string_view() : entry_->key;
+  }
+  [[nodiscard]] constexpr std::string_view german() const {
+    return empty() ? std::string_view() : entry_->german;
+  }
+
+ private:
+  const LanguageKey* entry_ = nullptr;
+};
 
 }  // namespace quenda

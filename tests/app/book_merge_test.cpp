@@ -23,7 +23,7 @@ class LastPage : public WizardTest {
     select(0, {"Name"});
     select(1, {"Nummer"});
     for (int i = 0; i < 3; ++i) forward();
-    ASSERT_EQ(form->wizard.CurrentPage, 4);
+    ASSERT_EQ(form->wizard.CurrentPage, Page::kEntries);
   }
   static std::string line(std::string_view name, std::string_view number) {
     return std::string(name) + ";" + std::string(number) + ";0;0;0;0;;;[vcd()vcd]\r\n";
@@ -87,7 +87,7 @@ TEST_F(LastPage, UnansweredQuestionIsAFaultThatLeavesTheBookAlone) {
   enter();
   forward();
   EXPECT_EQ(last_box(), "Es ist ein Fehler aufgetreten!\r\nsiehe Datei: \\log\\error.log");
-  EXPECT_EQ(form->wizard.CurrentPage, kWritePage);
+  EXPECT_EQ(form->wizard.CurrentPage, Page::kWrite);
   EXPECT_EQ(book(), kOldLine);
   EXPECT_EQ(machine.host_link.texts, Texts{"ON"});
 }

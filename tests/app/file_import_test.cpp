@@ -43,7 +43,7 @@ TEST_F(FileImport, RunsFromTheFileToTheBook) {
   EXPECT_FALSE(form->cmbLimiter.enabled());
 
   forward();
-  EXPECT_EQ(form->wizard.CurrentPage, 1);
+  EXPECT_EQ(form->wizard.CurrentPage, Page::kColumns);
   EXPECT_TRUE(form->lstShow.visible());
   EXPECT_EQ(form->lstShow.cell(1, 1), "Eva; Maria");
   EXPECT_FALSE(form->cmdFor.enabled()) << "no columns yet";
@@ -132,7 +132,7 @@ TEST_F(FileImport, GoesBackAndForthWithoutLeavingOldEntries) {
       << "with its suffix even the shortest name is long enough";
   EXPECT_EQ(rows()[0], "Meier Hans neu|030123456|");
   for (int i = 0; i < 4; ++i) back();
-  EXPECT_EQ(form->wizard.CurrentPage, 0);
+  EXPECT_EQ(form->wizard.CurrentPage, Page::kSource);
   EXPECT_EQ(form->txtImpFile.text(), "");
   EXPECT_TRUE(form->cmdFile.reachable());
   EXPECT_FALSE(form->cmdFor.enabled());
@@ -166,7 +166,7 @@ TEST_F(FileImport, ADroppedFileIsTakenWhereASourceCanBeChosen) {
   forward();
   machine.files.put(kContactsPath, kContacts);
   form->on_drop_file(kContactsPath);
-  EXPECT_EQ(form->wizard.CurrentPage, 1);
+  EXPECT_EQ(form->wizard.CurrentPage, Page::kColumns);
   EXPECT_EQ(form->txtImpFile.text(), "C:\\other.csv");
 }
 
@@ -178,7 +178,7 @@ TEST_F(FileImport, HeaderWithoutDelimiterLeadsBackToTheSource) {
             u8"Keine zulässigen Trennzeichen gefunden oder Format ungültig!\r\n"
             u8"Ein Import der Daten ist nicht möglich!"_de);
   EXPECT_EQ(machine.dialogs.boxes.back().style, MessageStyle::kCritical);
-  EXPECT_EQ(form->wizard.CurrentPage, 0);
+  EXPECT_EQ(form->wizard.CurrentPage, Page::kSource);
   EXPECT_EQ(form->txtImpFile.text(), "");
 }
 
@@ -256,7 +256,7 @@ TEST_F(FileImport, RecordsThatLackAChosenColumnStopTheComposition) {
   forward();
   forward();
   forward();
-  EXPECT_EQ(form->wizard.CurrentPage, 4);
+  EXPECT_EQ(form->wizard.CurrentPage, Page::kEntries);
   EXPECT_EQ(form->lstImpFinal.count(), 0U);
   EXPECT_FALSE(form->cmdFor.enabled());
 }

@@ -29,11 +29,11 @@ TEST_F(IspyImport, GoesStraightToTheEntries) {
   EXPECT_EQ(form->StatusBar.panel(1), "Importmode: ISpy");
   EXPECT_FALSE(form->cmbLimiter.enabled());
   forward();
-  EXPECT_EQ(form->wizard.CurrentPage, 4);
+  EXPECT_EQ(form->wizard.CurrentPage, Page::kEntries);
   EXPECT_EQ(rows(), (Texts{"Erika Mustermann|0301234567|", "Hans Meier|089765|"}));
   EXPECT_EQ(form->cmdFor.caption(), u8"Übernehmen"_de);
   back();
-  EXPECT_EQ(form->wizard.CurrentPage, 0);
+  EXPECT_EQ(form->wizard.CurrentPage, Page::kSource);
   EXPECT_EQ(form->txtImpFile.text(), "");
   take_file(kLog, kLogPath);
   forward();

@@ -54,7 +54,7 @@ TEST_F(OutlookImport, RunsToTheBookAndBackAgain) {
   EXPECT_EQ(form->lstImport.cell(0, 0), "Muster Eva zuhause");
   form->chkFlipAdress.take_user_click();
   forward();
-  EXPECT_EQ(form->wizard.CurrentPage, 4);
+  EXPECT_EQ(form->wizard.CurrentPage, Page::kEntries);
   EXPECT_EQ(rows(), (Texts{"Muster Eva zuhause|0301234567|Weg 1, 12345 Berlin",
                            "Muster Udo zuhause|0307654321|Weg 1, 12345 Berlin"}));
   back();
@@ -98,7 +98,7 @@ TEST_F(OutlookImport, AFileChosenBeforeIsForgotten) {
   EXPECT_TRUE(form->txtImpFile.reachable());
   take_file("Name;Telefon\r\nUdo;030 7654321\r\n");
   forward();
-  EXPECT_EQ(form->wizard.CurrentPage, 1);
+  EXPECT_EQ(form->wizard.CurrentPage, Page::kColumns);
 }
 
 TEST_F(OutlookImport, WithoutTickedNumbersThereIsNoWayForward) {

@@ -45,11 +45,5 @@ TEST(ColumnsSufficient, NeedsOneOrTwoNamesAndOneToThreeNumbers) {
   EXPECT_FALSE(columns_sufficient(1, 4));
 }
 
-TEST(PreviewWidth, GrowsWithTheTextBetweenBounds) {
-  EXPECT_EQ(preview_width(0), preview_width(8));
-  EXPECT_GE(preview_width(16), 16 * 100) << "a number with its country code";
-  EXPECT_EQ(preview_width(1000), preview_width(32));
-}
-
 }  // namespace
 }  // namespace quenda

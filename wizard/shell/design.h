@@ -1,30 +1,66 @@
 #pragma once
 
-#include <span>
-#include <string_view>
+#include <cstddef>
+#include <type_traits>
 
 #include "platform/controls/control.h"
+#include "settings/app.h"
+#include "settings/ini/language_keys.h"
 
+// How a form is designed: one row per control, named by a pointer to the member that it is.
 namespace quenda {
 
-struct App;
-class Form;
+namespace design_detail {
+template <class Member>
+struct OwnerOf;
+template <class Owner, class Type>
+struct OwnerOf<Type Owner::*> {
+  using type = Owner;
+};
+}  // namespace design_detail
 
-/// One control as a form is designed: where it lies and which text it carries.
-struct DesignEntry {
-  std::string_view name;
-  int index;               // in its control array, -1 for none
-  std::string_view frame;  // the frame that holds it, empty for the form itself
-  int frame_index;
-  Place place;               // twips, inside the frame
-  int tab_index;             // -1 is never reached by the Tab key
-  std::string_view caption;  // key of the caption, empty for none
+/// Finds a control in its owner: `control_at<&SourcePage::labFile>`, and for a control of an array
+/// `control_at<&NamePage::labHead, 0>`.
+template <auto Member, int Index = -1>
+Control& control_at(typename design_detail::OwnerOf<decltype(Member)>::type& owner) {
+  if constexpr (Index < 0) {
+    return owner.*Member;
+  } else {
+    return (owner.*Member)(Index);
+  }
+}
+
+/// One control of a page or a dialog.
+template <class Owner>
+struct DesignRow {
+  Control& (*control)(Owner& owner);
+  Place place;           // twips, inside its frame
+  int tab = -1;          // place in the tab order; -1 is never reached by the key
+  TextKey caption = {};  // empty for none
+  Control& (*frame)(Owner& owner) = nullptr;  // null: the frame that all rows lie in
+  Anchor across = Anchor::kStart;
+  Anchor down = Anchor::kStart;
 };
 
-/// Puts the form's controls to their places. Fault 340 when the form lacks one of them.
-void apply_design(Form& form, std::span<const DesignEntry> design);
+/// Puts the controls to their places. `frame` holds those whose row names no other; null is the
+/// form itself.
+template <class Owner, std::size_t Count>
+void apply_design(Owner& owner, const DesignRow<Owner> (&rows)[Count], Control* frame = nullptr) {
+  for (const DesignRow<Owner>& row : rows) {
+    Control& control = row.control(owner);
+    control.set_place(row.place);
+    control.set_tab_index(row.tab);
+    control.set_anchors(row.across, row.down);
+    control.set_parent(row.frame == nullptr ? frame : &row.frame(owner));
+  }
+}
 
-/// Sets the captions by their keys, in the language of the program.
-void load_captions(Form& form, std::span<const DesignEntry> design, App& app);
+/// Sets the captions in the language of the program.
+template <class Owner, std::size_t Count>
+void load_captions(Owner& owner, const DesignRow<Owner> (&rows)[Count], App& app) {
+  for (const DesignRow<Owner>& row : rows) {
+    if (!row.caption.empty()) row.control(owner).set_caption(app.text(row.caption));
+  }
+}
 
 }  // namespace quenda

@@ -60,7 +60,7 @@ TEST_F(WizardTest, EveryButtonOfAPageHasAnAltLetterOfItsOwnInBothLanguages) {
     EXPECT_EQ(form->cmdFor.caption(), language.empty() ? "Weiter" : "Next");
     for (std::int16_t page = 0; page <= 4; ++page) {
       SCOPED_TRACE(language + std::to_string(page));
-      form->wizard.CurrentPage = page;
+      form->wizard.CurrentPage = static_cast<Page>(page);
       form->ShowSite();
       window.show_changes();
       std::set<char> taken;

@@ -122,7 +122,7 @@ class DialogLeaks : public testing::Test, public LoopClient {
 
 TEST_F(DialogLeaks, EditingAnEntry) {
   expect_nothing_left([&] {
-    fImportItemEdit dialog(app_, main_);
+    fImportItemEdit dialog(app_);
     dialog.SettVars(-1);
     show(dialog, dialog.cmdEdit(1));
   });
@@ -139,7 +139,7 @@ TEST_F(DialogLeaks, AskingAboutANumberThatExists) {
 TEST_F(DialogLeaks, AskingForTheOwnCodes) {
   app_.settings.own_area_code = "30";
   expect_nothing_left([&] {
-    fOVWInput dialog(app_, main_);
+    fOVWInput dialog(app_);
     show(dialog, dialog.cmdOK);
   });
 }

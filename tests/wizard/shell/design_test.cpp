@@ -12,6 +12,39 @@ namespace {
 
 using MainDesign = WizardTest;
 
+/// The names of the form's controls in the order of their ids, as "labFile" or "frmImp*5".
+std::string in_order(const Form& form) {
+  std::string all;
+  const auto& controls = form.controls();
+  for (std::size_t i = 0; i < controls.size();) {
+    std::size_t end = i;
+    while (end < controls.size() && controls[end]->name() == controls[i]->name()) ++end;
+    if (!all.empty()) all += ' ';
+    all += controls[i]->name();
+    if (end - i > 1) all += "*" + std::to_string(end - i);
+    i = end;
+  }
+  return all;
+}
+
+TEST_F(MainDesign, TheOrderOfTheControlsStaysSinceTheirIdsComeFromIt) {
+  start();
+  EXPECT_EQ(in_order(*form),
+            "frmTitle labTitle labHelp*6 PicProgress cmdHelp cmdBack cmdFor cmdCancel StatusBar "
+            "txtDDE tmOLcheck frmPages frmImp*5 frmImpOL "
+            "labFile txtImpFile cmdFile labLimiter cmbLimiter labLimError cmdIspy labIspy "
+            "cmdOutlook labOLver labOLhint chkNameLen "
+            "labHeader*4 lstHeader*4 labShow lstShow "
+            "labHeadName txtHeadName chkFlip labHeadNumber labNameExt labHead*3 txtHead*3 "
+            "txtIndex*3 "
+            "labFlipAdress cmbFlipAdress labAdres*2 txtAdres*2 labAdresBind frmBind*3 chk1*2 "
+            "chk2*2 chk3*2 txtAdresBind*3 "
+            "labImpFinal lstImpFinal cmdEditItems cmdDel labDelete frmAsk optAsk*3 labStateCode "
+            "txtStateCode labOVW txtOVW labOVWhint "
+            "labImport*3 chkImport*11 txtImport*11 chkAdr*14 chkFlipName chkFlipAdress "
+            "labPreview lstImport");
+}
+
 TEST_F(MainDesign, WhatTheTabKeyReachesHasANameOfItsOwnOnItsPage) {
   start();
   std::map<int, const Control*> in_order;

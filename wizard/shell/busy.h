@@ -1,26 +1,26 @@
 #pragma once
 
-#include "app/fMain.h"
+#include "wizard/shell/wizard_shell.h"
 
 namespace quenda {
 
 /// The hourglass over the main form, for work that takes no input in between.
 class Hourglass {
  public:
-  explicit Hourglass(fMain& form) : form_(form) { form_.set_pointer(Pointer::kHourglass); }
+  explicit Hourglass(WizardShell& form) : form_(form) { form_.set_pointer(Pointer::kHourglass); }
   ~Hourglass() { form_.set_pointer(Pointer::kDefault); }
   Hourglass(const Hourglass&) = delete;
   Hourglass& operator=(const Hourglass&) = delete;
 
  private:
-  fMain& form_;
+  WizardShell& form_;
 };
 
 /// Long work of the main form: hourglass, progress shown from 0, and no input but "cancel" until it
 /// is over, however it ends.
 class BusyWork {
  public:
-  explicit BusyWork(fMain& form) : form_(form), hourglass_(form) {
+  explicit BusyWork(WizardShell& form) : form_(form), hourglass_(form) {
     form_.lock_input(true);
     form_.PicProgress.set_percent(0);
     form_.PicProgress.set_visible(true);
@@ -39,7 +39,7 @@ class BusyWork {
   }
 
  private:
-  fMain& form_;
+  WizardShell& form_;
   Hourglass hourglass_;
 };
 

@@ -1,28 +1,39 @@
 #include <algorithm>
+#include <array>
 #include <memory>
 #include <string>
 #include <vector>
 
-#include "app/fMain.h"
 #include "settings/app.h"
 #include "sources/delimited_text.h"
 #include "support/procedure.h"
 #include "text/text.h"
-#include "wizard/header_columns.h"
+#include "wizard/pages/column_page.h"
 
+// The header of the file on the columns' page, and what a click on it does.
 namespace quenda {
 namespace {
 
+/// Width in twips of a preview's column whose longest text has so many characters: whole numbers
+/// are to be read, and a long note must not push the other columns out of sight.
+int preview_width(std::size_t characters) {
+  constexpr std::size_t kFewest = 8;
+  constexpr std::size_t kMost = 32;
+  constexpr int kCharacter = 105;  // of the message font, on average
+  constexpr int kMargin = 240;
+  return static_cast<int>(std::clamp(characters, kFewest, kMost)) * kCharacter + kMargin;
+}
+
 /// As wide as the header and the first records want them.
 std::vector<ListColumn> preview_columns(const std::vector<std::string>& header,
-                                        const RecordTable& records, const std::string& delimiter) {
+                                        const RecordTable& records, char delimiter) {
   constexpr std::size_t kRecordsLookedAt = 50;
   constexpr std::size_t kMark = 5;  // what a heading gets when its column is chosen
   std::vector<std::size_t> longest;
   longest.reserve(header.size());
   for (const std::string& heading : header) longest.push_back(heading.size() + kMark);
   for (std::size_t row = 1; row < std::min(records.size(), kRecordsLookedAt); ++row) {
-    const auto fields = shown_fields(records[row], delimiter.front());
+    const auto fields = shown_fields(records[row], delimiter);
     for (std::size_t i = 0; i < std::min(fields.size(), longest.size()); ++i) {
       longest[i] = std::max(longest[i], fields[i].size());
     }
@@ -37,60 +48,69 @@ std::vector<ListColumn> preview_columns(const std::vector<std::string>& header,
 
 }  // namespace
 
-void fMain::ImpHeader() {
+void ColumnPage::ImpHeader() {
   procedure(app_.errors, "fMain.ImpHeader", {}, [&] {
+    const ImportSource& source = shell_.source;
+    const MainTexts& texts = shell_.texts;
+    header_shown_ = false;
     const std::string_view header_record = source.ImportRows[0];
     if (header_record.find(source.Delimiter) == header_record.npos) {
       fill_header_lists({});
-      app_.message_box(concat(texts.no_delimiter_found, kCrLf, texts.import_not_available),
+      app_.message_box(concat(texts["Import_Info_NoDelimiterFound"], kCrLf,
+                              texts["Import_Info_ImportNotAvailable"]),
                        MessageStyle::kCritical);
-      wizard.CurrentPage = kFirstPage;
-      cmdBack_Click();
+      shell_.wizard.CurrentPage = Page::kSource;
+      shell_.cmdBack_Click();
       return;
     }
-    const std::vector<std::string> header = shown_fields(
-        source.ImportRows.padded_text(0, source.Delimiter.front()), source.Delimiter.front());
+    const char delimiter = source.Delimiter.front();
+    const std::vector<std::string> header =
+        shown_fields(source.ImportRows.padded_text(0, delimiter), delimiter);
     fill_header_lists(header);
     if (std::any_of(header.begin(), header.end(), [](const auto& text) { return text.empty(); })) {
-      app_.message_box(concat(texts.header_fault, kCrLf, texts.error_free_no_warranted),
-                       MessageStyle::kInformation);
+      app_.message_box(
+          concat(texts["Import_Msg_HeaderFault"], kCrLf, texts["Import_Msg_ErrorFreeNoWarranted"]),
+          MessageStyle::kInformation);
     }
+    header_shown_ = true;
     select_saved_columns(header);
   }).or_go_on();
 }
 
-void fMain::fill_header_lists(const std::vector<std::string>& header) {
-  const UpdateLock lock(*this);
+void ColumnPage::fill_header_lists(const std::vector<std::string>& header) {
   const auto shared = std::make_shared<const std::vector<std::string>>(header);
+  const UpdateLock lock(shell_);
   for (const auto& list : lstHeader) list->share_items(shared);
   if (header.empty()) return lstShow.set_columns({});
-  lstShow.set_columns(preview_columns(header, source.ImportRows, source.Delimiter));
+  const ImportSource& source = shell_.source;
+  lstShow.set_columns(preview_columns(header, source.ImportRows, source.Delimiter.front()));
   preview_.show(source.ImportRows, source.Delimiter.front());
   lstShow.set_source(&preview_);
 }
 
-void fMain::select_saved_columns(const std::vector<std::string>& header) {
+void ColumnPage::select_saved_columns(const std::vector<std::string>& header) {
+  const MainTexts& texts = shell_.texts;
   const SelectionMatch match = match_selection(header, app_.settings.selections);
   for (std::size_t kind = 0; kind < kHeaderKinds; ++kind) {
     ListBox& list = lstHeader(static_cast<int>(kind));
     for (const int position : match.positions[kind]) list.set_selected(position, true);
   }
-  const std::vector<std::string> areas =
-      areas_to_check(match.unmatched, {texts.name, texts.number, texts.address});
+  const std::vector<std::string> areas = areas_to_check(
+      match.unmatched, {texts["String_Name"], texts["String_Number"], texts["String_Address"]});
   if (areas.empty()) return;
   std::string message =
-      concat(texts.selection_fail1, kCrLf, texts.selection_fail2, kCrLf, texts.selection_fail3);
+      concat(texts["Import_Msg_SelectionFail1"], kCrLf, texts["Import_Msg_SelectionFail2"], kCrLf,
+             texts["Import_Msg_SelectionFail3"]);
   for (const std::string& area : areas) message.append(kCrLf).append(area);
   app_.message_box(message, MessageStyle::kInformation);
 }
 
-void fMain::lstHeader_Click(int index) {
+void ColumnPage::lstHeader_Click(int index) {
   procedure(app_.errors, "fMain.lstHeader_Click", {index}, [&] {
     ListBox& list = lstHeader(index);
     const auto kind = static_cast<std::size_t>(index);
     if (kind == kNames || kind == kNumbers) {
-      cmdFor.set_enabled(columns_sufficient(lstHeader(kNames).selected_count(),
-                                            lstHeader(kNumbers).selected_count()));
+      shell_.refresh_buttons();
     } else if (list.selected_count() > kMostColumns.at(kind)) {
       // One address column too many: the entry just selected gives way.
       list.set_selected(list.list_index(), false);
@@ -99,14 +119,14 @@ void fMain::lstHeader_Click(int index) {
   }).or_go_on();
 }
 
-void fMain::ListColor() {
+void ColumnPage::ListColor() {
   procedure(app_.errors, "fMain.ListColor", {}, [&] {
     constexpr std::array kKinds = {ColumnKind::kName, ColumnKind::kNumber, ColumnKind::kAddress1,
                                    ColumnKind::kAddress2};
     std::vector<ColumnKind> kinds(lstShow.columns().size(), ColumnKind::kNone);
     // From the last kind to the first: a column chosen twice shows the more important choice.
     for (std::size_t kind = kHeaderKinds; kind-- > 0;) {
-      for (const int position : lstHeader(static_cast<int>(kind)).selected_positions()) {
+      for (const int position : list(kind).selected_positions()) {
         kinds.at(static_cast<std::size_t>(position)) = kKinds[kind];
       }
     }

@@ -1,0 +1,152 @@
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "platform/files.h"
+#include "settings/app.h"
+#include "sources/delimited_text.h"
+#include "sources/pages/source_page.h"
+#include "support/clsFiles.h"
+#include "support/procedure.h"
+#include "text/fault.h"
+#include "text/text.h"
+#include "wizard/shell/busy.h"
+
+// The file on the first page: read, its delimiter found, its records made.
+namespace quenda {
+namespace {
+
+constexpr std::uint64_t kLargeFile = 8UL * 1024 * 1024;  // bytes
+
+}  // namespace
+
+void SourcePage::txtImpFile_Change() {
+  procedure(app_.errors, "fMain.txtImpFile_Change", {}, [&] {
+    ImportSource& source = shell_.source;
+    StatusBar& status = shell_.StatusBar;
+    if (!app_.machine.files.exists(txtImpFile.text())) {
+      file_ready_ = false;
+      shell_.refresh_buttons();
+      return;
+    }
+    searching_outlook_ = false;
+    cmbLimiter.set_list_index(-1);
+    shell_.clear_panels();
+    source.IsISpyFile = false;
+    source.IsOutlookSource = false;
+    source.FileChecked = false;
+    status.set_panel(2, shell_.texts["Import_Info_ReadingFile"]);
+    FileImport();
+    bool delimiter_found = false;
+    if (!source.IsISpyFile) {
+      status.set_panel(2, shell_.texts["Import_Info_GetDelimiter"]);
+      delimiter_found = CheckLimiter();
+      source.FileChecked = true;
+      if (delimiter_found) {
+        status.set_panel(2, shell_.texts["Import_Info_DelimiterOk"]);
+        cmbLimiter.set_enabled(false);
+        shell_.ObjectEnable(false, cmbLimiter);
+      }
+    }
+    if (shell_.wizard.abort) throw EndProgram();
+    file_ready_ = source.IsISpyFile || delimiter_found;
+    shell_.refresh_buttons();
+  }).or_go_on();
+}
+
+void SourcePage::FileImport() {
+  file_read_ = procedure(app_.errors, "fMain.FileImport", {}, [&] {
+    const std::string& path = txtImpFile.text();
+    if (!app_.machine.files.exists(path)) return;
+    read_file(path);
+    const bool is_log = is_ispy_log(path);
+    shell_.source.IsISpyFile = is_log;
+    if (is_log) {
+      show_detection(false);
+      cmbLimiter.set_list_index(-1);
+    }
+    cmbLimiter.set_enabled(!is_log);
+    shell_.ObjectEnable(!is_log, cmbLimiter);
+    shell_.StatusBar.set_panel(1, is_log ? "Importmode: ISpy" : "Importmode: CSV");
+  });
+}
+
+void SourcePage::read_file(const std::string& path) {
+  ImportSource& source = shell_.source;
+  const Hourglass hourglass(shell_);
+  // Only a large file is worth a look at what the user does meanwhile: keys other than "cancel"
+  // are lost then, and a path may still be being typed.
+  std::optional<BusyWork> busy;
+  if (app_.machine.files.size(path) > kLargeFile) busy.emplace(shell_);
+  const auto pause = [&] {
+    if (busy) shell_.answer_events();
+  };
+  pause();
+  long count = 0;
+  // The text before is given up first: two files need not fit into memory together.
+  source.ImportText = std::make_shared<std::string>();
+  source.ImportText = std::make_shared<std::string>(
+      clsFiles(app_.errors, app_.machine.files, app_.machine.clock).fOpenFileToStream(path, count));
+  pause();
+  RecordTable lines = split_lines(source.ImportText);
+  if (!lines.empty()) source.ImportRows = std::move(lines);
+  pause();
+  shell_.StatusBar.set_panel(2, "");
+  shell_.show_counts(static_cast<std::size_t>(count), shell_.texts["Import_Info_FileRead"]);
+}
+
+bool SourcePage::CheckLimiter() {
+  bool acceptable = false;
+  procedure(app_.errors, "fMain.CheckLimiter", {}, [&] {
+    const DelimiterCounts counts = count_delimiters(*shell_.source.ImportText);
+    const int candidate = choose_delimiter(counts);
+    if (candidate > -1) cmbLimiter.set_list_index(candidate);
+    const int chosen = cmbLimiter.list_index();
+    acceptable = chosen > -1 && delimiter_acceptable(counts, chosen);
+    show_detection(!acceptable);
+  }).or_go_on();
+  return acceptable;
+}
+
+void SourcePage::show_detection(bool failed) {
+  detection_failed_ = failed;
+  labLimError.set_visible(failed);
+}
+
+void SourcePage::cmbLimiter_Click() {
+  procedure(app_.errors, "fMain.cmbLimiter_Click", {}, [&] {
+    const int chosen = cmbLimiter.list_index();
+    if (chosen > -1) {
+      shell_.source.Delimiter = kDelimiters.at(static_cast<std::size_t>(chosen));
+    }
+    // Where detection had failed, the user's own choice is taken without another check.
+    if (app_.machine.files.exists(txtImpFile.text()) && detection_failed_) {
+      file_ready_ = true;
+      shell_.refresh_buttons();
+    }
+    show_detection(false);
+  }).or_go_on();
+}
+
+void SourcePage::CSVclean() {
+  procedure(app_.errors, "fMain.CSVclean", {}, [&] {
+    ImportSource& source = shell_.source;
+    BusyWork busy(shell_);
+    // The records are built in the memory of the text itself, which is not needed after that.
+    source.ImportRows = RecordTable();
+    std::string text = std::move(*source.ImportText);
+    remove_doubled_quotes(text, [this] { shell_.answer_events(); });
+    source.ImportRows = build_records(std::move(text), source.Delimiter.front(), busy.on_step());
+  }).or_go_on();
+}
+
+void SourcePage::DatasetComplete() {
+  procedure(app_.errors, "fMain.DatasetComplete", {}, [&] {
+    BusyWork busy(shell_);
+    pad_records(shell_.source.ImportRows, shell_.source.Delimiter.front(), busy.on_step());
+  }).or_go_on();
+}
+
+}  // namespace quenda

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "platform/controls/control_array.h"
+#include "platform/controls/list_view.h"
+#include "platform/controls/lists.h"
+#include "platform/controls/simple_controls.h"
+#include "settings/import_settings.h"
+#include "wizard/composition.h"
+#include "wizard/header_columns.h"
+#include "wizard/pages/record_preview.h"
+#include "wizard/shell/wizard_page.h"
+#include "wizard/shell/wizard_shell.h"
+
+namespace quenda {
+
+/// The second page: which columns of the file hold names, numbers and addresses. The preview of the
+/// file belongs to the page of names as well.
+class ColumnPage : public WizardPage {
+ public:
+  explicit ColumnPage(WizardShell& shell);
+
+  /// A header is shown, and of its columns neither too few nor too many are chosen.
+  [[nodiscard]] bool can_go_on() const override;
+  void page_shown(Page now) override;
+  void load_captions();
+  void save(ImportSettings& settings) const;
+
+  void ImpHeader();
+  void lstHeader_Click(int index);
+  void ListColor();
+
+  /// The chosen columns, of each kind as many as are taken.
+  [[nodiscard]] ColumnChoice choice() const;
+  /// Their header texts, without double quotes.
+  [[nodiscard]] std::vector<std::string> chosen_names(HeaderKind kind) const;
+
+  ControlArray<Label> labHeader{shell_, "labHeader", {0, 1, 2, 3}};
+  ControlArray<ListBox> lstHeader{shell_, "lstHeader", {0, 1, 2, 3}};
+  Label labShow{shell_, "labShow"};
+  ListView lstShow{shell_, "lstShow"};
+
+ private:
+  void design();
+  void connect();
+  void fill_header_lists(const std::vector<std::string>& header);
+  void select_saved_columns(const std::vector<std::string>& header);
+  [[nodiscard]] const ListBox& list(std::size_t kind) const {
+    return lstHeader(static_cast<int>(kind));
+  }
+  [[nodiscard]] std::vector<std::size_t> chosen_columns(std::size_t kind) const;
+
+  RecordPreview preview_;
+  bool header_shown_ = false;
+};
+
+}  // namespace quenda

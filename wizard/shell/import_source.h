@@ -1,0 +1,34 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "sources/record_table.h"
+#include "wizard/page_flow.h"
+
+namespace quenda {
+
+/// The file being imported, and what kind of source the wizard works with.
+struct ImportSource {
+  std::shared_ptr<std::string> ImportText = std::make_shared<std::string>();
+  RecordTable ImportRows;
+  std::string Delimiter;  // one character; empty until one has been selected for the first time
+  bool IsISpyFile = false;
+  bool IsOutlookSource = false;
+  bool FileChecked = false;  // a delimited file was taken and waits for its cleaning
+
+  [[nodiscard]] Source kind() const {
+    return IsOutlookSource ? Source::kOutlook : IsISpyFile ? Source::kIspy : Source::kFile;
+  }
+};
+
+/// Where the wizard stands.
+struct WizardState {
+  Page CurrentPage = Page::kSource;
+  bool on_outlook_page = false;  // the Outlook page stands in place of the first one
+  bool abort = false;      // the user wants the program to end; loops end it at their next record
+  bool loading = false;    // controls are being filled, their handlers keep quiet
+  bool link_open = false;  // the phone book listens
+};
+
+}  // namespace quenda
