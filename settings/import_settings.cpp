@@ -1,189 +1,209 @@
 #include "settings/import_settings.h"
 
-#include <span>
+#include <algorithm>
+#include <array>
 
 #include "settings/modAPI_INI.h"
 #include "support/procedure.h"
-#include "text/text.h"
 
 namespace quenda {
 namespace {
 
-constexpr std::string_view kSuiteSettings;  // no name stands for the suite's main settings file
+/// What is read or written together.
+enum class Group { kGeneral, kPosition, kPage, kSelections, kHeader };
 
-struct NumberSetting {
+/// Where a group lies; no file name stands for the suite's main settings file.
+struct Home {
+  std::string_view file;
   std::string_view section;
-  std::string_view key;
-  std::int32_t standard;
-  std::int32_t min;
-  std::int32_t max;  // 0 for no bound
-  std::int32_t& (*field)(ImportSettings& settings);
 };
+constexpr Home home_of(Group group) {
+  if (group == Group::kGeneral) return {"", "General"};
+  return {kImportSettingsFile, group == Group::kPosition ? "Dimensions" : "Import"};
+}
 
-struct TextSetting {
+/// One remembered value: its key, the field that holds it, and what a number is bound to.
+struct Setting {
+  Group group;
   std::string_view key;
-  std::string_view standard;
-  std::string& (*field)(ImportSettings& settings);
+  std::int32_t& (*number)(ImportSettings& settings) = nullptr;
+  std::int32_t standard = 0;
+  std::int32_t min = 0;
+  std::int32_t max = 0;  // 0 for no bound
+  std::string& (*text)(ImportSettings& settings) = nullptr;
+  std::string_view text_standard = {};
+  bool keeps_text = false;    // the default is the text that the field has
+  bool only_written = false;  // never read back
 };
 
 template <auto Member>
 constexpr auto kField = [](ImportSettings& settings) -> auto& {
   return settings.*Member;
 };
-
+template <auto Member, std::size_t At>
+constexpr auto kElement = [](ImportSettings& settings) -> auto& {
+  return (settings.*Member)[At];
+};
+template <auto Member, std::size_t Row, std::size_t At>
+constexpr auto kCell = [](ImportSettings& settings) -> auto& {
+  return (settings.*Member)[Row][At];
+};
 template <std::size_t Row, std::size_t Box>
-constexpr auto kAddCheck = [](ImportSettings& settings) -> auto& {
-  return settings.add_check[Row][Box];
-};
+constexpr auto kAddCheck = kCell<&ImportSettings::add_check, Row, Box>;
+template <std::size_t Kind, std::size_t Slot>
+constexpr auto kColumn = kCell<&ImportSettings::selections, Kind, Slot>;
+template <std::size_t Box>
+constexpr auto kSuffix = kElement<&ImportSettings::name_ext, Box>;
+template <std::size_t Kind>
+constexpr auto kOutlookSuffix = kElement<&ImportSettings::ol_name_ext, Kind>;
 
-constexpr std::array kGeneralNumbers = {
-    NumberSetting{"General", "LogCount", 25, 10, 1000, kField<&ImportSettings::log_count>},
-    NumberSetting{"General", "BackupCount", 9, 0, 9, kField<&ImportSettings::backup_count>},
-};
-constexpr std::array kGeneralTexts = {
-    TextSetting{"myVWL", "49", kField<&ImportSettings::own_country_code>},
-    TextSetting{"myVWO", "", kField<&ImportSettings::own_area_code>},
-};
-constexpr std::array kPosition = {
-    NumberSetting{"Dimensions", "ImportTop", 500, 0, 0, kField<&ImportSettings::top>},
-    NumberSetting{"Dimensions", "ImportLeft", 500, 0, 0, kField<&ImportSettings::left>},
-};
-constexpr std::array kPageNumbers = {
-    NumberSetting{"Import", "Ask", 0, 0, 2, kField<&ImportSettings::ask>},
-    NumberSetting{"Import", "Len", 1, 0, 1, kField<&ImportSettings::min_name_length>},
-    NumberSetting{"Import", "OlNameFlip", 0, 0, 1, kField<&ImportSettings::ol_name_flip>},
-    NumberSetting{"Import", "OlAdrFlip", 0, 0, 1, kField<&ImportSettings::ol_address_flip>},
-};
-constexpr std::array kPageTexts = {
-    TextSetting{"OlNumber", "10010010000", kField<&ImportSettings::ol_number>},
-    TextSetting{"OlAdress", "10010000000000", kField<&ImportSettings::ol_adress>},
-};
-constexpr std::array kHeaderNumbers = {
-    NumberSetting{"Import", "NameFlip", 0, 0, 1, kField<&ImportSettings::name_flip>},
-    NumberSetting{"Import", "AdrFlip", 0, 0, 5, kField<&ImportSettings::address_flip>},
-    NumberSetting{"Import", "AddChk11", 0, 0, 1, kAddCheck<0, 0>},
-    NumberSetting{"Import", "AddChk12", 0, 0, 1, kAddCheck<0, 1>},
-    NumberSetting{"Import", "AddChk21", 0, 0, 1, kAddCheck<1, 0>},
-    NumberSetting{"Import", "AddChk22", 0, 0, 1, kAddCheck<1, 1>},
-    NumberSetting{"Import", "AddChk31", 0, 0, 1, kAddCheck<2, 0>},
-    NumberSetting{"Import", "AddChk32", 0, 0, 1, kAddCheck<2, 1>},
-};
-struct SelectionSetting {
-  std::string_view key;
-  std::size_t columns;  // numbered from 1
-};
-constexpr std::array<SelectionSetting, kRememberedKinds> kSelections = {
-    {{"SelNames", 2}, {"SelNumbers", 3}, {"SelAddress1", 3}, {"SelAddress2", 3}}};
-
-std::string numbered(std::string_view key, std::size_t position) {
-  return concat(key, std::to_string(position + 1));
+constexpr Setting number(Group group, std::string_view key, std::int32_t standard, std::int32_t min,
+                         std::int32_t max, std::int32_t& (*field)(ImportSettings&)) {
+  return {
+      .group = group, .key = key, .number = field, .standard = standard, .min = min, .max = max};
+}
+constexpr Setting text(Group group, std::string_view key, std::string_view standard,
+                       std::string& (*field)(ImportSettings&)) {
+  return {.group = group, .key = key, .text = field, .text_standard = standard};
+}
+constexpr Setting suffix(std::string_view key, std::string& (*field)(ImportSettings&)) {
+  return {.group = Group::kHeader, .key = key, .text = field, .keeps_text = true};
+}
+constexpr Setting outlook_suffix(std::string_view key, std::string& (*field)(ImportSettings&)) {
+  return {.group = Group::kPage, .key = key, .text = field, .only_written = true};
 }
 
-void load_numbers(modAPI_INI& ini, ImportSettings& settings, std::span<const NumberSetting> table,
-                  std::string_view file) {
-  for (const NumberSetting& entry : table) {
-    skip_faults({[&] {
-      // Both bounds 0 would mean no clamping at all to the reader.
-      const std::int32_t value =
-          ini.GetSettLng(entry.section, entry.key, entry.standard, 0, 0, false, file);
-      entry.field(settings) = ini.Range(entry.min, entry.max, value, false, entry.standard);
-    }});
+constexpr std::array kSettings = {
+    text(Group::kGeneral, "myVWL", "49", kField<&ImportSettings::own_country_code>),
+    text(Group::kGeneral, "myVWO", "", kField<&ImportSettings::own_area_code>),
+    number(Group::kGeneral, "LogCount", 25, 10, 1000, kField<&ImportSettings::log_count>),
+    number(Group::kGeneral, "BackupCount", 9, 0, 9, kField<&ImportSettings::backup_count>),
+
+    number(Group::kPosition, "ImportTop", 500, 0, 0, kField<&ImportSettings::top>),
+    number(Group::kPosition, "ImportLeft", 500, 0, 0, kField<&ImportSettings::left>),
+
+    number(Group::kPage, "Ask", 0, 0, 2, kField<&ImportSettings::ask>),
+    number(Group::kPage, "Len", 1, 0, 1, kField<&ImportSettings::min_name_length>),
+    number(Group::kPage, "OlNameFlip", 0, 0, 1, kField<&ImportSettings::ol_name_flip>),
+    number(Group::kPage, "OlAdrFlip", 0, 0, 1, kField<&ImportSettings::ol_address_flip>),
+    text(Group::kPage, "OlNumber", "10010010000", kField<&ImportSettings::ol_number>),
+    text(Group::kPage, "OlAdress", "10010000000000", kField<&ImportSettings::ol_adress>),
+    outlook_suffix("OLNameExt1", kOutlookSuffix<0>),
+    outlook_suffix("OLNameExt2", kOutlookSuffix<1>),
+    outlook_suffix("OLNameExt3", kOutlookSuffix<2>),
+    outlook_suffix("OLNameExt4", kOutlookSuffix<3>),
+    outlook_suffix("OLNameExt5", kOutlookSuffix<4>),
+    outlook_suffix("OLNameExt6", kOutlookSuffix<5>),
+    outlook_suffix("OLNameExt7", kOutlookSuffix<6>),
+    outlook_suffix("OLNameExt8", kOutlookSuffix<7>),
+    outlook_suffix("OLNameExt9", kOutlookSuffix<8>),
+    outlook_suffix("OLNameExt10", kOutlookSuffix<9>),
+    outlook_suffix("OLNameExt11", kOutlookSuffix<10>),
+
+    text(Group::kSelections, "SelNames1", "", kColumn<0, 0>),
+    text(Group::kSelections, "SelNames2", "", kColumn<0, 1>),
+    text(Group::kSelections, "SelNumbers1", "", kColumn<1, 0>),
+    text(Group::kSelections, "SelNumbers2", "", kColumn<1, 1>),
+    text(Group::kSelections, "SelNumbers3", "", kColumn<1, 2>),
+    text(Group::kSelections, "SelAddress11", "", kColumn<2, 0>),
+    text(Group::kSelections, "SelAddress12", "", kColumn<2, 1>),
+    text(Group::kSelections, "SelAddress13", "", kColumn<2, 2>),
+    text(Group::kSelections, "SelAddress21", "", kColumn<3, 0>),
+    text(Group::kSelections, "SelAddress22", "", kColumn<3, 1>),
+    text(Group::kSelections, "SelAddress23", "", kColumn<3, 2>),
+
+    number(Group::kHeader, "NameFlip", 0, 0, 1, kField<&ImportSettings::name_flip>),
+    number(Group::kHeader, "AdrFlip", 0, 0, 5, kField<&ImportSettings::address_flip>),
+    number(Group::kHeader, "AddChk11", 0, 0, 1, kAddCheck<0, 0>),
+    number(Group::kHeader, "AddChk12", 0, 0, 1, kAddCheck<0, 1>),
+    number(Group::kHeader, "AddChk21", 0, 0, 1, kAddCheck<1, 0>),
+    number(Group::kHeader, "AddChk22", 0, 0, 1, kAddCheck<1, 1>),
+    number(Group::kHeader, "AddChk31", 0, 0, 1, kAddCheck<2, 0>),
+    number(Group::kHeader, "AddChk32", 0, 0, 1, kAddCheck<2, 1>),
+    suffix("NameExt1", kSuffix<0>),
+    suffix("NameExt2", kSuffix<1>),
+    suffix("NameExt3", kSuffix<2>),
+};
+
+void load(modAPI_INI& ini, ImportSettings& settings, const Setting& entry) {
+  const Home home = home_of(entry.group);
+  if (entry.number != nullptr) {
+    // Both bounds 0 would mean no clamping at all to the reader.
+    const std::int32_t value =
+        ini.GetSettLng(home.section, entry.key, entry.standard, 0, 0, false, home.file);
+    entry.number(settings) = ini.Range(entry.min, entry.max, value, false, entry.standard);
+    return;
+  }
+  std::string& field = entry.text(settings);
+  const std::string standard = entry.keeps_text ? field : std::string(entry.text_standard);
+  field = ini.GetSettStr(home.section, entry.key, standard, home.file, false, false);
+}
+
+void load(modAPI_INI& ini, ImportSettings& settings, Group group) {
+  for (const Setting& entry : kSettings) {
+    if (entry.group != group || entry.only_written) continue;
+    skip_faults({[&] { load(ini, settings, entry); }});
   }
 }
 
-void save_numbers(modAPI_INI& ini, const ImportSettings& settings,
-                  std::span<const NumberSetting> table) {
+void save(modAPI_INI& ini, const ImportSettings& settings, Group group) {
   ImportSettings copy = settings;
-  for (const NumberSetting& entry : table) {
-    ini.SetSettStr(entry.section, entry.key, std::to_string(entry.field(copy)),
-                   kImportSettingsFile);
+  const Home home = home_of(group);
+  for (const Setting& entry : kSettings) {
+    if (entry.group != group) continue;
+    const std::string value =
+        entry.number != nullptr ? std::to_string(entry.number(copy)) : entry.text(copy);
+    ini.SetSettStr(home.section, entry.key, value, home.file);
   }
-}
-
-void load_texts(modAPI_INI& ini, ImportSettings& settings, std::span<const TextSetting> table,
-                std::string_view section, std::string_view file) {
-  for (const TextSetting& entry : table) {
-    skip_faults({[&] {
-      entry.field(settings) =
-          ini.GetSettStr(section, entry.key, entry.standard, file, false, false);
-    }});
-  }
-}
-
-std::string load_import_text(modAPI_INI& ini, std::string_view key, std::string_view standard) {
-  return ini.GetSettStr("Import", key, standard, kImportSettingsFile, false, false);
-}
-
-void save_import_text(modAPI_INI& ini, std::string_view key, std::string_view value) {
-  ini.SetSettStr("Import", key, value, kImportSettingsFile);
 }
 
 }  // namespace
 
 void load_general_values(modAPI_INI& ini, ImportSettings& settings) {
-  load_texts(ini, settings, kGeneralTexts, "General", kSuiteSettings);
-  load_numbers(ini, settings, kGeneralNumbers, kSuiteSettings);
+  load(ini, settings, Group::kGeneral);
 }
 
 void load_window_position(modAPI_INI& ini, ImportSettings& settings) {
-  load_numbers(ini, settings, kPosition, kImportSettingsFile);
+  load(ini, settings, Group::kPosition);
 }
 
 void load_page_options(modAPI_INI& ini, ImportSettings& settings) {
-  load_numbers(ini, settings, kPageNumbers, kImportSettingsFile);
-  load_texts(ini, settings, kPageTexts, "Import", kImportSettingsFile);
+  load(ini, settings, Group::kPage);
 }
 
 void load_selections(modAPI_INI& ini, ImportSettings& settings) {
+  load(ini, settings, Group::kSelections);
   for (std::size_t kind = 0; kind < kRememberedKinds; ++kind) {
     settings.selection_counts[kind] = 0;
-    for (std::size_t i = 0; i < kSelections[kind].columns; ++i) {
-      skip_faults({[&] {
-        std::string& text = settings.selections[kind][i];
-        text = load_import_text(ini, numbered(kSelections[kind].key, i), "");
-        if (!text.empty()) ++settings.selection_counts[kind];
-      }});
+    for (const std::string& column : settings.selections[kind]) {
+      if (!column.empty()) ++settings.selection_counts[kind];
     }
   }
 }
 
 void load_header_options(modAPI_INI& ini, ImportSettings& settings) {
-  load_numbers(ini, settings, kHeaderNumbers, kImportSettingsFile);
-  for (std::size_t i = 0; i < settings.name_ext.size(); ++i) {
-    skip_faults({[&] {
-      settings.name_ext[i] = load_import_text(ini, numbered("NameExt", i), settings.name_ext[i]);
-    }});
-  }
+  load(ini, settings, Group::kHeader);
 }
 
 void save_window_position(modAPI_INI& ini, const ImportSettings& settings) {
-  save_numbers(ini, settings, kPosition);
+  save(ini, settings, Group::kPosition);
 }
 
 void save_page_options(modAPI_INI& ini, const ImportSettings& settings) {
-  save_numbers(ini, settings, kPageNumbers);
-  save_import_text(ini, "OlNumber", settings.ol_number);
-  save_import_text(ini, "OlAdress", settings.ol_adress);
-  for (std::size_t i = 0; i < settings.ol_name_ext.size(); ++i) {
-    save_import_text(ini, numbered("OLNameExt", i), settings.ol_name_ext[i]);
-  }
+  save(ini, settings, Group::kPage);
 }
 
 void save_selections(modAPI_INI& ini, const ImportSettings& settings) {
+  ImportSettings counted = settings;
   for (std::size_t kind = 0; kind < kRememberedKinds; ++kind) {
-    const auto count = static_cast<std::size_t>(settings.selection_counts[kind]);
-    for (std::size_t i = 0; i < kSelections[kind].columns; ++i) {
-      save_import_text(ini, numbered(kSelections[kind].key, i),
-                       i < count ? settings.selections[kind][i] : std::string());
-    }
+    auto& columns = counted.selections[kind];
+    std::fill(columns.begin() + settings.selection_counts[kind], columns.end(), std::string());
   }
+  save(ini, counted, Group::kSelections);
 }
 
 void save_header_options(modAPI_INI& ini, const ImportSettings& settings) {
-  save_numbers(ini, settings, kHeaderNumbers);
-  for (std::size_t i = 0; i < settings.name_ext.size(); ++i) {
-    save_import_text(ini, numbered("NameExt", i), settings.name_ext[i]);
-  }
+  save(ini, settings, Group::kHeader);
 }
 
 }  // namespace quenda
