@@ -48,6 +48,7 @@ class fMain : public WizardShell,
   void cmdCancel_Click();
   void LoadWindowPosition();
   void LoadPageOptions();
+  void LoadSelections();
   void LoadHeaderOptions();
   void SaveWindowPosition();
   void SaveSelections();
@@ -62,7 +63,7 @@ class fMain : public WizardShell,
   [[nodiscard]] bool Scramble();
   [[nodiscard]] bool PreviewEntries();
   [[nodiscard]] bool ISpyImport();
-  void ListUpdate();
+  [[nodiscard]] bool ListUpdate();
   void Add();
 
   LineEnd book_line_end = LineEnd::kCrLf;  // of the book that was read last

@@ -6,40 +6,56 @@
 namespace quenda {
 
 void fMain::LoadWindowPosition() {
-  load_window_position(app_.ini, app_.settings);
-  Place at = place();
-  at.left = app_.settings.left;
-  at.top = app_.settings.top;
-  set_place(at);
+  procedure(app_.errors, "fMain.LoadWindowPosition", {}, [&] {
+    load_window_position(app_.ini, app_.settings);
+    Place at = place();
+    at.left = app_.settings.left;
+    at.top = app_.settings.top;
+    set_place(at);
+  }).or_go_on();
 }
 
 void fMain::LoadPageOptions() {
-  load_page_options(app_.ini, app_.settings);
-  EntryPage::load(app_.settings);
-  SourcePage::load(app_.settings);
-  OutlookPage::load(app_.settings);
+  procedure(app_.errors, "fMain.LoadPageOptions", {}, [&] {
+    load_page_options(app_.ini, app_.settings);
+    EntryPage::load(app_.settings);
+    SourcePage::load(app_.settings);
+    OutlookPage::load(app_.settings);
+  }).or_go_on();
+}
+
+void fMain::LoadSelections() {
+  procedure(app_.errors, "fMain.LoadSelections", {}, [&] {
+    load_selections(app_.ini, app_.settings);
+  }).or_go_on();
 }
 
 void fMain::LoadHeaderOptions() {
-  NamePage::offer_suffixes(app_.settings);
-  load_header_options(app_.ini, app_.settings);
-  wizard.loading = true;
-  NamePage::load(app_.settings);
-  AddressPage::load(app_.settings);
-  wizard.loading = false;
+  procedure(app_.errors, "fMain.LoadHeaderOptions", {}, [&] {
+    NamePage::offer_suffixes(app_.settings);
+    load_header_options(app_.ini, app_.settings);
+    wizard.loading = true;
+    NamePage::load(app_.settings);
+    AddressPage::load(app_.settings);
+    wizard.loading = false;
+  }).or_go_on();
 }
 
 void fMain::SaveWindowPosition() {
-  skip_faults({[&] {
-    app_.settings.left = place().left;
-    app_.settings.top = place().top;
-    save_window_position(app_.ini, app_.settings);
-  }});
+  procedure(app_.errors, "fMain.SaveWindowPosition", {}, [&] {
+    skip_faults({[&] {
+      app_.settings.left = place().left;
+      app_.settings.top = place().top;
+      save_window_position(app_.ini, app_.settings);
+    }});
+  }).or_go_on();
 }
 
 void fMain::SaveSelections() {
-  ColumnPage::save(app_.settings);
-  save_selections(app_.ini, app_.settings);
+  procedure(app_.errors, "fMain.SaveSelections", {}, [&] {
+    ColumnPage::save(app_.settings);
+    save_selections(app_.ini, app_.settings);
+  }).or_go_on();
 }
 
 void fMain::SaveOptions(bool delimited_file) {

@@ -44,14 +44,14 @@ void fMain::connect() {
 void fMain::Form_Load() {
   if (!app_.start()) throw EndProgram();
   procedure(app_.errors, "fMain.Form_Load", {}, [&] {
-    set_caption(concat("Quenda - ", app_.environment.program_code, " v", app_.version()));
+    set_caption(concat(caption(), " v", app_.version()));
     wizard.loading = true;
     Language();
     load_general_values(app_.ini, app_.settings);
     app_.language.log_maximum = app_.settings.log_count;
     LoadWindowPosition();
     LoadPageOptions();
-    load_selections(app_.ini, app_.settings);
+    LoadSelections();
     wizard.loading = false;
     clear_panels();
     wizard.CurrentPage = Page::kSource;
@@ -59,8 +59,8 @@ void fMain::Form_Load() {
     refresh_buttons();
     open_choice(true);
     cmbLimiter.set_items({"Semikolon", "Komma", "Tabulator"});
-    txtStateCode.set_text(concat("00", app_.settings.own_country_code));
-    txtOVW.set_text(concat("0", app_.settings.own_area_code));
+    txtStateCode.set_text(app_.settings.dialled_country_code());
+    txtOVW.set_text(app_.settings.dialled_area_code());
     start_outlook_search();
     entries_.clear();
     app_.machine.host_link.offer(

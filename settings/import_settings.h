@@ -25,6 +25,9 @@ struct ImportSettings {
   // The suite's general settings; read only.
   std::string own_country_code = "49";
   std::string own_area_code;
+  /// As they are dialled: "0049" and "030".
+  [[nodiscard]] std::string dialled_country_code() const { return "00" + own_country_code; }
+  [[nodiscard]] std::string dialled_area_code() const { return "0" + own_area_code; }
   std::int32_t log_count = 25;
   std::int32_t backup_count = 9;
 

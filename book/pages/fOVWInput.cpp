@@ -16,33 +16,33 @@ constexpr DesignRow<fOVWInput> kDesign[] = {
      .place = {240, 180, 6240, 510},
      .caption = "Import_Label_ImportRequiredCodes"},
     {.control = control_at<&fOVWInput::labWithoutAreaCode>,
-     .place = {240, 720, 6240, 510},
+     .place = {240, 180, 6240, 510},
      .caption = "Import_Label_SettingsWithoutAreaCode"},
     {.control = control_at<&fOVWInput::labOwnArea>,
-     .place = {240, 1320, 6240, 255},
+     .place = {240, 780, 6240, 255},
      .caption = "Import_Label_OwnArea"},
     {.control = control_at<&fOVWInput::labLVW>,
-     .place = {240, 1725, 2000, 255},
+     .place = {240, 1185, 2000, 255},
      .tab = 0,
      .caption = "Settings_Label_CountryCode"},
-    {.control = control_at<&fOVWInput::txtLVW>, .place = {2340, 1680, 1300, 345}, .tab = 1},
+    {.control = control_at<&fOVWInput::txtLVW>, .place = {2340, 1140, 1300, 345}, .tab = 1},
     {.control = control_at<&fOVWInput::labFormatLVW>,
-     .place = {3780, 1725, 2700, 255},
+     .place = {3780, 1185, 2700, 255},
      .caption = "Import_Label_FormatCountryCode"},
     {.control = control_at<&fOVWInput::labOVW>,
-     .place = {240, 2205, 2000, 255},
+     .place = {240, 1665, 2000, 255},
      .tab = 2,
      .caption = "Import_Label_MissingAreaCode1"},
-    {.control = control_at<&fOVWInput::txtOVW>, .place = {2340, 2160, 1300, 345}, .tab = 3},
+    {.control = control_at<&fOVWInput::txtOVW>, .place = {2340, 1620, 1300, 345}, .tab = 3},
     {.control = control_at<&fOVWInput::labFormatOVW>,
-     .place = {3780, 2205, 2700, 255},
+     .place = {3780, 1665, 2700, 255},
      .caption = "Import_Label_FormatAreaCode"},
     {.control = control_at<&fOVWInput::cmdHelp>,
-     .place = {240, 2760, 1400, 390},
+     .place = {240, 2220, 1400, 390},
      .tab = 5,
      .caption = "Button_Help"},
     {.control = control_at<&fOVWInput::cmdOK>,
-     .place = {4880, 2760, 1600, 390},
+     .place = {4880, 2220, 1600, 390},
      .tab = 4,
      .caption = "Button_Resume"},
 };
@@ -57,7 +57,7 @@ fOVWInput::fOVWInput(App& app) : Form("fOVWInput"), app_(app) {
 
 void fOVWInput::design() {
   apply_design(*this, kDesign);
-  set_place({0, 0, 6720, 3330});
+  set_place({0, 0, 6720, 2790});
   default_button = &cmdOK;
 }
 
@@ -77,13 +77,13 @@ void fOVWInput::Form_Load() {
   procedure(app_.errors, "fOVWInput.Form_Load", {}, [&] {
     Language();
     const ImportSettings& settings = app_.settings;
-    txtLVW.set_text(concat("00", settings.own_country_code));
-    txtOVW.set_text(concat("0", settings.own_area_code));
-    // One of the two says why the codes are asked for: the suite has none, or those typed on the
-    // page before are not complete.
+    txtLVW.set_text(settings.dialled_country_code());
+    txtOVW.set_text(settings.dialled_area_code());
+    // Both stand in one place. Which one is shown says why the codes are asked for: the suite has
+    // no area code, or those on the page before are not complete.
     const bool no_area_code = settings.own_area_code.empty();
     labWithoutAreaCode.set_visible(no_area_code);
-    labRequired.set_visible(true);
+    labRequired.set_visible(!no_area_code);
     enable_ok();
   }).or_go_on();
 }

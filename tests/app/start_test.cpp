@@ -3,8 +3,11 @@
 #include <map>
 #include <string>
 
+#include "app/program.h"
 #include "tests/shared/wizard_fixture.h"
+#include "text/fault.h"
 #include "text/literal_1252.h"
+#include "text/text.h"
 
 // Start, host link, shutdown, and the controls that belong to no page.
 namespace quenda {
@@ -99,6 +102,19 @@ TEST_F(Start, ClosingSavesThePositionAndTellsTheHost) {
             "[Dimensions]\r\nImportTop=900\r\nImportLeft=1200\r\n");
 }
 
+TEST_F(Start, AFaultThatNoProcedureCaughtEndsTheProgramInOrder) {
+  app = std::make_unique<App>(machine.services);
+  form = std::make_unique<fMain>(*app);
+  const auto loop = [&] {
+    form->Form_LinkOpen();
+    raise_fault(kFaultInvalidCall);
+  };
+  EXPECT_THROW(run_program(*app, *form, loop), EndProgram);
+  EXPECT_EQ(last_box(), "Es ist ein Fehler aufgetreten!\r\nsiehe Datei: \\log\\error.log");
+  EXPECT_EQ(machine.host_link.texts, (Texts{"ON", "cancel"}));
+  EXPECT_FALSE(form->loaded());
+}
+
 TEST_F(Start, CaptionsComeFromTheLanguageFile) {
   machine.files.put("C:\\Quenda\\data\\Quenda.ini", "[General]\r\nLanguage=en\r\nmyVWO=30\r\n");
   machine.files.put("C:\\Quenda\\base\\language_en.ini",
@@ -157,6 +173,9 @@ TEST_F(Start, TraceNamesEveryProcedure) {
   EXPECT_NE(trace.find("2014/03/02  17:05:09  IMP v1.17  fMain.Form_Load 01\r\n"),
             std::string::npos);
   EXPECT_NE(trace.find("fMain.ShowSite 01(B:0)\r\n"), std::string::npos);
+  for (const auto* name : {"LoadWindowPosition", "LoadPageOptions", "LoadSelections"}) {
+    EXPECT_NE(trace.find(concat("fMain.", name, " 01\r\n")), std::string::npos) << name;
+  }
 }
 
 }  // namespace

@@ -117,6 +117,7 @@ constexpr DesignRow<WizardShell> kDesign[] = {
 
 void WizardShell::design() {
   apply_design(*this, kDesign);
+  set_caption("Quenda - Import");
   const Place& cancel = cmdCancel.place();
   set_place({500, 500, 0, cancel.top + cancel.height + StatusBar.place().height + 60});
   set_outer_width(kWindowWidth);
