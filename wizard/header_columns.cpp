@@ -6,19 +6,23 @@
 
 namespace quenda {
 
-SelectionMatch match_selection(const std::vector<std::string>& header, SelectionTable saved) {
+SelectionMatch match_selection(const std::vector<std::string>& header,
+                               const std::vector<std::string>& stored, SelectionTable saved) {
   SelectionMatch match;
   for (std::size_t kind = 0; kind < kHeaderKinds; ++kind) {
     auto& slots = saved[kind];
-    for (std::size_t i = 0; i < header.size(); ++i) {
-      for (std::string& slot : slots) {
-        if (slot.empty() || slot != header[i]) continue;
-        slot.clear();
-        auto& positions = match.positions[kind];
-        const int position = static_cast<int>(i);
-        if (positions.empty() || positions.back() != position) positions.push_back(position);
+    auto& positions = match.positions[kind];
+    for (const auto* texts : {&header, &stored}) {
+      for (std::size_t i = 0; i < texts->size(); ++i) {
+        for (std::string& slot : slots) {
+          if (slot.empty() || slot != (*texts)[i]) continue;
+          slot.clear();
+          positions.push_back(static_cast<int>(i));
+        }
       }
     }
+    std::sort(positions.begin(), positions.end());
+    positions.erase(std::unique(positions.begin(), positions.end()), positions.end());
     match.unmatched[kind] = std::any_of(slots.begin(), slots.end(),
                                         [](const std::string& slot) { return !slot.empty(); });
   }

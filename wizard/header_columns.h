@@ -32,8 +32,11 @@ struct SelectionMatch {
 };
 
 /// Looks for the saved texts in a header. A text is used up by the first column that carries it,
-/// also when it was saved twice: of two columns of one name only the first is selected.
-SelectionMatch match_selection(const std::vector<std::string>& header, SelectionTable saved);
+/// also when it was saved twice: of two columns of one name only the first is selected. Settings
+/// lose blanks and a pair of quotes around a text: what no column carries as it is, is looked for
+/// among the header's texts as `stored` gives them back.
+SelectionMatch match_selection(const std::vector<std::string>& header,
+                               const std::vector<std::string>& stored, SelectionTable saved);
 
 /// Texts that name the areas to check.
 struct AreaNames {

@@ -63,6 +63,10 @@ std::int32_t whole_number(std::string_view text) {
 
 }  // namespace
 
+std::string as_ini_gives_back(std::string_view value) {
+  return std::string(handed_out(without_ini_blanks(value), kLongestValue));
+}
+
 IniText::IniText(std::string_view content) {
   const IniEncoding encoding = ini_encoding(content);
   text_ = from_editable(editable_ini(content, encoding), encoding);

@@ -51,6 +51,10 @@ class IniText {
   std::vector<Value> values_;
 };
 
+/// What is read when this value was written: without blanks around it, then without one pair of
+/// quotes, 2047 characters at most.
+std::string as_ini_gives_back(std::string_view value);
+
 /// The content of a file with a key set to a value; section and key are added when they are
 /// missing. All other lines, and the encoding of the file, stay as they are.
 std::string replace_ini_value(std::string_view content, std::string_view section,

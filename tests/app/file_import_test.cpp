@@ -208,6 +208,40 @@ TEST_F(FileImport, SavedColumnsThatAreMissingAreNamed) {
   EXPECT_EQ(form->lstHeader(3).selected_count(), 1);
 }
 
+TEST_F(FileImport, ColumnsWhoseHeaderHasBlanksOrQuotesAroundItAreFoundAgain) {
+  constexpr std::string_view kSpaced =
+      "Name; Tel;'Mobil';Mobil\r\nMeier;0301234567;01701234567;\r\n";
+  start();
+  take_file(kSpaced);
+  forward();
+  select(0, {"Name"});
+  select(1, {" Tel", "'Mobil'"});
+  for (int i = 0; i < 3; ++i) forward();
+  finish();
+  start();
+  take_file(kSpaced);
+  forward();
+  EXPECT_TRUE(machine.dialogs.boxes.empty()) << last_box();
+  EXPECT_EQ(form->lstHeader(1).selected_positions(), (std::vector<int>{1, 3}))
+      << "a text that is there as it stands wins";
+}
+
+TEST_F(FileImport, AnUnnamedColumnCountsAsAPartOfTheAddress) {
+  start();
+  take_file("Name;Tel;;PLZ;Ort\r\nMeier;0301234567;Weg 1;12345;Berlin\r\n");
+  forward();
+  select(0, {"Name"});
+  select(1, {"Tel"});
+  select(2, {"", "PLZ", "Ort"});
+  forward();
+  forward();
+  EXPECT_EQ(form->cmbFlipAdress.items()[0], "/PLZ/Ort");
+  form->cmbFlipAdress.take_user_index(2);
+  form->chk1(0).take_user_click();
+  forward();
+  EXPECT_EQ(rows(), Texts{"Meier|0301234567|12345 Berlin Weg 1"});
+}
+
 TEST_F(FileImport, AddressListsTakeThreeColumns) {
   start();
   take_file(kContacts);

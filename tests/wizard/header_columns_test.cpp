@@ -16,7 +16,7 @@ TEST(MatchSelection, SelectsSavedColumnsInTheOrderOfTheFile) {
   SelectionTable saved;
   saved[kNames] = {"Vorname", "Nachname", ""};
   saved[kNumbers] = {"Mobil", "", ""};
-  const auto match = match_selection(Header{"Nachname", "Mobil", "Vorname"}, saved);
+  const auto match = match_selection(Header{"Nachname", "Mobil", "Vorname"}, {}, saved);
   EXPECT_EQ(match.positions[kNames], (Positions{0, 2}));
   EXPECT_EQ(match.positions[kNumbers], Positions{1});
   EXPECT_TRUE(areas_to_check(match.unmatched, kAreas).empty());
@@ -25,7 +25,7 @@ TEST(MatchSelection, SelectsSavedColumnsInTheOrderOfTheFile) {
 TEST(MatchSelection, ComparesExactlyAndTakesTheFirstOfEqualColumns) {
   SelectionTable saved;
   saved[kNumbers] = {"Tel", "Tel", "tel"};
-  const auto match = match_selection(Header{"Tel", "Tel"}, saved);
+  const auto match = match_selection(Header{"Tel", "Tel"}, {}, saved);
   EXPECT_EQ(match.positions[kNumbers], Positions{0});
   EXPECT_TRUE(match.unmatched[kNumbers]);
 }

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "settings/app.h"
+#include "settings/ini/ini_text.h"
 #include "sources/delimited_text.h"
 #include "support/procedure.h"
 #include "text/text.h"
@@ -90,7 +91,9 @@ void ColumnPage::fill_header_lists(const std::vector<std::string>& header) {
 
 void ColumnPage::select_saved_columns(const std::vector<std::string>& header) {
   const MainTexts& texts = shell_.texts;
-  const SelectionMatch match = match_selection(header, app_.settings.selections);
+  std::vector<std::string> stored;
+  for (const std::string& text : header) stored.push_back(as_ini_gives_back(text));
+  const SelectionMatch match = match_selection(header, stored, app_.settings.selections);
   for (std::size_t kind = 0; kind < kHeaderKinds; ++kind) {
     ListBox& list = lstHeader(static_cast<int>(kind));
     for (const int position : match.positions[kind]) list.set_selected(position, true);
