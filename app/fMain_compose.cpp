@@ -22,7 +22,8 @@ Composition fMain::composition() const {
 }
 
 bool fMain::Scramble() {
-  return procedure(app_.errors, "fMain.Scramble", {}, [&] {
+  bool listed = false;
+  const bool came_through = procedure(app_.errors, "fMain.Scramble", {}, [&] {
     const BusyWork busy(*this);
     StatusBar.set_panel(2, texts["Import_Info_DataSetClean"]);
     lstImpFinal.clear();
@@ -37,9 +38,10 @@ bool fMain::Scramble() {
     }
     StatusBar.set_panel(2, texts["Import_Info_EraseMultible"]);
     remove_repeated_lines(entries_, [this] { answer_events(); });
-    ListUpdate();
+    listed = ListUpdate();
     StatusBar.set_panel(2, "");
   });
+  return came_through && listed;
 }
 
 }  // namespace quenda

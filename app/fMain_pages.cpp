@@ -7,9 +7,17 @@
 
 // From page to page: "Weiter", "Zurück", and the work that a step brings with it.
 namespace quenda {
+namespace {
+
+/// What a composition that failed half way left is not the import.
+Composed outcome_of(bool came_through) {
+  return came_through ? Composed::kEntries : Composed::kFailed;
+}
+
+}  // namespace
 
 void fMain::cmdFor_Click() {
-  procedure(app_.errors, "fMain.cmdFor_Click", {}, [&] {
+  const bool came_through = procedure(app_.errors, "fMain.cmdFor_Click", {}, [&] {
     PicProgress.set_visible(false);
     PicProgress.set_percent(0);
     begin_step();
@@ -18,7 +26,9 @@ void fMain::cmdFor_Click() {
     wizard.CurrentPage = next.page;
     if (next.page != Page::kWrite) ShowSite();
     run_page_work(next.work);
-  }).or_go_on();
+  });
+  // A step that failed leaves the way on closed, also where it had been opened before its work.
+  if (!came_through) begin_step();
 }
 
 void fMain::clean_file() {
@@ -37,8 +47,9 @@ void fMain::run_page_work(PageWork work) {
     case PageWork::kNone:
       break;
     case PageWork::kIspyLog:
+      expect_entries();
       StatusBar.set_panel(2, texts["Import_Info_DataSetClean"]);
-      show_composed(ISpyImport() ? Composed::kEntries : Composed::kFailed);
+      show_composed(outcome_of(ISpyImport()));
       StatusBar.set_panel(2, "");
       break;
     case PageWork::kColumns:
@@ -47,8 +58,8 @@ void fMain::run_page_work(PageWork work) {
       ImpHeader();
       break;
     case PageWork::kOutlook:
-      CheckAreaCode();
-      show_composed(PreviewEntries() ? Composed::kEntries : Composed::kFailed);
+      expect_entries();
+      show_composed(outcome_of(CheckAreaCode() && PreviewEntries()));
       StatusBar.set_panel(2, "");
       break;
     case PageWork::kNames:
@@ -64,26 +75,33 @@ void fMain::run_page_work(PageWork work) {
     case PageWork::kWrite:
       SaveOptions(source.kind() == Source::kFile);
       Add();
+      // Only after a failure the wizard is still here.
+      StatusBar.set_panel(2, "");
       break;
   }
   refresh_buttons();
 }
 
 void fMain::enter_file_entries() {
-  CheckAreaCode();
+  lstImpFinal.clear();
+  if (!CheckAreaCode()) return show_composed(Composed::kFailed);
   const RecordTable& records = source.ImportRows;
   const bool has_data =
       records.size() > 1 ||
       (records.size() == 1 && records[0].find_first_not_of(';') != std::string_view::npos);
-  // A composition that failed half way leaves "forward" disabled: what it left is not the import.
-  show_composed(!has_data    ? Composed::kNothing
-                : Scramble() ? Composed::kEntries
-                             : Composed::kFailed);
+  show_composed(has_data ? outcome_of(Scramble()) : Composed::kNothing);
 }
 
 void fMain::cmdBack_Click() {
   procedure(app_.errors, "fMain.cmdBack_Click", {}, [&] {
     PicProgress.set_percent(0);
+    if (wizard.CurrentPage == Page::kWrite) {
+      // The book could not be written: the entries are still there, whatever they came from.
+      wizard.CurrentPage = Page::kEntries;
+      ShowSite();
+      refresh_buttons();
+      return;
+    }
     switch (source.kind()) {
       case Source::kFile:
         wizard.CurrentPage = page_before(wizard.CurrentPage);

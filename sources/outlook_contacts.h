@@ -83,7 +83,10 @@ struct OutlookChoice {
 /// Whether a number kind offers both addresses.
 constexpr bool has_two_addresses(std::size_t kind) { return kind == 7 || kind == 8 || kind == 11; }
 
-/// The preview: one row (name, number, address) per contact and ticked number kind that the contact
+/// Columns of the preview.
+enum PreviewColumn : std::size_t { kPreviewName, kPreviewNumber, kPreviewAddress };
+
+/// The preview: one row per contact and ticked number kind that the contact
 /// has a number of.
 FlatTable preview_rows(const ContactTable& contacts, const OutlookChoice& choice);
 

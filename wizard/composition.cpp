@@ -51,13 +51,6 @@ std::string compose_name(std::string_view first, std::string_view second, bool f
   return name;
 }
 
-std::string compose_address(const std::array<std::string_view, 3>& parts,
-                            const AddressOrder& order) {
-  std::string address;
-  append_parts(address, parts, order);
-  return std::string(trim(address));
-}
-
 const std::vector<AddressOrder>& address_orders(std::size_t parts) {
   static const std::vector<std::vector<AddressOrder>> orders = {
       {},

@@ -27,7 +27,7 @@ struct ColumnChoice {
 };
 
 /// The parts of an address in the order in which they are joined, as positions from 0; empty where
-/// no address has any part.
+/// no address has any part. An order of one takes the first part alone.
 using AddressOrder = std::vector<std::size_t>;
 
 /// Everything that the pages of the wizard settle about the entries.
@@ -42,11 +42,6 @@ struct Composition {
 /// Two name parts with a blank between; flipped, the second comes first. The blank stays when a
 /// part is empty.
 std::string compose_name(std::string_view first, std::string_view second, bool flip);
-
-/// The parts in the given order, joined with blanks and trimmed; a blank stays for a part that is
-/// empty between others. An order of one entry takes the first part alone.
-std::string compose_address(const std::array<std::string_view, 3>& parts,
-                            const AddressOrder& order);
 
 /// The possible orders of so many address parts, in the order of the list that offers them: none
 /// for no parts, six for three and more.

@@ -84,7 +84,8 @@ void declare(CLI::App& cli, Typed& typed, BatchOptions& options) {
       ->option_text("K=TEXT");
   cli.add_option("--existing", typed.existing, "Nummer steht schon im Telefonbuch")
       ->option_text("ask|new|keep");
-  cli.add_option("--min-name", typed.min_name, "Namen unter 3 Zeichen weglassen")
+  cli.add_option("--min-name", typed.min_name,
+                 "Namen unter 3 Zeichen weglassen (Datei und Outlook)")
       ->option_text("yes|no");
   cli.add_option("--country", typed.country, "Eigene Landesvorwahl, z. B. 0049")
       ->option_text("VORWAHL");

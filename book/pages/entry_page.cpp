@@ -123,6 +123,12 @@ void EntryPage::save(ImportSettings& settings) const {
   }
 }
 
+void EntryPage::expect_entries() {
+  lstImpFinal.clear();
+  composed_ = Composed::kEntries;
+  shell_.refresh_buttons();
+}
+
 void EntryPage::show_composed(Composed composed) {
   composed_ = composed;
   cmdDel.set_enabled(can_go_on() && lstImpFinal.count() > 0);
@@ -150,16 +156,18 @@ std::string EntryPage::AddVW(std::string_view number) {
   return completed;
 }
 
-void EntryPage::CheckAreaCode() {
-  if (own_codes_complete(txtStateCode.text(), txtOVW.text())) return;
-  do {
-    fOVWInput dialog(app_);
-    app_.machine.events.show_modal(dialog, shell_);
-    if (shell_.wizard.abort) throw EndProgram();
-    if (!dialog.answer) continue;
-    txtOVW.set_text(dialog.answer->area);
-    txtStateCode.set_text(dialog.answer->country);
-  } while (!own_codes_acceptable(txtStateCode.text(), txtOVW.text()));
+bool EntryPage::CheckAreaCode() {
+  return procedure(app_.errors, "fMain.CheckAreaCode", {}, [&] {
+    if (own_codes_complete(txtStateCode.text(), txtOVW.text())) return;
+    do {
+      fOVWInput dialog(app_);
+      app_.machine.events.show_modal(dialog, shell_);
+      if (shell_.wizard.abort) throw EndProgram();
+      if (!dialog.answer) continue;
+      txtOVW.set_text(dialog.answer->area);
+      txtStateCode.set_text(dialog.answer->country);
+    } while (!own_codes_acceptable(txtStateCode.text(), txtOVW.text()));
+  });
 }
 
 void EntryPage::lstImpFinal_DblClick() {

@@ -33,6 +33,9 @@ class EntryPage : public WizardPage {
   void load(const ImportSettings& settings);
   void save(ImportSettings& settings) const;
 
+  /// Entries are about to be composed from a source that can be imported: the way on is open before
+  /// they are there. Nothing of an earlier source stays.
+  void expect_entries();
   /// Shows what a composition gave. One that failed half way gives nothing to import; one that came
   /// through and found nothing can be finished.
   void show_composed(Composed composed);
@@ -40,8 +43,8 @@ class EntryPage : public WizardPage {
 
   std::string fCleanNumbers(std::string_view number);
   std::string AddVW(std::string_view number);
-  /// Asks for the own codes until they are good enough.
-  void CheckAreaCode();
+  /// Asks for the own codes until they are good enough. False after a fault.
+  [[nodiscard]] bool CheckAreaCode();
   void lstImpFinal_DblClick();
   void lstImpFinal_KeyDown(std::int16_t code);
   void cmdEditItems_Click();

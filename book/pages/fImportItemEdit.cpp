@@ -5,6 +5,7 @@
 #include "text/characters.h"
 #include "text/text.h"
 #include "wizard/shell/design.h"
+#include "wizard/shell/help.h"
 
 namespace quenda {
 namespace {
@@ -35,6 +36,10 @@ constexpr DesignRow<fImportItemEdit> kDesign[] = {
      .place = {4600, 1680, 1400, 390},
      .tab = 7,
      .caption = "Button_Cancel"},
+    {.control = control_at<&fImportItemEdit::cmdHelp>,
+     .place = {180, 1680, 1400, 390},
+     .tab = 8,
+     .caption = "Button_Help"},
 };
 
 }  // namespace
@@ -70,6 +75,8 @@ void fImportItemEdit::connect() {
   // partly unselected.
   txtNumber.on_got_focus = [this, size_of] { txtNumber.select(0, size_of(txtName)); };
   on_unload = [this] { Form_Unload(); };
+  cmdHelp.on_click = [this] { cmdHelp_Click(); };
+  on_help = cmdHelp.on_click;
   on_got_focus = [this] { txtName.set_focus(); };
 }
 
@@ -104,6 +111,10 @@ void fImportItemEdit::cmdEdit_Click(int index) {
     }
     unload();
   }).or_go_on();
+}
+
+void fImportItemEdit::cmdHelp_Click() {
+  procedure(app_.errors, "fImportItemEdit.cmdHelp_Click", {}, [&] { open_help(app_); }).or_go_on();
 }
 
 }  // namespace quenda

@@ -38,6 +38,7 @@ class fImportItemEdit : public Form {
   void Language();
   /// Button 0 saves the entry into `answer`; every button closes the dialog.
   void cmdEdit_Click(int index);
+  void cmdHelp_Click();
 
   Label labName{*this, "labName"};
   TextBox txtName{*this, "txtName"};
@@ -46,6 +47,7 @@ class fImportItemEdit : public Form {
   Label labAdress{*this, "labAdress"};
   TextBox txtAdress{*this, "txtAdress"};
   ControlArray<Button> cmdEdit{*this, "cmdEdit", {0, 1}};
+  Button cmdHelp{*this, "cmdHelp"};
 
  private:
   void design();

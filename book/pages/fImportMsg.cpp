@@ -4,6 +4,7 @@
 #include "support/procedure.h"
 #include "text/text.h"
 #include "wizard/shell/design.h"
+#include "wizard/shell/help.h"
 
 namespace quenda {
 namespace {
@@ -36,6 +37,10 @@ constexpr DesignRow<fImportMsg> kDesign[] = {
      .place = {5360, 3060, 1600, 390},
      .tab = 3,
      .caption = "Button_Resume"},
+    {.control = control_at<&fImportMsg::cmdHelp>,
+     .place = {240, 3060, 1400, 390},
+     .tab = 4,
+     .caption = "Button_Help"},
 };
 
 }  // namespace
@@ -59,6 +64,8 @@ void fImportMsg::connect() {
     button->on_click = [this, index = button->index()] { cmdMsg_Click(index); };
   }
   on_query_unload = [this](bool& cancel, CloseReason reason) { Form_QueryUnload(cancel, reason); };
+  cmdHelp.on_click = [this] { cmdHelp_Click(); };
+  on_help = cmdHelp.on_click;
   on_got_focus = [this] { cmdMsg(0).set_focus(); };
 }
 
@@ -70,9 +77,11 @@ void fImportMsg::Language() {
 }
 
 void fImportMsg::fill(std::string_view number, std::string_view existing, std::string_view fresh) {
-  labMsgNumber.set_caption(concat(app_.text("Import_Label_ItemExistWithNumber"), ": ", number));
-  labMsgIn.set_caption(existing);
-  labMsgNew.set_caption(fresh);
+  procedure(app_.errors, "fImportMsg.fill", {number, existing, fresh}, [&] {
+    labMsgNumber.set_caption(concat(app_.text("Import_Label_ItemExistWithNumber"), ": ", number));
+    labMsgIn.set_caption(existing);
+    labMsgNew.set_caption(fresh);
+  }).or_go_on();
 }
 
 void fImportMsg::cmdMsg_Click(int index) {
@@ -86,6 +95,10 @@ void fImportMsg::Form_QueryUnload(bool& cancel, CloseReason reason) {
   procedure(app_.errors, "fImportMsg.Form_QueryUnload", {}, [&] {
     cancel = reason == CloseReason::kCloseBox;
   }).or_go_on();
+}
+
+void fImportMsg::cmdHelp_Click() {
+  procedure(app_.errors, "fImportMsg.cmdHelp_Click", {}, [&] { open_help(app_); }).or_go_on();
 }
 
 }  // namespace quenda

@@ -25,6 +25,7 @@ class fImportMsg : public Form {
   void Language();
   /// Button 0 keeps the existing entry, button 1 takes the new one.
   void cmdMsg_Click(int index);
+  void cmdHelp_Click();
   /// The close box is no answer and is refused.
   void Form_QueryUnload(bool& cancel, CloseReason reason);
 
@@ -35,6 +36,7 @@ class fImportMsg : public Form {
   Label labMsgNew{*this, "labMsgNew"};
   ControlArray<OptionButton> optAsk{*this, "optAsk", {0, 1}};
   ControlArray<Button> cmdMsg{*this, "cmdMsg", {0, 1}};
+  Button cmdHelp{*this, "cmdHelp"};
 
  private:
   void design();

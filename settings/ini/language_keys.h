@@ -138,6 +138,7 @@ inline constexpr std::array kLanguageKeys = {
         u8"Ohne automatisierbares Outlook (auch das neue Outlook ist keines): Exportieren Sie die "
         u8"Kontakte dort als CSV-Datei, und wählen Sie diese hier aus."_de},
     LanguageKey{"Import_ChkBox_NameMin3Chars", u8"keine Namen kürzer als 3 Zeichen"_de},
+    LanguageKey{"Import_String_FileAndOutlook", "Datei und Outlook"},
     // The columns.
     LanguageKey{"Import_Label_ColumnsNames", "Spalten Name"},
     LanguageKey{"Import_Label_ColumnsNumbers", "Spalten Rufnummer"},

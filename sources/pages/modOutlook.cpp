@@ -64,7 +64,8 @@ void modOutlook::isOutlookInstalled(bool read_count) {
       .or_go_on();
 }
 
-bool modOutlook::getContactsAll(std::vector<OutlookContact>& contacts, const OnItem& on_item) {
+bool modOutlook::getContactsAll(std::vector<OutlookContact>& contacts, const OnItem& on_item,
+                                const GoOn& go_on) {
   bool came_through = false;
   procedure(errors_, "modOutlook.getContactsAll", {}, [&] {
     if (!installed_) return;
@@ -73,6 +74,7 @@ bool modOutlook::getContactsAll(std::vector<OutlookContact>& contacts, const OnI
     const auto items = contact_items(*automation_.create(kProgram));
     skipped_count_ = 0;
     for (std::size_t i = 0; i < count; ++i) {
+      on_item(i + 1, count);
       const auto item = items->object("Item", static_cast<long>(i + 1));
       if (item->type_name() == "ContactItem") {
         for (const std::size_t field : kReadingOrder) {
@@ -81,7 +83,7 @@ bool modOutlook::getContactsAll(std::vector<OutlookContact>& contacts, const OnI
       } else {
         ++skipped_count_;
       }
-      if (!on_item(i + 1, count)) break;
+      if (!go_on()) break;
     }
     contacts = std::move(read);
     came_through = true;

@@ -27,13 +27,16 @@ class modOutlook {
   /// was. No Outlook is no fault; any other trouble is reported and counts as no Outlook.
   void isOutlookInstalled(bool read_count);
 
-  /// Told after each item: how many have been read of the total. Returns false to stop there.
-  using OnItem = std::function<bool(std::size_t done, std::size_t total)>;
+  /// Told before an item which one of the total is read now, so that a slow one is seen.
+  using OnItem = std::function<void(std::size_t item, std::size_t total)>;
+  /// Asked after each item; false stops there.
+  using GoOn = std::function<bool()>;
 
   /// Reads every item of the contacts folder into `contacts`; items that are no contacts are
   /// counted and leave an empty record. Returns whether it came through: without Outlook, and after
   /// a fault, `contacts` stays as it was.
-  [[nodiscard]] bool getContactsAll(std::vector<OutlookContact>& contacts, const OnItem& on_item);
+  [[nodiscard]] bool getContactsAll(std::vector<OutlookContact>& contacts, const OnItem& on_item,
+                                    const GoOn& go_on);
 
   [[nodiscard]] bool installed() const { return installed_; }
   [[nodiscard]] const std::string& major_version() const { return major_version_; }

@@ -127,10 +127,13 @@ bool OutlookPage::read_contacts() {
   shell_.StatusBar.set_panel(2, shell_.texts["Import_Info_ItemsRecycle"]);
   contacts_.clear();
   std::vector<OutlookContact> contacts;
-  const bool read =
-      source_page_.outlook.getContactsAll(contacts, [this](std::size_t done, std::size_t total) {
+  const bool read = source_page_.outlook.getContactsAll(
+      contacts,
+      [this](std::size_t done, std::size_t total) {
         modProgress_Show(shell_.PicProgress, static_cast<std::int64_t>(done), 1,
                          static_cast<std::int64_t>(total));
+      },
+      [this] {
         app_.machine.events.yield();
         return !shell_.wizard.abort;
       });

@@ -88,7 +88,12 @@ void SourcePage::connect() {
   shell_.on_unusable_path = [this](std::string_view nearest) { app_.refuse_path(nearest); };
 }
 
-void SourcePage::load_captions() { quenda::load_captions(*this, kDesign, app_); }
+void SourcePage::load_captions() {
+  quenda::load_captions(*this, kDesign, app_);
+  // Callers of a log come in with names of any length.
+  chkNameLen.set_caption(
+      concat(chkNameLen.caption(), " (", app_.text("Import_String_FileAndOutlook"), ")"));
+}
 
 void SourcePage::load(const ImportSettings& settings) {
   skip_faults({[&] { chkNameLen.set_value(settings.min_name_length); }});

@@ -37,6 +37,8 @@ void SourcePage::txtImpFile_Change() {
     source.IsISpyFile = false;
     source.IsOutlookSource = false;
     source.FileChecked = false;
+    source.ImportRows =
+        RecordTable();  // a text without line ends would leave those of the file before
     status.set_panel(2, shell_.texts["Import_Info_ReadingFile"]);
     FileImport();
     bool delimiter_found = false;

@@ -152,6 +152,21 @@ TEST_F(LastPage, BookThatCannotBeWrittenIsReported) {
   }
 }
 
+TEST_F(LastPage, AfterAFailedWriteTheEntriesStayWithinReach) {
+  machine.files.refuse_writing(kBookPath, kFaultDiskFull);
+  enter();
+  forward();
+  EXPECT_EQ(form->StatusBar.panel(2), "") << "nothing is being written any more";
+  EXPECT_FALSE(form->cmdFor.enabled());
+  for (int i = 0; i < 2; ++i) {
+    form->lstImpFinal.take_user_select(0);
+    form->cmdDel.take_user_click();
+  }
+  back();
+  EXPECT_EQ(form->wizard.CurrentPage, Page::kEntries);
+  EXPECT_FALSE(form->cmdFor.enabled()) << "nothing is left to import";
+}
+
 TEST_F(LastPage, WithoutALinkTheUserIsTold) {
   enter(false);
   finish();

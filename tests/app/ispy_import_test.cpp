@@ -3,6 +3,7 @@
 #include <string>
 
 #include "tests/shared/wizard_fixture.h"
+#include "text/fault.h"
 #include "text/literal_1252.h"
 
 // The call log as a source, through the controls.
@@ -41,6 +42,54 @@ TEST_F(IspyImport, GoesStraightToTheEntries) {
   EXPECT_EQ(book(),
             "Erika Mustermann;0301234567;0;0;0;0;;;[vcd()vcd]\r\n"
             "Hans Meier;089765;0;0;0;0;;;[vcd()vcd]\r\n");
+}
+
+TEST_F(IspyImport, AfterAFailedWriteTheEntriesAreStillThere) {
+  machine.files.refuse_writing(kBookPath, kFaultDiskFull);
+  start();
+  take_file(kLog, kLogPath);
+  forward();
+  forward();
+  back();
+  EXPECT_EQ(form->wizard.CurrentPage, Page::kEntries);
+  EXPECT_EQ(form->cmdFor.caption(), u8"Übernehmen"_de);
+  EXPECT_TRUE(form->cmdFor.enabled());
+  EXPECT_EQ(rows().size(), 2U);
+  back();
+  EXPECT_EQ(form->wizard.CurrentPage, Page::kSource);
+}
+
+TEST_F(IspyImport, NothingOfAnEarlierSourceIsShown) {
+  start();
+  take_file(std::string("Datum Zeit Eva [#0301234567];Nummer\r\nx y Udo [#0307654321];1\r\n"));
+  take_file("2014-03-02 17:05:09 Ida [#0309999999]", kLogPath);
+  forward();
+  EXPECT_EQ(rows(), Texts{}) << "a log without a line end has no lines";
+  back();
+  take_file(kLog, kLogPath);
+  forward();
+  EXPECT_EQ(rows().size(), 2U);
+  back();
+  take_file("Name;Nummer\r\n");
+  forward();
+  select(0, {"Name"});
+  select(1, {"Nummer"});
+  for (int i = 0; i < 3; ++i) forward();
+  EXPECT_EQ(form->wizard.CurrentPage, Page::kEntries);
+  EXPECT_EQ(rows(), Texts{});
+}
+
+TEST_F(IspyImport, AFaultWhileEntriesAreMadeLeavesNoWayOn) {
+  start();
+  take_file(kLog, kLogPath);
+  machine.events.on_yield = [&] {
+    machine.events.on_yield = nullptr;
+    raise_fault(kFaultInvalidCall);
+  };
+  forward();
+  EXPECT_EQ(form->wizard.CurrentPage, Page::kEntries);
+  EXPECT_FALSE(form->cmdFor.enabled());
+  EXPECT_TRUE(form->cmdBack.enabled());
 }
 
 }  // namespace

@@ -2,8 +2,10 @@
 
 #include <string>
 
+#include "book/pages/fOVWInput.h"
 #include "tests/shared/fake_outlook.h"
 #include "tests/shared/wizard_fixture.h"
+#include "text/fault.h"
 #include "text/literal_1252.h"
 
 // Outlook as a source, through the controls.
@@ -70,6 +72,44 @@ TEST_F(OutlookImport, RunsToTheBookAndBackAgain) {
                            "OlAdress=10010000000000\r\n", "OLNameExt1=zuhause\r\n"}) {
     EXPECT_NE(settings.find(line), std::string::npos) << line << settings;
   }
+}
+
+TEST_F(OutlookImport, TheWayOnIsOpenBehindTheQuestionForTheOwnCodes) {
+  machine.files.put("C:\\Quenda\\data\\Quenda.ini", "");
+  start_with("16.0", {contact("Eva", "030 1234567", "")});
+  form->cmdOutlook.take_user_click();
+  machine.events.on_modal = [&](Form& shown) {
+    EXPECT_TRUE(form->cmdFor.enabled());
+    EXPECT_EQ(form->cmdFor.caption(), u8"Übernehmen"_de);
+    auto& dialog = dynamic_cast<fOVWInput&>(shown);
+    EXPECT_TRUE(dialog.labWithoutAreaCode.visible());
+    EXPECT_FALSE(dialog.labRequired.visible()) << "one reason at a time";
+    dialog.txtOVW.type("30");
+    dialog.cmdOK.take_user_click();
+  };
+  forward();
+  EXPECT_EQ(rows().size(), 1U);
+  machine.events.on_modal = [](Form&) { raise_fault(kFaultInvalidCall); };
+  back();
+  form->txtOVW.set_text("");
+  forward();
+  EXPECT_FALSE(form->cmdFor.enabled()) << "the question failed";
+  EXPECT_EQ(rows(), Texts{});
+}
+
+TEST_F(OutlookImport, AfterAFailedWriteEditsAreKept) {
+  machine.files.refuse_writing(kBookPath, kFaultDiskFull);
+  start_with("16.0", {contact("Eva", "030 1234567", ""), contact("Udo", "030 7654321", "")});
+  form->cmdOutlook.take_user_click();
+  forward();
+  form->lstImpFinal.take_user_select(0);
+  form->cmdDel.take_user_click();
+  forward();
+  back();
+  EXPECT_EQ(rows(), Texts{"Udo Muster privat|0307654321|12345 Berlin, Weg 1"});
+  EXPECT_EQ(form->cmdFor.caption(), u8"Übernehmen"_de);
+  back();
+  EXPECT_TRUE(form->frmImpOL.visible());
 }
 
 TEST_F(OutlookImport, BackTwiceReturnsToTheSource) {

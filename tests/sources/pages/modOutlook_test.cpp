@@ -35,10 +35,10 @@ class OutlookTest : public testing::Test {
     return outlook_contact({{"FirstName", name}, {"BusinessTelephoneNumber", "0" + name}});
   }
   void read() {
-    came_through_ = outlook_.getContactsAll(contacts_, [this](std::size_t done, std::size_t total) {
-      steps_.emplace_back(done, total);
-      return done < stop_at_;
-    });
+    came_through_ = outlook_.getContactsAll(
+        contacts_,
+        [this](std::size_t item, std::size_t total) { steps_.emplace_back(item, total); },
+        [this] { return steps_.back().first < stop_at_; });
   }
 
   ErrorService service_;
