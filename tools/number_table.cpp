@@ -20,29 +20,32 @@ struct Example {
 };
 
 constexpr std::array kExamples = {
-    Example{"030 23125-701", "Satzzeichen und Leerzeichen entfallen",
-            "punctuation and blanks go"},
+    Example{"030 23125-701", "Satzzeichen und Leerzeichen entfallen", "punctuation and blanks go"},
     Example{"+49 30 23125701", "„+“ wird zu „00“, die eigene Landesvorwahl entfällt",
             "“+” becomes “00”, the own country code goes"},
     Example{"+49 (0)30 23125701", "die „(0“ entfällt, die führende „0“ wird gesetzt",
             "the “(0” goes, the leading “0” is set"},
     Example{"0049 30 23125701", "wie mit „+49“", "as with “+49”"},
-    Example{"49 30 23125701", "ohne „+“ oder „00“ ist es keine Landesvorwahl: die Nummer wird falsch",
+    Example{"49 30 23125701",
+            "ohne „+“ oder „00“ ist es keine Landesvorwahl: die Nummer wird falsch",
             "without “+” or “00” it is no country code: the number gets wrong"},
     Example{"+43 1 5880012", "fremde Landesvorwahl bleibt", "another country's code stays"},
     Example{"(030) 23125701", "auch hier entfällt die „(0“, und die „0“ kommt wieder",
             "here, too, the “(0” goes, and the “0” comes back"},
     Example{"0171/3920056", "der Schrägstrich entfällt", "the slash goes"},
-    Example{"23125701", "ohne Ortsvorwahl: es wird nur eine „0“ davorgesetzt, also bitte mit Vorwahl ausführen",
+    Example{"23125701",
+            "ohne Ortsvorwahl: es wird nur eine „0“ davorgesetzt, also bitte mit Vorwahl ausführen",
             "without area code: only a “0” is put in front, so export numbers with their codes"},
-    Example{"110", "mit der „0“ davor kürzer als 8 Zeichen", "shorter than 8 characters, “0” included"},
+    Example{"110", "mit der „0“ davor kürzer als 8 Zeichen",
+            "shorter than 8 characters, “0” included"},
     Example{"0341 555-SHOP", "Buchstaben", "letters"},
     Example{"030 23125701 (Büro)", "Buchstaben: die Bemerkung gehört nicht in die Nummer",
             "letters: the remark does not belong into the number"},
     Example{"030 23125701; 0171 3920056",
             "zwei Nummern in einer Zelle: das Semikolon ist keine Ziffer",
             "two numbers in one cell: the semicolon is no digit"},
-    Example{"4,93023E+11", "in einer Tabellenkalkulation zerstört: die fehlenden Ziffern sind verloren",
+    Example{"4,93023E+11",
+            "in einer Tabellenkalkulation zerstört: die fehlenden Ziffern sind verloren",
             "destroyed by a spreadsheet: the missing digits are lost"},
     Example{"", "keine Nummer", "no number"},
 };
@@ -59,7 +62,9 @@ int main(int count, char** arguments) {
     const bool taken = example.number[0] != '\0' && quenda::number_importable(cleaned);
     std::cout << "| " << (example.number[0] == '\0' ? "" : "`") << example.number
               << (example.number[0] == '\0' ? (english ? "(empty)" : "(leer)") : "`") << " | "
-              << (taken ? "`" + cleaned + "`" : english ? "not taken" : "wird nicht übernommen")
+              << (taken     ? "`" + cleaned + "`"
+                  : english ? "not taken"
+                            : "wird nicht übernommen")
               << " | " << (english ? example.english : example.german) << " |\n";
   }
   return 0;
