@@ -4,6 +4,7 @@
 #include <ostream>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "app/fMain.h"
 #include "app/quenda-import/console_services.h"
@@ -11,10 +12,12 @@
 #include "book/pages/fImportMsg.h"
 #include "platform/files.h"
 #include "settings/app.h"
-#include "sources/file_encoding.h"
+#include "sources/file_facts.h"
+#include "sources/file_findings.h"
 #include "text/fault.h"
 #include "text/literal_1252.h"
 #include "text/text.h"
+#include "wizard/shell/finding_text.h"
 
 namespace quenda {
 namespace {
@@ -40,7 +43,7 @@ class BatchRun {
 
   void take_file();
   void take_outlook();
-  void warn_about_encoding();
+  void warn(const std::vector<Finding>& findings);
   void choose_columns();
   void select_columns(std::size_t kind);
   [[noreturn]] void refuse_columns();
@@ -154,7 +157,7 @@ void BatchRun::take_file() {
   main_.txtImpFile.set_text(options_.file);
   if (!main_.file_read())
     refuse(concat("Die Datei \"", options_.file, "\" kann nicht gelesen werden."));
-  warn_about_encoding();
+  warn(file_findings(look_at_file(*main_.source.ImportText), false));
   if (main_.source.IsISpyFile) return;
   if (options_.delimiter && main_.cmbLimiter.enabled()) {
     main_.cmbLimiter.set_list_index(*options_.delimiter);
@@ -164,16 +167,9 @@ void BatchRun::take_file() {
   }
 }
 
-void BatchRun::warn_about_encoding() {
-  switch (guess_encoding(*main_.source.ImportText)) {
-    case FileEncoding::kWindows1252:
-      break;
-    case FileEncoding::kUtf8:
-      say(u8"Warnung: Die Datei sieht nach UTF-8 aus, gelesen wird sie als Windows-1252."_de);
-      break;
-    case FileEncoding::kUtf16:
-      say(u8"Warnung: Die Datei sieht nach UTF-16 aus, gelesen wird sie als Windows-1252."_de);
-      break;
+void BatchRun::warn(const std::vector<Finding>& findings) {
+  for (const Finding& finding : findings) {
+    say(concat("Warnung: ", text_of(app_, finding)));
   }
 }
 

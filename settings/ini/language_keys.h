@@ -1,19 +1,17 @@
 #pragma once
 
 #include <array>
+#include <span>
 #include <string_view>
 
+#include "settings/ini/file_report_keys.h"
+#include "settings/ini/language_key.h"
 #include "text/literal_1252.h"
 
 namespace quenda {
 
-/// A text of the language files: its key, and the German text that stands in for a missing one.
-struct LanguageKey {
-  std::string_view key;
-  std::string_view german;
-};
-
-/// Every text that the program asks for. "<CR>" stands for a line break, as in language files.
+/// Every text that the program asks for, but those about the file to be read, which have a table of
+/// their own. "<CR>" stands for a line break, as in language files.
 inline constexpr std::array kLanguageKeys = {
     // Shared by all programs of the suite.
     LanguageKey{"Message_BackupExists", "Es existiert eine Sicherungskopie!"},
@@ -201,10 +199,16 @@ inline constexpr std::array kLanguageKeys = {
     LanguageKey{"Import_Label_FormatAreaCode", "Format: 030"},
 };
 
+/// All tables of texts.
+inline constexpr std::array<std::span<const LanguageKey>, 2> kLanguageTables = {kLanguageKeys,
+                                                                                kFileReportKeys};
+
 namespace language_detail {
 constexpr const LanguageKey* find(std::string_view key) {
-  for (const LanguageKey& entry : kLanguageKeys) {
-    if (entry.key == key) return &entry;
+  for (const auto table : kLanguageTables) {
+    for (const LanguageKey& entry : table) {
+      if (entry.key == key) return &entry;
+    }
   }
   return nullptr;
 }
