@@ -1,9 +1,16 @@
 #include <gtest/gtest.h>
 
+#include <fstream>
+#include <functional>
+#include <iterator>
 #include <map>
+#include <set>
 #include <string>
 
 #include "app/program.h"
+#include "book/pages/fImportMsg.h"
+#include "settings/ini/ini_text.h"
+#include "settings/ini/language_keys.h"
 #include "tests/shared/wizard_fixture.h"
 #include "text/fault.h"
 #include "text/literal_1252.h"
@@ -115,13 +122,26 @@ TEST_F(Start, AFaultThatNoProcedureCaughtEndsTheProgramInOrder) {
   EXPECT_FALSE(form->loaded());
 }
 
-TEST_F(Start, CaptionsComeFromTheLanguageFile) {
+TEST_F(Start, InEnglishNothingStaysGermanButTheDelimiters) {
+  std::ifstream in(QUENDA_SOURCE_DIR "/base/language_en.ini", std::ios::binary);
+  const std::string english{std::istreambuf_iterator<char>(in), {}};
   machine.files.put("C:\\Quenda\\data\\Quenda.ini", "[General]\r\nLanguage=en\r\nmyVWO=30\r\n");
-  machine.files.put("C:\\Quenda\\base\\language_en.ini",
-                    "[Data]\r\nButton_Next=Next\r\nImport_Title=Import contacts\r\n");
+  machine.files.put("C:\\Quenda\\base\\language_en.ini", english);
   start();
+  const IniText texts(english);
+  std::set<std::string, std::less<>> german;
+  for (const LanguageKey& entry : kLanguageKeys) {
+    if (texts.text("Data", entry.key, "") != entry.german) german.emplace(entry.german);
+  }
   EXPECT_EQ(form->cmdFor.caption(), "Next");
-  EXPECT_EQ(form->caption(), "Quenda - Import contacts");
+  fImportMsg question(*app);
+  question.fill("030", "", "");
+  for (const ControlHost* shown :
+       {static_cast<const ControlHost*>(form.get()), static_cast<const ControlHost*>(&question)}) {
+    for (const Control* control : shown->controls()) {
+      EXPECT_FALSE(german.contains(control->caption())) << control->name();
+    }
+  }
   EXPECT_EQ(form->cmbLimiter.items()[0], "Semikolon") << "these three are never translated";
 }
 
