@@ -16,14 +16,9 @@ constexpr std::string_view kOldLine = "Alt;030123456;x;0;5;0;Ort;;[vcd(card)vcd]
 class LastPage : public WizardTest {
  protected:
   /// Brings "Neu;030123456" and "Huber;0897654321" to the last page.
-  void enter(bool linked = true) {
-    start(linked);
-    take_file("Name;Nummer\r\nNeu;030123456\r\nHuber;0897654321\r\n");
-    forward();
-    select(0, {"Name"});
-    select(1, {"Nummer"});
-    for (int i = 0; i < 3; ++i) forward();
-    ASSERT_EQ(form->wizard.CurrentPage, Page::kEntries);
+  void enter() {
+    go_to(Page::kEntries, "Name;Nummer\r\nNeu;030123456\r\nHuber;0897654321\r\n",
+          {{"Name"}, {"Nummer"}});
   }
   static std::string line(std::string_view name, std::string_view number) {
     return std::string(name) + ";" + std::string(number) + ";0;0;0;0;;;[vcd()vcd]\r\n";
@@ -168,13 +163,14 @@ TEST_F(LastPage, AfterAFailedWriteTheEntriesStayWithinReach) {
 }
 
 TEST_F(LastPage, WithoutALinkTheUserIsTold) {
-  enter(false);
+  enter();
+  form->Form_LinkClose();
   finish();
   EXPECT_EQ(last_box(),
             u8"Es besteht keine DDE-Verbindung zu Quenda!\r\nNach dem Import ist es "
             u8"erforderlich das Telefonbuch durch \"Aktualisieren\" (F5) neu "
             u8"einzulesen!"_de);
-  EXPECT_EQ(machine.host_link.texts, Texts{"data"});
+  EXPECT_EQ(machine.host_link.texts, (Texts{"ON", "data"}));
 }
 
 TEST_F(LastPage, EditedEntryIsCleanedAndKeepsItsPlace) {

@@ -19,16 +19,12 @@ constexpr std::string_view kContacts =
 
 class FileImport : public WizardTest {
  protected:
-  /// Goes to the names page with the usual columns.
-  void choose_columns() {
-    start();
-    take_file(kContacts);
-    forward();
-    select(0, {"Nachname", "Vorname"});
-    select(1, {"Telefon", "Mobil"});
-    select(2, {"Straße", "PLZ", "Ort"});
-    forward();
+  /// Goes to a page with the usual columns.
+  void go_to(Page page) {
+    WizardTest::go_to(page, kContacts,
+                      {{"Nachname", "Vorname"}, {"Telefon", "Mobil"}, {"Straße", "PLZ", "Ort"}});
   }
+  using WizardTest::go_to;
 };
 
 TEST_F(FileImport, RunsFromTheFileToTheBook) {
@@ -86,7 +82,7 @@ TEST_F(FileImport, RunsFromTheFileToTheBook) {
 }
 
 TEST_F(FileImport, ChoicesOfOneRunAreThereInTheNext) {
-  choose_columns();
+  go_to(Page::kNames);
   form->chkFlip.take_user_click();
   form->txtIndex(0).set_text("Festnetz");
   forward();
@@ -118,9 +114,7 @@ TEST_F(FileImport, ChoicesOfOneRunAreThereInTheNext) {
 }
 
 TEST_F(FileImport, GoesBackAndForthWithoutLeavingOldEntries) {
-  choose_columns();
-  forward();
-  forward();
+  go_to(Page::kEntries);
   EXPECT_EQ(form->lstImpFinal.count(), 3U);
   back();
   EXPECT_EQ(form->cmdFor.caption(), "Weiter");
@@ -211,12 +205,7 @@ TEST_F(FileImport, SavedColumnsThatAreMissingAreNamed) {
 TEST_F(FileImport, ColumnsWhoseHeaderHasBlanksOrQuotesAroundItAreFoundAgain) {
   constexpr std::string_view kSpaced =
       "Name; Tel;'Mobil';Mobil\r\nMeier;0301234567;01701234567;\r\n";
-  start();
-  take_file(kSpaced);
-  forward();
-  select(0, {"Name"});
-  select(1, {" Tel", "'Mobil'"});
-  for (int i = 0; i < 3; ++i) forward();
+  go_to(Page::kEntries, kSpaced, {{"Name"}, {" Tel", "'Mobil'"}});
   finish();
   start();
   take_file(kSpaced);
@@ -227,14 +216,8 @@ TEST_F(FileImport, ColumnsWhoseHeaderHasBlanksOrQuotesAroundItAreFoundAgain) {
 }
 
 TEST_F(FileImport, AnUnnamedColumnCountsAsAPartOfTheAddress) {
-  start();
-  take_file("Name;Tel;;PLZ;Ort\r\nMeier;0301234567;Weg 1;12345;Berlin\r\n");
-  forward();
-  select(0, {"Name"});
-  select(1, {"Tel"});
-  select(2, {"", "PLZ", "Ort"});
-  forward();
-  forward();
+  go_to(Page::kAddresses, "Name;Tel;;PLZ;Ort\r\nMeier;0301234567;Weg 1;12345;Berlin\r\n",
+        {{"Name"}, {"Tel"}, {"", "PLZ", "Ort"}});
   EXPECT_EQ(form->cmbFlipAdress.items()[0], "/PLZ/Ort");
   form->cmbFlipAdress.take_user_index(2);
   form->chk1(0).take_user_click();
@@ -252,8 +235,7 @@ TEST_F(FileImport, AddressListsTakeThreeColumns) {
 
 TEST_F(FileImport, AsksForTheOwnCodesUntilTheyAreGoodEnough) {
   machine.files.put("C:\\Quenda\\data\\Quenda.ini", "");
-  choose_columns();
-  forward();
+  go_to(Page::kAddresses);
   int asked = 0;
   machine.events.on_modal = [&](Form& shown) {
     auto& dialog = dynamic_cast<fOVWInput&>(shown);
@@ -272,25 +254,17 @@ TEST_F(FileImport, AsksForTheOwnCodesUntilTheyAreGoodEnough) {
 }
 
 TEST_F(FileImport, WithoutANameRuleShortNamesPass) {
-  choose_columns();
+  go_to(Page::kAddresses);
   form->chkNameLen.set_ticked(false);
-  forward();
   forward();
   EXPECT_EQ(form->lstImpFinal.count(), 4U);
 }
 
 TEST_F(FileImport, RecordsThatLackAChosenColumnStopTheComposition) {
   // The third record overflows the padding, so that the fourth keeps its missing columns.
-  start();
-  take_file("Name;a;b;Nummer\r\nEins;;;03011111111\r\n" + std::string(33'000, ';') +
-            "\r\nZwei\r\n");
-  forward();
-  select(0, {"Name"});
-  select(1, {"Nummer"});
-  forward();
-  forward();
-  forward();
-  EXPECT_EQ(form->wizard.CurrentPage, Page::kEntries);
+  go_to(Page::kEntries,
+        "Name;a;b;Nummer\r\nEins;;;03011111111\r\n" + std::string(33'000, ';') + "\r\nZwei\r\n",
+        {{"Name"}, {"Nummer"}});
   EXPECT_EQ(form->lstImpFinal.count(), 0U);
   EXPECT_FALSE(form->cmdFor.enabled());
 }

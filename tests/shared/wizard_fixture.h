@@ -21,6 +21,8 @@ inline constexpr std::string_view kContactsPath = "C:\\contacts.csv";
 /// and the phone book's link open.
 class WizardTest : public testing::Test {
  protected:
+  using Texts = std::vector<std::string>;
+
   WizardTest() {
     machine.files.put("C:\\Quenda\\Quendapaths.ini", "[Paths]\r\nProgramData=0\r\n");
     machine.files.put("C:\\Quenda\\data\\Quenda.ini", "[General]\r\nmyVWL=49\r\nmyVWO=30\r\n");
@@ -48,7 +50,7 @@ class WizardTest : public testing::Test {
   void back() { form->cmdBack.take_user_click(); }
 
   /// Selects the columns of a list by their headers.
-  void select(int list, const std::vector<std::string>& headers) {
+  void select(int list, const Texts& headers) {
     ListBox& box = form->lstHeader(list);
     for (int i = 0; i < box.count(); ++i) {
       for (const std::string& header : headers) {
@@ -57,11 +59,24 @@ class WizardTest : public testing::Test {
     }
   }
 
+  /// Starts the tool, takes the file, chooses these columns in the lists, and goes to the page.
+  void go_to(Page page, std::string_view file, const std::vector<Texts>& columns) {
+    start();
+    take_file(file);
+    forward();
+    for (std::size_t list = 0; list < columns.size(); ++list) {
+      select(static_cast<int>(list), columns[list]);
+    }
+    for (Page at = Page::kColumns; at < page; at = static_cast<Page>(static_cast<int>(at) + 1))
+      forward();
+    EXPECT_EQ(form->wizard.CurrentPage, page);
+  }
+
   /// Presses the last "forward", after which the tool has ended.
   void finish() { EXPECT_THROW(forward(), EndProgram); }
 
-  [[nodiscard]] std::vector<std::string> rows() const {
-    std::vector<std::string> lines;
+  [[nodiscard]] Texts rows() const {
+    Texts lines;
     for (std::size_t i = 0; i < form->lstImpFinal.count(); ++i) {
       lines.push_back(form->lstImpFinal.cell(i, 0) + "|" + form->lstImpFinal.cell(i, 1) + "|" +
                       form->lstImpFinal.cell(i, 2));
@@ -72,8 +87,6 @@ class WizardTest : public testing::Test {
   [[nodiscard]] std::string last_box() const {
     return machine.dialogs.boxes.empty() ? "" : machine.dialogs.boxes.back().text;
   }
-
-  using Texts = std::vector<std::string>;
 
   FakeMachine machine;
   std::unique_ptr<App> app;
