@@ -170,6 +170,13 @@ TEST_F(Start, LockedElementsFollowTheirTicksWhenUnlocked) {
   EXPECT_FALSE(form->chkAdr(18).enabled());
 }
 
+TEST_F(Start, ColouringAControlThatIsNotThereIsReportedLikeAnyFault) {
+  start();
+  form->ObjectEnable(true, form->txtIndex, -1);
+  EXPECT_NE(app->errors.last_report().find("fMain.ObjectEnable"), std::string::npos)
+      << app->errors.last_report();
+}
+
 TEST_F(Start, HelpOpensThePageOfTheImportAndWaitsWhileWorkIsDone) {
   start();
   form->cmdHelp.take_user_click();

@@ -37,8 +37,13 @@ void WizardShell::cmdHelp_Click() {
 }
 
 void WizardShell::ObjectEnable(bool enabled, Control& control) {
-  procedure(app.errors, "fMain.ObjectEnable", {enabled, control.name(), control.index()}, [&] {
-    control.set_back_color(enabled ? BackColor::kWindow : BackColor::kButtonFace);
+  colour(enabled, control.name(), control.index(), [&]() -> Control& { return control; });
+}
+
+void WizardShell::colour(bool enabled, std::string_view name, int index,
+                         const std::function<Control&()>& find) {
+  procedure(app.errors, "fMain.ObjectEnable", {enabled, name, index}, [&] {
+    find().set_back_color(enabled ? BackColor::kWindow : BackColor::kButtonFace);
   }).or_go_on();
 }
 

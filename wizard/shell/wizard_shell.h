@@ -3,6 +3,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <string_view>
 
 #include "platform/controls/control_array.h"
@@ -32,9 +33,10 @@ class WizardShell : public Form {
   void cmdHelp_Click();
   /// Colours an input field as usable or not.
   void ObjectEnable(bool enabled, Control& control);
+  /// The same for one of an array; an index that the array lacks is a fault like any other.
   template <class T>
   void ObjectEnable(bool enabled, ControlArray<T>& array, std::int16_t index) {
-    ObjectEnable(enabled, array(index));
+    colour(enabled, (*array.begin())->name(), index, [&]() -> Control& { return array(index); });
   }
 
   /// The page that "Weiter" asks: the last told for that place. The Outlook page has a place of its
@@ -91,6 +93,8 @@ class WizardShell : public Form {
 
  private:
   void design();
+  void colour(bool enabled, std::string_view name, int index,
+              const std::function<Control&()>& find);
   void hide_pages();
   void show_title(std::size_t place);
   void show_buttons();
