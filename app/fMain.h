@@ -4,8 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "book/book_entry.h"
-#include "book/book_file.h"
+#include "book/book_lines.h"
 #include "book/entry_list.h"
 #include "book/merge.h"
 #include "book/pages/entry_page.h"
@@ -75,12 +74,12 @@ class fMain : public WizardShell,
   void enter_file_entries();
   void return_to_source();
   [[nodiscard]] Composition composition() const;
+  [[nodiscard]] CleanNumber number_cleaner();
   enum class Merge { kDone, kFailed, kChangedMeanwhile };
   /// Where the merge did not come to its end for a fault, the user has been told why.
   Merge merge_into_book(std::string& book_text, std::string_view& line);
   /// False when the book cannot be read without losing entries; the user has been told then.
-  bool read_book(std::string_view text, std::vector<BookEntry>& entries, std::string_view& line);
-  void append_new_entries(std::vector<BookEntry>& entries);
+  bool book_readable(std::string_view book);
   DoubleAnswer ask_about_double(std::string_view number, const std::string& existing,
                                 const std::string& fresh);
 

@@ -2,6 +2,7 @@
 #include <string>
 
 #include "app/fMain.h"
+#include "book/number_cleaning.h"
 #include "settings/app.h"
 #include "support/procedure.h"
 #include "text/characters.h"
@@ -21,6 +22,17 @@ Composition fMain::composition() const {
   return composition;
 }
 
+CleanNumber fMain::number_cleaner() {
+  if (app_.errors.tracing()) {
+    return
+        [this](std::string_view number, std::string& cleaned) { cleaned = fCleanNumbers(number); };
+  }
+  // A million announcements that nobody hears would take longer than the cleaning.
+  return [code = txtStateCode.text()](std::string_view number, std::string& cleaned) {
+    clean_number(number, code, cleaned);
+  };
+}
+
 bool fMain::Scramble() {
   bool listed = false;
   const bool came_through = procedure(app_.errors, "fMain.Scramble", {}, [&] {
@@ -28,8 +40,7 @@ bool fMain::Scramble() {
     StatusBar.set_panel(2, texts["Import_Info_DataSetClean"]);
     lstImpFinal.clear();
     entries_.clear();
-    EntryComposer composer(composition(), source.Delimiter.front(),
-                           [this](std::string_view number) { return fCleanNumbers(number); });
+    EntryComposer composer(composition(), source.Delimiter.front(), number_cleaner());
     const std::size_t count = source.ImportRows.size();
     entries_.reserve(count, source.ImportRows.bytes());
     for (std::size_t record = 0; record < count; ++record) {

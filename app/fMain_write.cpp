@@ -1,11 +1,11 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "app/fMain.h"
-#include "book/book_file.h"
-#include "book/entry_list.h"
+#include "book/book_change.h"
+#include "book/book_lines.h"
+#include "book/book_list.h"
 #include "book/pages/fImportMsg.h"
 #include "book/pages/modImport.h"
 #include "book/unreadable_lines.h"
@@ -54,36 +54,36 @@ void fMain::Add() {
 fMain::Merge fMain::merge_into_book(std::string& book_text, std::string_view& line) {
   BusyWork busy(*this);
   const std::string path = app_.paths.book_file();
-  std::vector<BookEntry> entries;
+  book_line_end = LineEnd::kCrLf;
   if (app_.machine.files.has_file(path)) {
     StatusBar.set_panel(2, texts["Import_Info_LoadBook"]);
     book_text = app_.machine.files.read(path);
-    if (!read_book(book_text, entries, line)) return Merge::kFailed;
+    if (!book_readable(book_text)) return Merge::kFailed;
   }
-  const std::size_t in_book = entries.size();
+  BookList list(book_text, book_line_end, lstImpFinal.table());
+  list.read_book(line, busy.on_step());
 
   StatusBar.set_panel(2, texts["Import_Info_FilterData"]);
-  append_new_entries(entries);
+  list.add_rows(busy.on_step());
   const std::optional<std::size_t> kept = modImport::RemoveDoubleEntriesTypedImportArray(
-      app_.errors, entries, merge_mode,
+      app_.errors, list, merge_mode,
       [this](std::string_view number, const std::string& existing, const std::string& fresh) {
         return ask_about_double(number, existing, fresh);
       },
       busy.on_step());
   if (!kept) return Merge::kFailed;
 
-  // Entries that a replacement left without number count as kept, and doubles that the book itself
-  // held count against the new entries: as many new ones as such doubles are not written.
-  if (in_book >= *kept) {
+  // Entries that were replaced count as kept, and doubles that the book itself held count against
+  // the new entries: as many new ones as such doubles are not written.
+  if (list.in_book() >= *kept) {
     txtDDE.set_text("nodata");
     return Merge::kDone;
   }
   StatusBar.set_panel(2, texts["Import_Info_WriteBook"]);
-  const BookChange change = compose_book(book_text, entries, busy.on_step());
-  const std::string_view tail = change.tail;
+  const BookChange change = compose_book(book_text, list, busy.on_step());
   const ReplaceResult result = app_.machine.files.replace_tail(path, {.old_text = book_text,
                                                                       .keep = change.keep,
-                                                                      .pieces = {&tail, 1},
+                                                                      .pieces = change.pieces,
                                                                       .name = kBookName,
                                                                       .spoil = &make_unreadable});
   if (result == ReplaceResult::kChangedMeanwhile) return Merge::kChangedMeanwhile;
@@ -91,40 +91,15 @@ fMain::Merge fMain::merge_into_book(std::string& book_text, std::string_view& li
   return Merge::kDone;
 }
 
-bool fMain::read_book(std::string_view text, std::vector<BookEntry>& entries,
-                      std::string_view& line) {
-  book_line_end = line_end_of(text);
+bool fMain::book_readable(std::string_view book) {
+  book_line_end = line_end_of(book);
   if (book_line_end == LineEnd::kLf) StatusBar.set_panel(3, texts["Import_Info_BookHasLf"]);
-  if (const std::size_t joined = line_of_joined_entries(text, book_line_end); joined > 0) {
-    app_.message_box(concat(texts["Import_Msg_BookLineEnds"], kCrLf,
-                            texts["Import_Msg_BookLineWithoutEnd"], " ", std::to_string(joined)),
-                     MessageStyle::kExclamation);
-    return false;
-  }
-  entries.reserve(count_of(text, '\n') + 1 + lstImpFinal.count());
-  BookLines lines(text, book_line_end);
-  std::size_t characters = 0;
-  while (lines.next(line)) {
-    if (line.empty()) continue;
-    characters += line.size();
-    entries.push_back(read_book_line(line));
-    step(characters, text.size());
-  }
-  line = {};
-  return true;
-}
-
-void fMain::append_new_entries(std::vector<BookEntry>& entries) {
-  const FlatTable& rows = lstImpFinal.table();
-  entries.reserve(entries.size() + rows.rows());
-  for (std::size_t row = 0; row < rows.rows(); ++row) {
-    BookEntry entry;
-    entry.Name = rows.cell(row, kEntryName);
-    entry.Number = rows.cell(row, kEntryNumber);
-    entry.Address = rows.cell(row, kEntryAddress);
-    entries.push_back(entry);
-    step(row + 1, rows.rows());
-  }
+  const std::size_t joined = line_of_joined_entries(book, book_line_end);
+  if (joined == 0) return true;
+  app_.message_box(concat(texts["Import_Msg_BookLineEnds"], kCrLf,
+                          texts["Import_Msg_BookLineWithoutEnd"], " ", std::to_string(joined)),
+                   MessageStyle::kExclamation);
+  return false;
 }
 
 DoubleAnswer fMain::ask_about_double(std::string_view number, const std::string& existing,

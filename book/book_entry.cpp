@@ -7,6 +7,7 @@
 
 #include "text/conversions.h"
 #include "text/fault.h"
+#include "text/place_finder.h"
 #include "text/text.h"
 
 namespace quenda {
@@ -18,11 +19,13 @@ constexpr std::size_t kFields = 8;
 
 std::array<std::string_view, kFields> split_fields(std::string_view line) {
   std::array<std::string_view, kFields> fields;
-  for (std::size_t i = 0; i < kFields; ++i) {
-    if (line.data() == nullptr) raise_fault(kFaultIndexRange);
-    const auto at = line.find(';');
-    fields[i] = line.substr(0, at);
-    line = at == line.npos ? std::string_view() : line.substr(at + 1);
+  PlaceFinder separators(line, ';', ';');
+  std::size_t start = 0;
+  for (std::string_view& field : fields) {
+    if (start > line.size()) raise_fault(kFaultIndexRange);
+    const std::size_t end = separators.next();
+    field = line.substr(start, end - start);
+    start = end + 1;
   }
   return fields;
 }
@@ -37,6 +40,24 @@ std::string_view card_data(std::string_view line) {
   if (close != line.npos) return line.substr(start, close - start);
   if (line.find(kCardClose) != line.npos) raise_fault(kFaultInvalidCall);
   return {};
+}
+
+bool plain_flag(std::string_view text) { return text == "0" || text == "-1"; }
+
+/// Whether a count stands there as it would be written; longer ones are left to the conversion.
+bool plain_count(std::string_view text) {
+  constexpr std::size_t kMostDigits = 4;
+  if (text == "0") return true;
+  if (text.starts_with('-')) text.remove_prefix(1);
+  return !text.empty() && text.size() <= kMostDigits && text.front() != '0' &&
+         std::all_of(text.begin(), text.end(), is_digit);
+}
+
+/// Whether nothing stands behind the address but an empty field and the card, at the line's end.
+bool plain_end(std::string_view line, std::string_view extra) {
+  const std::string_view card = card_data(line);
+  return extra.empty() && card.data() == extra.data() + 1 + kCardOpen.size() &&
+         card.data() + card.size() + kCardClose.size() == line.data() + line.size();
 }
 
 std::string_view flag_text(bool flag) { return flag ? "-1" : "0"; }
@@ -66,6 +87,37 @@ BookEntry read_book_line(std::string_view line) {
   entry.Extra = fields[7];
   entry.CardData = card_data(line);
   return entry;
+}
+
+ExaminedLine examine_book_line(std::string_view line) {
+  const auto fields = split_fields(line);
+  const bool plain = plain_flag(fields[3]) && plain_count(fields[4]) && plain_flag(fields[5]);
+  if (!plain) {
+    to_boolean(fields[3]);
+    to_int16(fields[4]);
+    to_boolean(fields[5]);
+  }
+  const bool ends_plainly = plain_end(line, fields[7]);
+  return {fields[1], plain && ends_plainly};
+}
+
+std::string_view book_line_number(std::string_view text) {
+  text.remove_prefix(text.find(';') + 1);
+  return text.substr(0, text.find(';'));
+}
+
+BookContact book_line_contact(std::string_view text) {
+  constexpr std::size_t kFieldsBetween = 5;
+  const std::string_view name = text.substr(0, text.find(';'));
+  text.remove_prefix(name.size() + 1);
+  for (std::size_t i = 0; i < kFieldsBetween; ++i) text.remove_prefix(text.find(';') + 1);
+  return {name, text.substr(0, text.find(';'))};
+}
+
+std::size_t book_line_size(const BookEntry& entry) {
+  constexpr std::size_t kMostBesidesTexts = 64;  // separators, flags, count, marks of the card
+  return entry.Name.size() + entry.Number.size() + entry.Tag.size() + entry.Address.size() +
+         entry.CardData.size() + kMostBesidesTexts;
 }
 
 void append_book_line(std::string& text, const BookEntry& entry) {

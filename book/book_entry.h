@@ -24,6 +24,28 @@ struct BookEntry {
 /// no such value, 6 a count beyond 16 bits, 5 a card block that is not closed.
 BookEntry read_book_line(std::string_view line);
 
+/// What the merge has to know of every line.
+struct ExaminedLine {
+  std::string_view number;
+  bool plain = false;  // the line is what `append_book_line` makes of its entry
+};
+
+/// Looks a line over without making an entry of it; the faults are those of `read_book_line`.
+ExaminedLine examine_book_line(std::string_view line);
+
+/// What two entries of one number are compared by.
+struct BookContact {
+  std::string_view name;
+  std::string_view address;
+};
+
+/// Parts of the line at the front of a text that has passed `examine_book_line`.
+std::string_view book_line_number(std::string_view text);
+BookContact book_line_contact(std::string_view text);
+
+/// Bytes that the entry's line has at most.
+std::size_t book_line_size(const BookEntry& entry);
+
 /// Adds the entry's line, with its CR LF, to the text. `Extra` is not written: the tool leaves that
 /// field empty whatever the book held there. Nothing is escaped; a ";" inside a text shifts the
 /// fields of the line.

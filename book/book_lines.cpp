@@ -1,6 +1,6 @@
 #include <algorithm>
 
-#include "book/book_file.h"
+#include "book/book_lines.h"
 #include "text/text.h"
 
 namespace quenda {

@@ -1,6 +1,5 @@
 #include "book/merge.h"
 
-#include <array>
 #include <cstdint>
 
 #include "text/text.h"
@@ -9,45 +8,13 @@
 namespace quenda {
 namespace {
 
-bool same_contact(const BookEntry& a, const BookEntry& b) {
-  return equal_ignoring_case(a.Name, b.Name) && equal_ignoring_case(a.Address, b.Address);
+bool same_contact(const BookContact& a, const BookContact& b) {
+  return equal_ignoring_case(a.name, b.name) && equal_ignoring_case(a.address, b.address);
 }
 
-std::string in_words(const BookEntry& entry) { return concat(entry.Name, "  ", entry.Address); }
-
-/// The hashes of the numbers from the first entry on, some entries ahead of their use: by the time
-/// an entry is looked up, the memory of its look-up has been fetched.
-class HashesAhead {
- public:
-  HashesAhead(const std::vector<BookEntry>& entries, const ViewIndex& index)
-      : entries_(entries), index_(index) {
-    while (read_ < kAhead) read();
-  }
-
-  std::uint64_t next() {
-    const std::uint64_t hash = hashes_[used_++ % kAhead];
-    read();
-    return hash;
-  }
-
- private:
-  static constexpr std::size_t kAhead = 12;
-
-  void read() {
-    if (read_ < entries_.size()) {
-      const std::uint64_t hash = hash_of(entries_[read_].Number);
-      hashes_[read_ % kAhead] = hash;
-      index_.announce(hash);
-    }
-    ++read_;
-  }
-
-  const std::vector<BookEntry>& entries_;
-  const ViewIndex& index_;
-  std::array<std::uint64_t, kAhead> hashes_{};
-  std::size_t read_ = 0;
-  std::size_t used_ = 0;
-};
+std::string in_words(const BookContact& contact) {
+  return concat(contact.name, "  ", contact.address);
+}
 
 /// Decides which of two entries with one number stays.
 class DoubleRule {
@@ -55,12 +22,12 @@ class DoubleRule {
   DoubleRule(MergeMode mode, const AskAboutDouble& ask) : mode_(mode), ask_(ask) {}
 
   /// A nameless entry gives way without a question.
-  bool takes_new(const BookEntry& existing, const BookEntry& fresh) {
+  bool takes_new(std::string_view number, const BookContact& existing, const BookContact& fresh) {
     asked_ = false;
-    if (existing.Name.empty()) return true;
+    if (existing.name.empty()) return true;
     if (mode_ != MergeMode::kAsk) return mode_ == MergeMode::kTakeNew;
     asked_ = true;
-    const DoubleAnswer answer = ask_(existing.Number, in_words(existing), in_words(fresh));
+    const DoubleAnswer answer = ask_(number, in_words(existing), in_words(fresh));
     mode_ = mode_after(answer);
     return answer.take_new;
   }
@@ -75,55 +42,46 @@ class DoubleRule {
 
 }  // namespace
 
-std::size_t remove_double_entries(std::vector<BookEntry>& entries, MergeMode mode,
-                                  const AskAboutDouble& ask,
+std::size_t remove_double_entries(BookList& list, MergeMode mode, const AskAboutDouble& ask,
                                   const std::function<void(std::size_t, std::size_t)>& on_step,
                                   const OnDecision& on_decision) {
-  const std::size_t total = entries.size();
-  const auto number_of = [&](std::uint32_t row) { return entries[row].Number; };
-  ViewIndex by_number(total);
-  HashesAhead hashes(entries, by_number);
-  DoubleRule rule(mode, ask);
-  std::size_t kept = 0;
-  // The list is packed in place: what is kept never overtakes what is read.
-  const auto keep = [&](const BookEntry& entry) { entries[kept++] = entry; };
-  // Where the entries kept so far stood in the list that came in; only for those who want to know.
-  std::vector<std::uint32_t> came_from(on_decision ? total : 0);
+  constexpr std::size_t kAhead = 12;
   using Outcome = DoubleDecision::Outcome;
-  const auto tell = [&](std::size_t entry, std::uint32_t existing, Outcome outcome) {
-    if (on_decision) {
-      on_decision({entry, came_from[existing], outcome, outcome != Outcome::kSame && rule.asked()});
-    }
+  const std::size_t total = list.size();
+  ViewIndex by_number(total);
+  DoubleRule rule(mode, ask);
+  const auto decide = [&](std::size_t existing, std::size_t fresh) {
+    const BookContact old_contact = list.contact(existing);
+    const BookContact new_contact = list.contact(fresh);
+    if (same_contact(old_contact, new_contact)) return Outcome::kSame;
+    return rule.takes_new(list.number(fresh), old_contact, new_contact) ? Outcome::kNewReplaces
+                                                                        : Outcome::kExistingStays;
   };
+  std::size_t kept = 0;
   for (std::size_t i = 0; i < total; ++i) {
     on_step(i + 1, total);
-    BookEntry fresh = entries[i];
-    const std::uint64_t hash = hashes.next();
-    if (fresh.Number.empty()) continue;
-    // The entry goes to its place before its number is looked up, where the index finds its text.
-    entries[kept] = fresh;
-    if (on_decision) came_from[kept] = static_cast<std::uint32_t>(i);
-    const auto next = static_cast<std::uint32_t>(kept);
-    const std::uint32_t found = by_number.find_or_add(fresh.Number, hash, next, number_of);
+    if (i + kAhead < total) by_number.announce(list.hash_of_number(i + kAhead));
+    if (!list.written(i)) continue;
+    const auto entry = static_cast<std::uint32_t>(i);
+    const std::uint32_t hash = list.hash_of_number(i);
+    const auto same = [&](std::uint32_t other) { return list.number(other) == list.number(i); };
+    const std::uint32_t found = by_number.find_or_add(hash, entry, same);
     if (found == ViewIndex::kNone) {
-      keep(fresh);
+      ++kept;
       continue;
     }
-    BookEntry& existing = entries[found];
-    if (same_contact(existing, fresh)) {
-      tell(i, found, Outcome::kSame);
-      continue;
+    const Outcome outcome = decide(found, i);
+    if (on_decision) {
+      on_decision({i, found, outcome, outcome != Outcome::kSame && rule.asked()});
     }
-    const bool takes_new = rule.takes_new(existing, fresh);
-    tell(i, found, takes_new ? Outcome::kNewReplaces : Outcome::kExistingStays);
-    if (!takes_new) continue;
-    fresh.Tag = existing.Tag;
-    fresh.Count = existing.Count;
-    by_number.replace(fresh.Number, next, number_of);
-    existing.Number = {};
-    keep(fresh);
+    if (outcome == Outcome::kNewReplaces) {
+      list.replace(found, i);
+      by_number.replace(hash, entry, same);
+      ++kept;
+    } else {
+      list.drop(i);
+    }
   }
-  entries.resize(kept);
   return kept;
 }
 

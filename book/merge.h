@@ -4,9 +4,8 @@
 #include <functional>
 #include <string>
 #include <string_view>
-#include <vector>
 
-#include "book/book_entry.h"
+#include "book/book_list.h"
 
 namespace quenda {
 
@@ -32,7 +31,7 @@ using AskAboutDouble = std::function<DoubleAnswer(
     std::string_view number, const std::string& existing, const std::string& fresh)>;
 
 /// What the removal of doubles decided about an entry whose number an earlier one has. Entries are
-/// told by their positions in the list that comes in.
+/// told by their places in the list.
 struct DoubleDecision {
   enum class Outcome { kSame, kExistingStays, kNewReplaces };
   std::size_t entry = 0;
@@ -42,16 +41,15 @@ struct DoubleDecision {
 };
 using OnDecision = std::function<void(const DoubleDecision&)>;
 
-/// Removes doubles by telephone number (compared as exact texts) from a list in which the book's
-/// entries stand before the new ones; the earlier entry counts as the existing one, inside the book
-/// too. Equal names and addresses (letter case aside) make an exact double, which is dropped. A
-/// replacing entry moves to the end of the list, takes over `Tag` and `Count`, and leaves the
-/// replaced one behind without number. Entries without a number are dropped. Returns how many
-/// entries the list keeps, those without number by replacement included. `mode` is where the run
-/// starts; answers for all change it for the rest of the run. `on_step` is told after each entry,
-/// `on_decision`, where one is given, of each double.
+/// Removes doubles by telephone number (compared as exact texts) from the list; the earlier entry
+/// counts as the existing one, inside the book too. Equal names and addresses (letter case aside)
+/// make an exact double, which is dropped. A replacing entry takes over `Tag` and `Count`, and the
+/// replaced one is dropped; the order of the list stays. Returns how many entries were kept, those
+/// that were replaced later included. `mode` is where the run starts; answers for all change it for
+/// the rest of the run. `on_step` is told after each entry, `on_decision`, where one is given, of
+/// each double.
 std::size_t remove_double_entries(
-    std::vector<BookEntry>& entries, MergeMode mode, const AskAboutDouble& ask,
+    BookList& list, MergeMode mode, const AskAboutDouble& ask,
     const std::function<void(std::size_t done, std::size_t total)>& on_step,
     const OnDecision& on_decision = {});
 

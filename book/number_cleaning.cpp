@@ -11,26 +11,52 @@ constexpr std::size_t kShortestCode = 3;
 /// The characters that numbers are written with and that no number keeps.
 constexpr CharacterSet kPunctuation(" -()/\\,.[]\"\"+=?*#");
 
+/// Takes every occurrence of a part out.
+void remove_all(std::string& text, std::string_view part) {
+  for (auto at = text.find(part); at != text.npos; at = text.find(part, at)) {
+    text.erase(at, part.size());
+  }
+}
+
 }  // namespace
 
-std::string clean_number(std::string_view number, std::string_view own_country_code) {
-  // "+" becomes "00" before the bracket rule looks for "(0", and before the punctuation goes, of
-  // which it would be a part.
-  std::string dialled;
-  if (number.find('+') != number.npos) number = dialled = replace_all(number, "+", "00");
-  std::string result;
+void clean_number(std::string_view number, std::string_view own_country_code,
+                  std::string& cleaned) {
+  cleaned.resize(2 * number.size() + 1);
+  char* to = cleaned.data() + 1;  // behind room for a leading "0"
   for (std::size_t i = 0; i < number.size(); ++i) {
-    if (number[i] == '(' && i + 1 < number.size() && number[i + 1] == '0') {
-      ++i;
-    } else if (!kPunctuation.contains(number[i])) {
-      result += number[i];
+    const char c = number[i];
+    if (!kPunctuation.contains(c)) {
+      *to++ = c;
+    } else if (c == '+') {
+      *to++ = '0';
+      *to++ = '0';
+    } else if (c == '(' && i + 1 < number.size()) {
+      // "(0" goes as a whole. A "+" counts as "00", of which the second "0" stays.
+      const char next = number[i + 1];
+      if (next == '0' || next == '+') ++i;
+      if (next == '+') *to++ = '0';
     }
   }
-  if (!own_country_code.empty() && result.starts_with(own_country_code)) {
-    result = replace_all(result, own_country_code, "");
+  cleaned.resize(static_cast<std::size_t>(to - cleaned.data()));
+  if (!own_country_code.empty() &&
+      std::string_view(cleaned).substr(1).starts_with(own_country_code)) {
+    cleaned.erase(0, 1);
+    remove_all(cleaned, own_country_code);
+    cleaned.insert(0, 1, '0');
   }
-  if (!result.starts_with('0')) result.insert(0, 1, '0');
-  return result;
+  const bool leading_zero = cleaned.size() > 1 && cleaned[1] == '0';
+  if (leading_zero) {
+    cleaned.erase(0, 1);
+  } else {
+    cleaned[0] = '0';
+  }
+}
+
+std::string clean_number(std::string_view number, std::string_view own_country_code) {
+  std::string cleaned;
+  clean_number(number, own_country_code, cleaned);
+  return cleaned;
 }
 
 std::string add_area_code(std::string_view number, std::string_view own_area_code) {

@@ -11,6 +11,8 @@ namespace quenda {
 /// punctuation, without the own country code, and with a leading "0". A number that begins with the
 /// own country code loses every further occurrence of it too. Never empty: at least "0".
 std::string clean_number(std::string_view number, std::string_view own_country_code);
+/// The same into a text whose memory is used again.
+void clean_number(std::string_view number, std::string_view own_country_code, std::string& cleaned);
 
 /// A short local number (no leading "0", at most 8 characters) with the own area code in front; any
 /// other number as it is.

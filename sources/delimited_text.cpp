@@ -2,10 +2,12 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <cstring>
 #include <limits>
 #include <utility>
 
 #include "text/fault.h"
+#include "text/place_finder.h"
 #include "text/text.h"
 
 namespace quenda {
@@ -16,25 +18,36 @@ constexpr std::size_t kStepBytes = 64UL * 1024;
 constexpr std::size_t kPauseBytes = 1024UL * 1024;
 
 /// Builds the records inside the buffer that holds the text: what is written never overtakes what
-/// is read.
+/// is read. Only quotes and line feeds need a look; what lies between them is moved as a whole.
 class RecordBuilder {
  public:
-  RecordBuilder(std::string& text, char delimiter) : text_(text), delimiter_(delimiter) {}
+  RecordBuilder(std::string& text, char delimiter)
+      : text_(text), delimiter_(delimiter), marks_(text, kQuote, '\n'), inside_quotes_(delimiter) {}
 
   std::vector<std::size_t> build(const OnStep& on_step) {
     const std::size_t size = text_.size();
-    for (std::size_t next_step = 0; read_ < size;) {
-      if (read_ >= next_step) {
-        on_step(read_ + 1, size);
-        next_step = read_ + kStepBytes;
-      }
-      const std::size_t until = std::min(size, next_step);
-      while (read_ < until) {
+    std::size_t next_step = 0;
+    const auto tell_step = [&] {
+      if (read_ < next_step || read_ >= size) return;
+      on_step(read_ + 1, size);
+      next_step = read_ + kStepBytes;
+    };
+    for (std::size_t mark = 0; mark < size;) {
+      tell_step();
+      mark = marks_.next();
+      // A long way to the next mark is gone in steps, too.
+      while (mark - read_ > kStepBytes && (in_quotes_ || !quoted_field_)) {
         if (in_quotes_) {
-          take_quoted();
+          change_until(read_ + kStepBytes);
         } else {
-          take_plain(until);
+          move_until(read_ + kStepBytes);
         }
+        tell_step();
+      }
+      if (in_quotes_) {
+        take_quoted(mark);
+      } else {
+        take_plain(mark);
       }
     }
     finish_text();
@@ -42,88 +55,124 @@ class RecordBuilder {
   }
 
  private:
-  [[nodiscard]] bool quote_follows() const {
-    return read_ + 1 < text_.size() && text_[read_ + 1] == kQuote;
-  }
+  /// What becomes of the characters inside quotes.
+  class QuotedCharacters {
+   public:
+    explicit QuotedCharacters(char delimiter) {
+      for (std::size_t i = 0; i < of_.size(); ++i) of_[i] = static_cast<char>(i);
+      of_[index('\r')] = of_[index('\n')] = ' ';
+      of_[index(delimiter)] = '|';
+    }
+    char operator[](char c) const { return of_[index(c)]; }
+
+   private:
+    static std::size_t index(char c) { return static_cast<unsigned char>(c); }
+    std::array<char, 256> of_{};
+  };
 
   void put(char c) { text_[written_++] = c; }
 
-  /// Moves the characters up to the next one that means something outside quotes.
-  void copy_plain(std::size_t until) {
-    // Plain pointers: through the text the compiler would load its address anew for each byte.
-    char* const data = text_.data();
-    const char delimiter = delimiter_;
-    std::size_t from = read_;
-    std::size_t to = written_;
-    while (from < until && data[from] != delimiter && data[from] != '\n') data[to++] = data[from++];
-    read_ = from;
-    written_ = to;
+  /// Moves what lies before a place, as it is.
+  void move_until(std::size_t place) {
+    const std::size_t size = place - read_;
+    if (written_ != read_) std::memmove(text_.data() + written_, text_.data() + read_, size);
+    written_ += size;
+    read_ = place;
   }
 
-  /// Copies up to the next character that means something outside quotes, and takes that too.
-  void take_plain(std::size_t until) {
-    copy_plain(until);
-    if (read_ == until) return;
-    const char c = text_[read_];
-    if (c == delimiter_ && quote_follows()) {
-      open_quotes();
+  /// Moves what lies before a place inside quotes.
+  void change_until(std::size_t place) {
+    // Plain pointers: through the text the compiler would load its address anew for each byte.
+    const char* from = text_.data() + read_;
+    const char* const end = text_.data() + place;
+    char* to = text_.data() + written_;
+    while (from != end) *to++ = inside_quotes_[*from++];
+    written_ += place - read_;
+    read_ = place;
+  }
+
+  /// Takes what lies before the next quote or line feed outside quotes, and the mark itself.
+  void take_plain(std::size_t mark) {
+    // Of the fields in between only the first can have begun with a quote, and so be cut.
+    if (quoted_field_ && read_ < mark) {
+      const std::size_t end = text_.find(delimiter_, read_);
+      const bool opens_next = end + 1 == mark && mark < text_.size() && text_[mark] == kQuote;
+      if (end < mark && !opens_next) {
+        move_until(end);
+        finish_field();
+        ++read_;
+      }
+    }
+    if (mark == text_.size()) {
+      move_until(mark);
+    } else if (text_[mark] == '\n') {
+      move_until(mark);
+      ++read_;
+      end_line();
+    } else if (mark > read_ && text_[mark - 1] == delimiter_) {
+      move_until(mark - 1);
+      open_quotes(mark);
     } else {
-      put_outside(c);
+      move_until(mark);
+      quoted_field_ = quoted_field_ || field_is_empty();
+      put(kQuote);
       ++read_;
     }
   }
 
-  /// One character inside quotes. The quoted part ends one character before the closing quote.
-  void take_quoted() {
-    const char c = text_[read_];
-    if (c == delimiter_ && quote_follows()) {
-      open_quotes();
+  /// Takes what lies before the next mark inside quotes. The quoted part ends one character before
+  /// the closing quote; that character and the quote are taken as if they stood outside.
+  void take_quoted(std::size_t mark) {
+    const bool closes = mark < text_.size() && text_[mark] == kQuote && mark > read_;
+    change_until(closes ? mark - 1 : mark);
+    if (!closes) return;
+    const char last = text_[read_];
+    if (last == delimiter_) {
+      open_quotes(mark);
       return;
     }
-    if (quote_follows()) {
-      in_quotes_ = false;
-      put_outside(c);
-    } else if (c == '\r' || c == '\n') {
-      put(' ');
-    } else {
-      put(c == delimiter_ ? '|' : c);
-    }
+    in_quotes_ = false;
     ++read_;
+    if (last == '\n') {
+      end_line();
+    } else {
+      put(last);
+    }
+    take_plain(mark);
   }
 
-  void open_quotes() {
+  /// A delimiter with a quote behind it.
+  void open_quotes(std::size_t quote) {
     finish_field();
     put(kQuote);
-    read_ += 2;
+    quoted_field_ = true;
     in_quotes_ = true;
-  }
-
-  void put_outside(char c) {
-    if (c == delimiter_) {
-      finish_field();
-    } else if (c != '\n') {
-      put(c);
-    } else if (written_ > field_ && text_[written_ - 1] == '\r') {
-      --written_;
-      finish_record();
-    }
+    read_ = quote + 1;
   }
 
   /// A field that begins with a quote and does not end with one was cut by a delimiter that
   /// belongs to it.
   [[nodiscard]] char field_end() const {
-    const bool cut = written_ > field_ && text_[field_] == kQuote && text_[written_ - 1] != kQuote;
-    return cut ? '|' : delimiter_;
+    return quoted_field_ && text_[written_ - 1] != kQuote ? '|' : delimiter_;
   }
 
   void finish_field() {
     put(field_end());
     field_ = written_;
+    quoted_field_ = false;
   }
 
-  void finish_record() {
+  /// Moved as a whole, delimiters leave no other trace than being the last character.
+  [[nodiscard]] bool field_is_empty() const {
+    return written_ == starts_.back() || written_ == field_ || text_[written_ - 1] == delimiter_;
+  }
+
+  /// A line feed ends a record with the CR before it; a lone one is dropped.
+  void end_line() {
+    if (written_ == starts_.back() || text_[written_ - 1] != '\r') return;
+    --written_;
     starts_.push_back(written_);
-    field_ = written_;
+    quoted_field_ = false;
   }
 
   void finish_text() {
@@ -139,20 +188,23 @@ class RecordBuilder {
 
   std::string& text_;
   char delimiter_;
+  PlaceFinder marks_;
+  QuotedCharacters inside_quotes_;
   std::size_t read_ = 0;
   std::size_t written_ = 0;
-  std::size_t field_ = 0;  // where the field being written begins
   bool in_quotes_ = false;
+  std::size_t field_ = 0;      // behind the field that was finished last
+  bool quoted_field_ = false;  // the field being written begins with a quote
   std::vector<std::size_t> starts_ = {0};
 };
 
-/// The delimiters of a record as the 16-bit number that the record check works with.
-std::int16_t delimiters_of(std::string_view record, char delimiter) {
+/// The record check works with 16-bit numbers.
+constexpr std::size_t kMostDelimiters = std::numeric_limits<std::int16_t>::max();
+
+std::size_t delimiters_of(std::string_view record, char delimiter) {
   const std::size_t count = count_of(record, delimiter);
-  if (count > static_cast<std::size_t>(std::numeric_limits<std::int16_t>::max())) {
-    raise_fault(kFaultOverflow);
-  }
-  return static_cast<std::int16_t>(count);
+  if (count > kMostDelimiters) raise_fault(kFaultOverflow);
+  return count;
 }
 
 }  // namespace
@@ -220,11 +272,13 @@ RecordTable build_records(std::string text, char delimiter, const OnStep& on_ste
 
 void pad_records(RecordTable& records, char delimiter, const OnStep& on_step) {
   if (records.empty()) return;
-  const auto header = static_cast<std::size_t>(delimiters_of(records[0], delimiter));
+  const std::size_t header = delimiters_of(records[0], delimiter);
   for (std::size_t i = 0; i < records.size(); ++i) {
-    // Padded as far as this record, should the count overflow.
-    records.pad(header, i);
-    delimiters_of(records[i], delimiter);
+    if (records[i].size() > kMostDelimiters) {
+      // Padded as far as this record, should the count overflow.
+      records.pad(header, i);
+      delimiters_of(records[i], delimiter);
+    }
     on_step(i + 1, records.size());
   }
   records.pad(header, records.size());

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "text/fault.h"
+#include "text/place_finder.h"
 #include "text/text.h"
 
 namespace quenda {
@@ -35,13 +36,14 @@ void RecordFields::split(const RecordTable& table, std::size_t record, char deli
                          std::size_t last) {
   fields_.clear();
   padded_ = table.padded_delimiters(record);
-  std::string_view rest = table[record];
+  const std::string_view text = table[record];
+  PlaceFinder delimiters(text, delimiter, delimiter);
   bool more = true;
-  while (more && fields_.size() <= last) {
-    const auto at = rest.find(delimiter);
-    more = at != rest.npos;
-    fields_.push_back(rest.substr(0, at));
-    if (more) rest.remove_prefix(at + 1);
+  for (std::size_t start = 0; more && fields_.size() <= last;) {
+    const std::size_t end = delimiters.next();
+    more = end < text.size();
+    fields_.push_back(text.substr(start, end - start));
+    start = end + 1;
   }
   has_delimiter_ = more || fields_.size() > 1 || padded_ > 0;
 }

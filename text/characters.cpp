@@ -97,19 +97,19 @@ std::int16_t filter_key(std::int16_t code, KeyFilter filter) {
 void remove_repeated_lines(FlatTable& rows, const std::function<void()>& pause) {
   constexpr std::size_t kAhead = 12;
   constexpr std::size_t kRowsPerPause = 4096;
-  std::vector<std::uint64_t> hashes(rows.rows());
+  std::vector<std::uint32_t> hashes(rows.rows());
   for (std::size_t i = 0; i < hashes.size(); ++i) {
     if (i % kRowsPerPause == 0) pause();
-    hashes[i] = hash_of(rows.line(i));
+    hashes[i] = short_hash_of(rows.line(i));
   }
   ViewIndex kept(rows.rows());
-  const auto kept_line = [&](std::uint32_t row) { return rows.line(row); };
   rows.keep_rows([&](std::size_t row, std::size_t place) {
     if (row % kRowsPerPause == 0) pause();
     if (row + kAhead < hashes.size()) kept.announce(hashes[row + kAhead]);
     const std::string_view line = rows.line(row);
-    return !line.empty() && kept.find_or_add(line, hashes[row], static_cast<std::uint32_t>(place),
-                                             kept_line) == ViewIndex::kNone;
+    const auto same = [&](std::uint32_t other) { return rows.line(other) == line; };
+    return !line.empty() && kept.find_or_add(hashes[row], static_cast<std::uint32_t>(place),
+                                             same) == ViewIndex::kNone;
   });
 }
 

@@ -92,6 +92,10 @@ int short_number(std::string_view text) {
 }  // namespace
 
 bool is_numeric(std::string_view text) {
+  if (!text.empty() &&
+      skip_digits(text.data(), text.data() + text.size()) == text.data() + text.size()) {
+    return true;
+  }
   NumberParts parts;
   return scan(text, parts);
 }

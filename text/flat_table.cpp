@@ -20,7 +20,7 @@ void FlatTable::check(std::size_t row, std::size_t column) const {
 std::string_view FlatTable::cell(std::size_t row, std::size_t column) const {
   check(row, column);
   std::size_t start = starts_[row] + column;
-  const std::uint32_t* const length = &lengths_[row * columns_];
+  const std::uint32_t* const length = lengths_.data() + row * columns_;
   for (std::size_t i = 0; i < column; ++i) start += length[i];
   return {buffer_.data() + start, length[column]};
 }
@@ -52,11 +52,14 @@ void FlatTable::reserve(std::size_t rows, std::size_t bytes) {
 std::size_t FlatTable::store(std::span<const std::string_view> cells,
                              std::span<std::uint32_t> lengths) {
   const std::size_t start = buffer_.size();
+  std::size_t size = columns_ - 1;
+  for (const std::string_view cell : cells) size += cell.size();
+  buffer_.resize(start + size, kBetweenCells);
+  char* to = buffer_.data() + start;
   for (std::size_t i = 0; i < columns_; ++i) {
     const std::string_view text = i < cells.size() ? cells[i] : std::string_view();
     if (text.size() > std::numeric_limits<std::uint32_t>::max()) raise_fault(kFaultOutOfMemory);
-    if (i > 0) buffer_ += kBetweenCells;
-    buffer_ += text;
+    to = std::copy(text.begin(), text.end(), to) + 1;
     lengths[i] = static_cast<std::uint32_t>(text.size());
   }
   return start;
@@ -88,7 +91,9 @@ void FlatTable::remove_row(std::size_t row) {
 void FlatTable::clear() { cut(0, 0); }
 
 void FlatTable::replace(char from, char to) {
-  std::replace(buffer_.begin(), buffer_.end(), from, to);
+  for (auto at = buffer_.find(from); at != buffer_.npos; at = buffer_.find(from, at + 1)) {
+    buffer_[at] = to;
+  }
 }
 
 void FlatTable::pack(std::size_t row, std::size_t place, std::size_t& written) {

@@ -32,6 +32,11 @@ inline std::uint64_t hash_of(std::string_view text) {
   return hash ^ (hash >> 32U);
 }
 
+/// The part of a text's hash that an index works with.
+inline std::uint32_t short_hash_of(std::string_view text) {
+  return static_cast<std::uint32_t>(hash_of(text));
+}
+
 /// Finds rows by a text. It stores row numbers only; the text of a row is asked from the caller, so
 /// that a million keys cost 8 bytes each and no copy. Row numbers go up to 2^32 - 2.
 class ViewIndex {
@@ -45,25 +50,26 @@ class ViewIndex {
   /// `key_of(row)` gives the text of a stored row.
   template <class KeyOf>
   std::uint32_t find_or_add(std::string_view key, std::uint32_t row, KeyOf key_of) {
-    return find_or_add(key, hash_of(key), row, key_of);
+    return find_or_add(short_hash_of(key), row,
+                       [&](std::uint32_t stored) { return key_of(stored) == key; });
   }
-  /// The same for a key whose hash is known.
-  template <class KeyOf>
-  std::uint32_t find_or_add(std::string_view key, std::uint64_t hash, std::uint32_t row,
-                            KeyOf key_of) {
+  /// The same where the hash is known and the key need not be at hand: `same(row)` tells whether a
+  /// stored row has the key. It is asked for rows with the same hash only.
+  template <class Same>
+  std::uint32_t find_or_add(std::uint32_t hash, std::uint32_t row, Same same) {
     if (2 * (used_ + 1) > slots_.size()) resize(2 * used_ + 2);
-    Slot& slot = slots_[position(key, hash, key_of)];
+    Slot& slot = slots_[position(hash, same)];
     if (slot.row != kNone) return slot.row;
-    slot = {static_cast<std::uint32_t>(hash), row};
+    slot = {hash, row};
     ++used_;
     return kNone;
   }
 
   /// Announces a look-up that comes soon. In a large index nearly every look-up waits for memory;
   /// announced some ten look-ups ahead, the waiting times overlap.
-  void announce(std::uint64_t hash) const {
+  void announce(std::uint32_t hash) const {
 #ifdef __GNUC__
-    __builtin_prefetch(&slots_[static_cast<std::uint32_t>(hash) & (slots_.size() - 1)], 1);
+    __builtin_prefetch(&slots_[hash & (slots_.size() - 1)], 1);
 #else
     (void)hash;
 #endif
@@ -72,13 +78,15 @@ class ViewIndex {
   /// The row stored under the key, kNone when there is none.
   template <class KeyOf>
   [[nodiscard]] std::uint32_t find(std::string_view key, KeyOf key_of) const {
-    return slots_[position(key, hash_of(key), key_of)].row;
+    return slots_[position(short_hash_of(key),
+                           [&](std::uint32_t stored) { return key_of(stored) == key; })]
+        .row;
   }
 
-  /// Lets a key that is stored stand for another row with the same text from now on.
-  template <class KeyOf>
-  void replace(std::string_view key, std::uint32_t row, KeyOf key_of) {
-    Slot& slot = slots_[position(key, hash_of(key), key_of)];
+  /// Lets a stored key stand for another row from now on; `same` as for `find_or_add`.
+  template <class Same>
+  void replace(std::uint32_t hash, std::uint32_t row, Same same) {
+    Slot& slot = slots_[position(hash, same)];
     if (slot.row != kNone) slot.row = row;
   }
 
@@ -88,14 +96,11 @@ class ViewIndex {
     std::uint32_t row = kNone;
   };
 
-  template <class KeyOf>
-  [[nodiscard]] std::size_t position(std::string_view key, std::uint64_t hash,
-                                     KeyOf& key_of) const {
-    const auto short_hash = static_cast<std::uint32_t>(hash);
+  template <class Same>
+  [[nodiscard]] std::size_t position(std::uint32_t hash, Same same) const {
     const std::size_t mask = slots_.size() - 1;
-    std::size_t at = short_hash & mask;
-    while (slots_[at].row != kNone &&
-           (slots_[at].hash != short_hash || key_of(slots_[at].row) != key)) {
+    std::size_t at = hash & mask;
+    while (slots_[at].row != kNone && (slots_[at].hash != hash || !same(slots_[at].row))) {
       at = (at + 1) & mask;
     }
     return at;

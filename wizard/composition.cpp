@@ -9,46 +9,9 @@
 #include "text/text.h"
 
 namespace quenda {
-namespace {
-
-/// Adds the field as the cell of an entry has it: without quotes, and with a blank for a line
-/// break.
-void append_cell(std::string& out, std::string_view field) {
-  if (field.find_first_of("\r\n") != field.npos) {
-    append_cell(out, without_line_breaks(field));
-    return;
-  }
-  for (auto at = field.find('"'); at != field.npos; at = field.find('"')) {
-    out += field.substr(0, at);
-    field.remove_prefix(at + 1);
-  }
-  out += field;
-}
-
-void append_name(std::string& out, std::string_view first, std::string_view second, bool flip) {
-  append_cell(out, flip ? second : first);
-  out += ' ';
-  append_cell(out, flip ? first : second);
-}
-
-template <class Parts>
-void append_parts(std::string& out, const Parts& parts, const AddressOrder& order) {
-  if (order.size() == 1) {
-    out += parts[0];
-    return;
-  }
-  for (std::size_t i = 0; i < order.size(); ++i) {
-    if (i > 0) out += ' ';
-    out += parts[order[i]];
-  }
-}
-
-}  // namespace
 
 std::string compose_name(std::string_view first, std::string_view second, bool flip) {
-  std::string name;
-  append_name(name, first, second, flip);
-  return name;
+  return replace_all(concat(flip ? second : first, " ", flip ? first : second), "\"", "");
 }
 
 const std::vector<AddressOrder>& address_orders(std::size_t parts) {
@@ -92,23 +55,42 @@ EntryComposer::EntryComposer(Composition composition, char delimiter, CleanNumbe
   }
 }
 
+void EntryComposer::append_cell(std::string& out, std::string_view field) const {
+  if (has_breaks_ && field.find_first_of("\r\n") != field.npos) {
+    append_cell(out, without_line_breaks(field));
+    return;
+  }
+  if (has_quotes_) {
+    for (auto at = field.find('"'); at != field.npos; at = field.find('"')) {
+      out += field.substr(0, at);
+      field.remove_prefix(at + 1);
+    }
+  }
+  out += field;
+}
+
 void EntryComposer::compose(const RecordTable& records, std::size_t record, FlatTable& entries) {
   fields_.split(records, record, delimiter_, last_column_);
   if (!fields_.has_delimiter()) return;
+  const std::string_view text = records[record];
+  has_quotes_ = text.find('"') != text.npos;
+  has_breaks_ = text.find('\r') != text.npos || text.find('\n') != text.npos;
   const ColumnChoice& columns = composition_.columns;
   const auto name_part = [&](std::size_t part) {
     return part < columns.names.size() ? fields_[columns.names[part]] : std::string_view();
   };
   name_.clear();
-  append_name(name_, name_part(0), name_part(1), composition_.flip_name);
+  append_cell(name_, name_part(composition_.flip_name ? 1 : 0));
+  name_ += ' ';
+  append_cell(name_, name_part(composition_.flip_name ? 0 : 1));
 
   const std::size_t rows = std::min(columns.numbers.size(), kNumberRows);
-  std::string number;
   for (std::size_t row = 0; row < rows; ++row) {
-    number.clear();
-    append_cell(number, fields_[columns.numbers[row]]);
-    if (number.empty()) continue;
-    add_entry(record, row, clean_(number), entries);
+    number_.clear();
+    append_cell(number_, fields_[columns.numbers[row]]);
+    if (number_.empty()) continue;
+    clean_(number_, cleaned_);
+    add_entry(record, row, cleaned_, entries);
   }
 }
 
@@ -134,12 +116,16 @@ std::string_view EntryComposer::address_of(std::size_t row) {
   const Binding binding = composition_.bindings[row];
   if (binding == Binding::kNone) return {};
   const auto& positions = composition_.columns.addresses[binding == Binding::kAddress2 ? 1 : 0];
-  for (std::size_t i = 0; i < parts_.size(); ++i) {
-    parts_[i].clear();
-    if (i < positions.size()) append_cell(parts_[i], fields_[positions[i]]);
+  std::array<std::string_view, kAddressParts> parts;
+  for (std::size_t i = 0; i < std::min(positions.size(), parts.size()); ++i) {
+    parts[i] = fields_[positions[i]];
   }
+  const AddressOrder& order = composition_.address_order;
   address_.clear();
-  append_parts(address_, parts_, composition_.address_order);
+  for (std::size_t i = 0; i < order.size(); ++i) {
+    if (i > 0) address_ += ' ';
+    append_cell(address_, parts[order.size() == 1 ? 0 : order[i]]);
+  }
   return trim(address_);
 }
 

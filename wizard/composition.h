@@ -15,6 +15,7 @@ namespace quenda {
 
 inline constexpr std::size_t kNumberRows = 3;
 inline constexpr std::size_t kAddressCount = 2;
+inline constexpr std::size_t kAddressParts = 3;
 
 /// What a number row takes as its address.
 enum class Binding { kNone, kAddress1, kAddress2 };
@@ -39,8 +40,8 @@ struct Composition {
   std::array<Binding, kNumberRows> bindings{};
 };
 
-/// Two name parts with a blank between; flipped, the second comes first. The blank stays when a
-/// part is empty.
+/// Two name parts as a name shows them: without quotes, with a blank between; flipped, the second
+/// comes first. The blank stays when a part is empty.
 std::string compose_name(std::string_view first, std::string_view second, bool flip);
 
 /// The possible orders of so many address parts, in the order of the list that offers them: none
@@ -55,7 +56,7 @@ std::string address_order_name(const std::vector<std::string>& parts, const Addr
 std::string address_preview(const std::vector<std::string>& parts, const AddressOrder& order);
 
 /// Brings a number into dialling form.
-using CleanNumber = std::function<std::string(std::string_view)>;
+using CleanNumber = std::function<void(std::string_view number, std::string& cleaned)>;
 
 /// A number of a record on its way into an entry. The texts are good only while one is told of it.
 struct NumberSeen {
@@ -87,14 +88,19 @@ class EntryComposer {
  private:
   void add_entry(std::size_t record, std::size_t row, std::string_view number, FlatTable& entries);
   [[nodiscard]] std::string_view address_of(std::size_t row);
+  /// Adds a field as the cell of an entry has it: without quotes, with a blank for a line break.
+  void append_cell(std::string& out, std::string_view field) const;
 
   Composition composition_;
   char delimiter_;
   CleanNumber clean_;
   std::size_t last_column_ = 0;
   RecordFields fields_;
+  bool has_quotes_ = false;  // the record that is being composed
+  bool has_breaks_ = false;
   std::string name_;
-  std::array<std::string, 3> parts_;
+  std::string number_;
+  std::string cleaned_;
   std::string address_;
 };
 

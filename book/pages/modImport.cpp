@@ -5,12 +5,12 @@
 namespace quenda::modImport {
 
 std::optional<std::size_t> RemoveDoubleEntriesTypedImportArray(
-    clsErrorHandling& errors, std::vector<BookEntry>& entries, MergeMode mode,
-    const AskAboutDouble& ask, const std::function<void(std::size_t, std::size_t)>& on_step) {
+    clsErrorHandling& errors, BookList& list, MergeMode mode, const AskAboutDouble& ask,
+    const std::function<void(std::size_t, std::size_t)>& on_step) {
   std::optional<std::size_t> kept;
   const bool done =
       procedure_with_message(errors, "modImport.RemoveDoubleEntriesTypedImportArray", {}, {},
-                             [&] { kept = remove_double_entries(entries, mode, ask, on_step); });
+                             [&] { kept = remove_double_entries(list, mode, ask, on_step); });
   return done ? kept : std::nullopt;
 }
 

@@ -3,7 +3,6 @@
 #include <cstddef>
 #include <functional>
 #include <optional>
-#include <vector>
 
 #include "book/merge.h"
 #include "support/clsErrorHandling.h"
@@ -14,8 +13,7 @@ namespace quenda::modImport {
 /// `remove_double_entries`. Returns the number of entries kept; nothing after a fault, which the
 /// user has then been shown, and which leaves the list of no use.
 [[nodiscard]] std::optional<std::size_t> RemoveDoubleEntriesTypedImportArray(
-    clsErrorHandling& errors, std::vector<BookEntry>& entries, MergeMode mode,
-    const AskAboutDouble& ask,
+    clsErrorHandling& errors, BookList& list, MergeMode mode, const AskAboutDouble& ask,
     const std::function<void(std::size_t done, std::size_t total)>& on_step);
 
 }  // namespace quenda::modImport

@@ -92,8 +92,8 @@ void SourcePage::read_file(const std::string& path) {
   source.ImportText = std::make_shared<std::string>(
       clsFiles(app_.errors, app_.machine.files, app_.machine.clock).fOpenFileToStream(path, count));
   pause();
-  RecordTable lines = split_lines(source.ImportText);
-  if (!lines.empty()) source.ImportRows = std::move(lines);
+  // The records of a delimited file are built when its delimiter is settled.
+  if (is_ispy_log(path)) source.ImportRows = split_lines(source.ImportText);
   pause();
   shell_.StatusBar.set_panel(2, "");
   shell_.show_counts(static_cast<std::size_t>(count), shell_.texts["Import_Info_FileRead"]);

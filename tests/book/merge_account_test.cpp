@@ -2,29 +2,39 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <string>
+#include <string_view>
 #include <vector>
+
+#include "book/entry_list.h"
+#include "text/text.h"
 
 namespace quenda {
 namespace {
 
 using Names = std::vector<std::string>;
 
+std::string_view name_of(std::string_view text) { return text.substr(0, text.find(' ')); }
+std::string_view number_of(std::string_view text) { return text.substr(text.find(' ') + 1); }
+
 /// "name number", merged as the book's entries and the new ones; "fate existing/with" of each new
 /// one, the names standing for the positions.
 class MergeFates : public testing::Test {
  protected:
   Names fates(const Names& book, const Names& fresh, MergeMode mode) {
-    std::vector<BookEntry> list;
-    for (const Names* part : {&book, &fresh}) {
-      for (const std::string& text : *part) {
-        BookEntry entry;
-        entry.Name = std::string_view(text).substr(0, text.find(' '));
-        entry.Number = std::string_view(text).substr(text.find(' ') + 1);
-        list.push_back(entry);
-      }
+    std::string text_of_book;
+    for (const std::string& text : book) {
+      text_of_book += concat(name_of(text), ";", number_of(text), ";0;0;0;0;;;[vcd()vcd]\r\n");
     }
-    const std::vector<BookEntry> all = list;
+    FlatTable rows(kEntryColumns);
+    for (const std::string& text : fresh) {
+      rows.add_row(std::array{name_of(text), number_of(text)});
+    }
+    BookList list(text_of_book, LineEnd::kCrLf, rows);
+    std::string_view line;
+    list.read_book(line, [](auto, auto) {});
+    list.add_rows([](auto, auto) {});
     MergeAccount account(book.size(), fresh.size(), questions_);
     const std::size_t kept = remove_double_entries(
         list, mode, [this](auto, const auto&, const auto&) { return answer_; }, [](auto, auto) {},
@@ -34,8 +44,8 @@ class MergeFates : public testing::Test {
     for (std::size_t i = 0; i < fresh.size(); ++i) {
       const MergeAccount::Verdict verdict = account.of(i);
       std::string text(words_of(verdict.fate).key);
-      if (verdict.existing) text += " book:" + std::string(all[*verdict.existing].Name);
-      if (verdict.with) text += " with:" + std::string(all[book.size() + *verdict.with].Name);
+      if (verdict.existing) text += " book:" + std::string(name_of(book[*verdict.existing]));
+      if (verdict.with) text += " with:" + std::string(name_of(fresh[*verdict.with]));
       result.push_back(text);
     }
     return result;

@@ -2,9 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
+
+#include "book/entry_list.h"
 
 namespace quenda {
 namespace {
@@ -19,29 +23,51 @@ BookEntry entry(std::string_view name, std::string_view number, std::string_view
 
 class RemoveDoubleEntries : public testing::Test {
  protected:
-  std::size_t remove(std::vector<BookEntry> entries) {
-    entries_ = std::move(entries);
+  /// The last of the entries may be rows of the final list, which come behind the book.
+  std::size_t remove(const std::vector<BookEntry>& entries, std::size_t rows = 0) {
+    const std::size_t in_book = entries.size() - rows;
+    book_.clear();
+    rows_.clear();
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+      const BookEntry& e = entries[i];
+      if (i < in_book) {
+        append_book_line(book_, e);
+      } else {
+        rows_.add_row(std::array{e.Name, e.Number, e.Address});
+      }
+    }
+    const auto no_step = [](auto, auto) {};
+    list_.emplace(book_, LineEnd::kCrLf, rows_);
+    std::string_view line;
+    list_->read_book(line, no_step);
+    list_->add_rows(no_step);
+    EXPECT_EQ(list_->in_book(), in_book);
     return remove_double_entries(
-        entries_, mode_,
+        *list_, mode_,
         [this](std::string_view number, const std::string& existing, const std::string& fresh) {
           questions_.push_back(std::string(number) + ": " + existing + " / " + fresh);
           return answer_;
         },
-        [](auto, auto) {});
+        no_step, on_decision_);
   }
   /// "name:number" of what would be written.
   [[nodiscard]] std::vector<std::string> written() const {
     std::vector<std::string> lines;
-    for (const BookEntry& e : entries_) {
-      if (!e.Number.empty()) lines.push_back(std::string(e.Name) + ":" + std::string(e.Number));
+    for (std::size_t i = 0; i < list_->size(); ++i) {
+      if (!list_->written(i)) continue;
+      const BookEntry e = list_->entry(i);
+      lines.push_back(std::string(e.Name) + ":" + std::string(e.Number));
     }
     return lines;
   }
   using Lines = std::vector<std::string>;
 
-  std::vector<BookEntry> entries_;
+  std::string book_;
+  FlatTable rows_{kEntryColumns};
+  std::optional<BookList> list_;
   MergeMode mode_ = MergeMode::kAsk;
   DoubleAnswer answer_;
+  OnDecision on_decision_;
   Lines questions_;
 };
 
@@ -58,19 +84,24 @@ TEST_F(RemoveDoubleEntries, KeepsTheExistingEntry) {
   EXPECT_TRUE(questions_.empty());
 }
 
-TEST_F(RemoveDoubleEntries, ReplacingEntryMovesToTheEndAndKeepsTagAndCountOnly) {
+TEST_F(RemoveDoubleEntries, ReplacingEntryTakesOverTagAndCountOnly) {
   mode_ = MergeMode::kTakeNew;
   BookEntry existing = entry("Alt", "030");
   existing.Tag = "x";
   existing.Count = 7;
   existing.Flag1 = true;
   existing.CardData = "card";
-  EXPECT_EQ(remove({existing, entry("Zwei", "031"), entry("Neu", "030")}), 3U);
-  EXPECT_EQ(written(), (Lines{"Zwei:031", "Neu:030"}));
-  EXPECT_EQ(entries_[2].Tag, "x");
-  EXPECT_EQ(entries_[2].Count, 7);
-  EXPECT_FALSE(entries_[2].Flag1);
-  EXPECT_EQ(entries_[2].CardData, "");
+  for (const std::size_t rows : {0U, 1U}) {
+    EXPECT_EQ(
+        remove({existing, entry("Zwei", "031"), entry("Neu", "030"), entry("Neuer", "030")}, rows),
+        4U);
+    EXPECT_EQ(written(), (Lines{"Zwei:031", "Neuer:030"}));
+    const BookEntry heir = list_->entry(3);
+    EXPECT_EQ(heir.Tag, "x") << "over two replacements";
+    EXPECT_EQ(heir.Count, 7);
+    EXPECT_FALSE(heir.Flag1);
+    EXPECT_EQ(heir.CardData, "");
+  }
 }
 
 TEST_F(RemoveDoubleEntries, ReplacedNumberIsFoundAgainUnderItsNewEntry) {
@@ -105,19 +136,16 @@ TEST_F(RemoveDoubleEntries, NamelessEntryIsReplacedWithoutAQuestionInEveryMode) 
   EXPECT_TRUE(questions_.empty());
 }
 
-TEST_F(RemoveDoubleEntries, TellsOfEachDoubleByThePositionsOfTheListThatCameIn) {
+TEST_F(RemoveDoubleEntries, TellsOfEachDouble) {
   answer_.take_new = true;
-  std::vector<BookEntry> list = {entry("none", ""),    entry("Alt", "030"), entry("Alt", "030"),
-                                 entry("Neu", "030"),  entry("", "040"),    entry("Da", "040"),
-                                 entry("Letzt", "030")};
   std::vector<std::string> told;
-  const auto ask = [this](auto, const auto&, const auto&) { return answer_; };
-  (void)remove_double_entries(
-      list, MergeMode::kAsk, ask, [](auto, auto) {},
-      [&](const DoubleDecision& d) {
-        told.push_back(std::to_string(d.entry) + " " + std::to_string(d.existing) + " " +
-                       std::to_string(static_cast<int>(d.outcome)) + (d.asked ? " asked" : ""));
-      });
+  on_decision_ = [&](const DoubleDecision& d) {
+    told.push_back(std::to_string(d.entry) + " " + std::to_string(d.existing) + " " +
+                   std::to_string(static_cast<int>(d.outcome)) + (d.asked ? " asked" : ""));
+  };
+  remove({entry("none", ""), entry("Alt", "030"), entry("Alt", "030"), entry("Neu", "030"),
+          entry("", "040"), entry("Da", "040"), entry("Letzt", "030")},
+         3);
   EXPECT_EQ(told, (Lines{"2 1 0", "3 1 2 asked", "5 4 2", "6 3 2 asked"}));
 }
 

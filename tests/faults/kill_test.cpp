@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "book/book_entry.h"
-#include "book/book_file.h"
+#include "book/book_lines.h"
 #include "book/unreadable_lines.h"
 #include "tests/shared/fault_of.h"
 #include "tests/shared/memory_tail.h"

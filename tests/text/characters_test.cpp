@@ -104,7 +104,7 @@ TEST(ViewIndex, GrowsFindsAndReplaces) {
   EXPECT_EQ(index.find("key777", key_of), 777U);
   EXPECT_EQ(index.find("key1000", key_of), ViewIndex::kNone);
   keys.emplace_back("key5");
-  index.replace("key5", 1000, key_of);
+  index.replace(short_hash_of("key5"), 1000, [&](auto row) { return keys[row] == "key5"; });
   EXPECT_EQ(index.find_or_add("key5", 1, key_of), 1000U);
 }
 

@@ -25,8 +25,9 @@ class Compose : public testing::Test {
   }
   [[nodiscard]] Texts lines(const std::string& record) const {
     const RecordTable table = build_records(record + "\r\n", ';', [](auto, auto) {});
-    EntryComposer composer(composition_, ';',
-                           [](std::string_view number) { return clean_number(number, "0049"); });
+    EntryComposer composer(composition_, ';', [](std::string_view number, std::string& cleaned) {
+      clean_number(number, "0049", cleaned);
+    });
     FlatTable rows(3);
     composer.compose(table, 0, rows);
     Texts result;
@@ -77,8 +78,9 @@ TEST_F(Compose, LeavesOutWhatIsNoNumber) {
 TEST_F(Compose, TellsOfEveryNumberAlsoOfThoseThatGiveNoEntry) {
   composition_.suffixes = {"", "mobil", ""};
   const RecordTable table = build_records("Meier;Hans;abc;+49 171 99\r\n", ';', [](auto, auto) {});
-  EntryComposer composer(composition_, ';',
-                         [](std::string_view number) { return clean_number(number, "0049"); });
+  EntryComposer composer(composition_, ';', [](std::string_view number, std::string& cleaned) {
+    clean_number(number, "0049", cleaned);
+  });
   Texts seen;
   composer.on_number = [&](const NumberSeen& n) {
     seen.push_back(std::to_string(n.row) + (n.numeric ? " " : " not ") + std::string(n.raw) + ">" +

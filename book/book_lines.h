@@ -1,13 +1,7 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
-#include <functional>
-#include <string>
 #include <string_view>
-#include <vector>
-
-#include "book/book_entry.h"
 
 namespace quenda {
 
@@ -37,17 +31,5 @@ class BookLines {
 /// every CR LF, CR and LF. 0 when there is no such line. Written anew, such a line would keep its
 /// first entry only.
 std::size_t line_of_joined_entries(std::string_view book, LineEnd end);
-
-/// What has to be written so that the book's file holds the entries: everything from the first byte
-/// on that changes.
-struct BookChange {
-  std::uint64_t keep = 0;  // bytes at the front of the file that stay as they are
-  std::string tail;        // what follows them
-};
-
-/// Composes the whole book in memory and compares it with the file's text on the way. Entries
-/// without a number are left out.
-BookChange compose_book(std::string_view old_text, const std::vector<BookEntry>& entries,
-                        const std::function<void(std::size_t done, std::size_t total)>& on_step);
 
 }  // namespace quenda

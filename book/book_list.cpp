@@ -1,0 +1,99 @@
+#include "book/book_list.h"
+
+#include <algorithm>
+
+#include "book/entry_list.h"
+#include "text/text.h"
+#include "text/view_index.h"
+
+namespace quenda {
+
+void BookList::read_book(std::string_view& line, const OnStep& on_step) {
+  const std::size_t lines = count_of(book_, '\n') + 1;
+  places_.reserve(lines);
+  hashes_.reserve(lines + rows_.rows());
+  marks_.reserve(lines + rows_.rows());
+  const std::size_t line_end = end_ == LineEnd::kCrLf ? kCrLf.size() : 1;
+  BookLines reader(book_, end_);
+  std::size_t characters = 0;
+  std::size_t next_start = 0;
+  while (reader.next(line)) {
+    if (line.empty()) continue;
+    characters += line.size();
+    const auto start = static_cast<std::size_t>(line.data() - book_.data());
+    // An empty line in front of it goes when the book is written.
+    if (start != next_start && size() > 0) compose_last();
+    next_start = start + line.size() + line_end;
+    const ExaminedLine read = examine_book_line(line);
+    add(read.number, read.plain && end_ == LineEnd::kCrLf ? Mark::kPlain : Mark::kComposed);
+    places_.push_back(start);
+    on_step(characters, book_.size());
+  }
+  if (next_start != book_.size() && size() > 0) compose_last();
+  in_book_ = size();
+  line = {};
+}
+
+void BookList::add_rows(const OnStep& on_step) {
+  const std::size_t count = rows_.rows();
+  for (std::size_t row = 0; row < count; ++row) {
+    add(rows_.cell(row, kEntryNumber), Mark::kComposed);
+    on_step(row + 1, count);
+  }
+}
+
+void BookList::add(std::string_view number, Mark mark) {
+  hashes_.push_back(short_hash_of(number));
+  marks_.push_back(number.empty() ? Mark::kDropped : mark);
+}
+
+std::string_view BookList::line(std::size_t entry) const {
+  BookLines reader(book_.substr(places_[entry]), end_);
+  std::string_view line;
+  reader.next(line);
+  return line;
+}
+
+std::string_view BookList::number(std::size_t entry) const {
+  if (entry >= in_book_) return rows_.cell(row(entry), kEntryNumber);
+  return book_line_number(book_.substr(places_[entry]));
+}
+
+BookContact BookList::contact(std::size_t entry) const {
+  if (entry < in_book_) return book_line_contact(book_.substr(places_[entry]));
+  return {rows_.cell(row(entry), kEntryName), rows_.cell(row(entry), kEntryAddress)};
+}
+
+BookEntry BookList::entry(std::size_t entry) const {
+  BookEntry result = own_entry(entry);
+  if (marks_[entry] != Mark::kInherits) return result;
+  const BookEntry from = own_entry(source_of_tag(entry));
+  result.Tag = from.Tag;
+  result.Count = from.Count;
+  return result;
+}
+
+BookEntry BookList::own_entry(std::size_t entry) const {
+  if (entry < in_book_) return read_book_line(line(entry));
+  BookEntry result;
+  result.Name = rows_.cell(row(entry), kEntryName);
+  result.Number = rows_.cell(row(entry), kEntryNumber);
+  result.Address = rows_.cell(row(entry), kEntryAddress);
+  return result;
+}
+
+void BookList::replace(std::size_t entry, std::size_t later) {
+  const std::size_t from = source_of_tag(entry);
+  inheritances_.push_back({static_cast<std::uint32_t>(later), static_cast<std::uint32_t>(from)});
+  marks_[entry] = Mark::kDropped;
+  marks_[later] = Mark::kInherits;
+}
+
+std::size_t BookList::source_of_tag(std::size_t entry) const {
+  if (marks_[entry] != Mark::kInherits) return entry;
+  return std::lower_bound(inheritances_.begin(), inheritances_.end(), entry,
+                          [](const Inheritance& i, std::size_t heir) { return i.heir < heir; })
+      ->from;
+}
+
+}  // namespace quenda

@@ -1,0 +1,72 @@
+#pragma once
+
+#include <bit>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <string_view>
+
+#if defined(__SSE2__) || defined(_M_X64)
+#include <emmintrin.h>
+#define QUENDA_SSE2 1
+#endif
+
+namespace quenda {
+
+/// Finds the places of two characters in a text, from the front to the back, sixteen bytes at a
+/// time: next to no time is spent on what lies between. The text may change in front of the place
+/// found last.
+class PlaceFinder {
+ public:
+  PlaceFinder(std::string_view text, char first, char second)
+      : text_(text), first_(first), second_(second) {}
+
+  /// The next place of one of the characters; the size of the text when there is none left.
+  std::size_t next() {
+    while (found_ == 0) {
+      if (block_ >= text_.size()) return text_.size();
+      found_ = look_at(block_);
+      block_ += kBlock;
+    }
+    const auto place = static_cast<std::size_t>(std::countr_zero(found_));
+    found_ &= found_ - 1;
+    return block_ - kBlock + place;
+  }
+
+ private:
+  static constexpr std::size_t kBlock = 16;
+
+  /// One bit for each of the sixteen bytes from a place on that is one of the characters.
+  [[nodiscard]] std::uint32_t look_at(std::size_t start) const {
+    if (text_.size() - start >= kBlock) return matches(text_.data() + start);
+    char last[kBlock] = {};
+    const std::size_t left = text_.size() - start;
+    std::memcpy(last, text_.data() + start, left);
+    return matches(last) & ((1U << left) - 1);
+  }
+
+#ifdef QUENDA_SSE2
+  [[nodiscard]] std::uint32_t matches(const char* block) const {
+    const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(block));
+    const __m128i hits = _mm_or_si128(_mm_cmpeq_epi8(bytes, _mm_set1_epi8(first_)),
+                                      _mm_cmpeq_epi8(bytes, _mm_set1_epi8(second_)));
+    return static_cast<std::uint32_t>(_mm_movemask_epi8(hits));
+  }
+#else
+  [[nodiscard]] std::uint32_t matches(const char* block) const {
+    std::uint32_t bits = 0;
+    for (std::size_t i = 0; i < kBlock; ++i) {
+      if (block[i] == first_ || block[i] == second_) bits |= 1U << i;
+    }
+    return bits;
+  }
+#endif
+
+  std::string_view text_;
+  char first_;
+  char second_;
+  std::size_t block_ = 0;    // where the block to be looked at next begins
+  std::uint32_t found_ = 0;  // places of the block before it that have not been returned
+};
+
+}  // namespace quenda
