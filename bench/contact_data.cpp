@@ -1,5 +1,6 @@
 #include "bench/contact_data.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <string_view>
@@ -94,6 +95,51 @@ std::string contact_file(std::size_t contacts) {
                ";\"seit ",
                std::to_string(1990 + sequence.below(30)),
                ", Rabatt\"\r\n"});
+  }
+  return text;
+}
+
+std::string contacts_of_shape(std::string_view shape, std::size_t contacts) {
+  const std::string plain = contact_file(contacts);
+  if (shape == "plain" || shape == "dry-run") return plain;
+  std::string text;
+  text.reserve(2 * plain.size());
+  bool header = true;
+  std::size_t number = 0;
+  for (std::size_t start = 0; start < plain.size(); header = false) {
+    const std::size_t end = plain.find('\r', start);
+    const std::string_view line = std::string_view(plain).substr(start, end - start);
+    start = end + 2;
+    ++number;
+    if (shape == "wide") {
+      text += line;
+      for (int column = 0; column < 22; ++column) {
+        add(text, {";", header ? "S" : "Wert ", std::to_string(column)});
+      }
+    } else if (shape == "numbers") {
+      text += line;
+      const std::string digits = digits_of(number);
+      add(text, {header ? ";Telefon2;Telefon3" : ";0171 ", header ? "" : digits,
+                 header ? "" : ";0049 40 ", header ? "" : digits});
+    } else {
+      std::size_t field = 0;
+      std::array<std::string_view, 8> fields;
+      for (std::size_t at = 0; field < fields.size(); ++field) {
+        const std::size_t next = std::min(line.find(';', at), line.size());
+        fields[field] = line.substr(at, next - at);
+        if (fields[field].starts_with('"')) fields[field] = fields[field].substr(1, next - at - 2);
+        at = next + 1;
+      }
+      if (shape == "quoted") {
+        for (field = 0; field < fields.size(); ++field) {
+          add(text, {field == 0 ? "\"" : ";\"", fields[field], "\""});
+        }
+      } else if (!header) {
+        add(text, {"2014-03-02 17:05:09 ", fields[0], " ", fields[1], " [#030", fields[6].substr(2),
+                   "] ok"});
+      }
+    }
+    if (shape != "log" || !header) text += "\r\n";
   }
   return text;
 }

@@ -1,13 +1,21 @@
-// The stages of an import one by one, on a tenth of the full size.
-#include <benchmark/benchmark.h>
+// The stages of an import one by one, on growing numbers of contacts and entries of the book: the
+// processor time of each (the least of some rounds), and how it grows: an exponent of 1 is in
+// proportion to the size.
+#include <sys/resource.h>
 
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstdio>
+#include <functional>
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
 
 #include "bench/contact_data.h"
-#include "book/book_entry.h"
-#include "book/book_file.h"
+#include "book/book_change.h"
+#include "book/book_list.h"
 #include "book/entry_list.h"
 #include "book/merge.h"
 #include "book/number_cleaning.h"
@@ -20,116 +28,96 @@
 namespace quenda {
 namespace {
 
-constexpr std::size_t kContacts = 100'000;
 constexpr char kDelimiter = ';';
+constexpr int kRounds = 3;
 const auto kNoStep = [](std::size_t, std::size_t) {};
 
-const std::string& contacts() {
-  static const std::string text = contact_file(kContacts);
-  return text;
+double cpu_seconds() {
+  rusage usage{};
+  getrusage(RUSAGE_SELF, &usage);
+  const auto seconds = [](const timeval& time) {
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) / 1e6;
+  };
+  return seconds(usage.ru_utime) + seconds(usage.ru_stime);
 }
 
-const std::string& book() {
-  static const std::string text = phone_book(kContacts);
-  return text;
+/// The least time of each stage, in the order in which they ran first.
+class Times {
+ public:
+  void run(const std::string& stage, const std::function<void()>& work) {
+    const double start = cpu_seconds();
+    work();
+    const double seconds = cpu_seconds() - start;
+    const auto [place, added] = seconds_.emplace(stage, seconds);
+    if (added) order_.push_back(stage);
+    place->second = std::min(place->second, seconds);
+  }
+  [[nodiscard]] const std::vector<std::string>& stages() const { return order_; }
+  [[nodiscard]] double of(const std::string& stage) const { return seconds_.at(stage); }
+
+ private:
+  std::map<std::string, double> seconds_;
+  std::vector<std::string> order_;
+};
+
+Composition composition() {
+  Composition result;
+  result.columns = {{0, 1}, {2}, {std::vector<std::size_t>{4, 5}, {}}};
+  result.address_order = {0, 1};
+  result.bindings[0] = Binding::kAddress1;
+  return result;
 }
 
-RecordTable records() {
-  std::string text = contacts();
-  remove_doubled_quotes(text);
-  RecordTable table = build_records(std::move(text), kDelimiter, kNoStep);
-  pad_records(table, kDelimiter, kNoStep);
-  return table;
-}
-
-FlatTable entries(const RecordTable& table) {
-  Composition composition;
-  composition.columns = {{0, 1}, {2}, {std::vector<std::size_t>{4, 5}, {}}};
-  composition.address_order = {0, 1};
-  composition.bindings[0] = Binding::kAddress1;
-  EntryComposer composer(composition, kDelimiter,
-                         [](std::string_view number) { return clean_number(number, "0049"); });
+void import(const std::string& contacts, const std::string& book, Times& times) {
+  std::string text = contacts;
+  times.run("count delimiters", [&] { (void)choose_delimiter(count_delimiters(text)); });
+  times.run("doubled quotes", [&] { remove_doubled_quotes(text); });
+  RecordTable records;
+  times.run("records", [&] {
+    records = build_records(std::move(text), kDelimiter, kNoStep);
+    pad_records(records, kDelimiter, kNoStep);
+  });
   FlatTable rows(kEntryColumns);
-  for (std::size_t record = 0; record < table.size(); ++record) {
-    composer.compose(table, record, rows);
-  }
-  return rows;
-}
-
-std::vector<BookEntry> entries_of(std::string_view text) {
-  std::vector<BookEntry> entries;
-  BookLines reader(text, LineEnd::kCrLf);
+  times.run("entries", [&] {
+    EntryComposer composer(
+        composition(), kDelimiter,
+        [](std::string_view number, std::string& out) { clean_number(number, "0049", out); });
+    rows.reserve(records.size(), records.bytes());
+    for (std::size_t i = 0; i < records.size(); ++i) composer.compose(records, i, rows);
+  });
+  times.run("repeats", [&] { remove_repeated_lines(rows); });
+  times.run("final list", [&] { rows = entry_rows(std::move(rows), true, kNoStep); });
+  LineEnd end = LineEnd::kCrLf;
+  times.run("line ends", [&] {
+    end = line_end_of(book);
+    (void)line_of_joined_entries(book, end);
+  });
+  BookList list(book, end, rows);
   std::string_view line;
-  while (reader.next(line)) entries.push_back(read_book_line(line));
-  return entries;
+  times.run("book lines", [&] { list.read_book(line, kNoStep); });
+  times.run("new entries", [&] { list.add_rows(kNoStep); });
+  times.run("doubles",
+            [&] { (void)remove_double_entries(list, MergeMode::kKeepExisting, {}, kNoStep); });
+  times.run("compose the book", [&] { (void)compose_book(book, list, kNoStep); });
 }
-
-void CountDelimiters(benchmark::State& state) {
-  for ([[maybe_unused]] auto round : state) {
-    benchmark::DoNotOptimize(choose_delimiter(count_delimiters(contacts())));
-  }
-}
-BENCHMARK(CountDelimiters)->Unit(benchmark::kMillisecond);
-
-void SplitLines(benchmark::State& state) {
-  const auto text = std::make_shared<const std::string>(contacts());
-  for ([[maybe_unused]] auto round : state) benchmark::DoNotOptimize(split_lines(text).size());
-}
-BENCHMARK(SplitLines)->Unit(benchmark::kMillisecond);
-
-void CleanAndPad(benchmark::State& state) {
-  for ([[maybe_unused]] auto round : state) benchmark::DoNotOptimize(records().size());
-}
-BENCHMARK(CleanAndPad)->Unit(benchmark::kMillisecond);
-
-void ComposeEntries(benchmark::State& state) {
-  const RecordTable table = records();
-  for ([[maybe_unused]] auto round : state) benchmark::DoNotOptimize(entries(table).rows());
-}
-BENCHMARK(ComposeEntries)->Unit(benchmark::kMillisecond);
-
-void RemoveRepeatedLines(benchmark::State& state) {
-  const FlatTable all = entries(records());
-  for ([[maybe_unused]] auto round : state) {
-    FlatTable rows = all;
-    remove_repeated_lines(rows);
-    benchmark::DoNotOptimize(rows.rows());
-  }
-}
-BENCHMARK(RemoveRepeatedLines)->Unit(benchmark::kMillisecond);
-
-void EntryRows(benchmark::State& state) {
-  const FlatTable all = entries(records());
-  for ([[maybe_unused]] auto round : state) {
-    benchmark::DoNotOptimize(entry_rows(all, true, kNoStep).rows());
-  }
-}
-BENCHMARK(EntryRows)->Unit(benchmark::kMillisecond);
-
-void ReadBook(benchmark::State& state) {
-  for ([[maybe_unused]] auto round : state) benchmark::DoNotOptimize(entries_of(book()).size());
-}
-BENCHMARK(ReadBook)->Unit(benchmark::kMillisecond);
-
-/// The book and a shifted copy of itself: all doubles.
-void RemoveDoubles(benchmark::State& state) {
-  const std::vector<BookEntry> once = entries_of(book());
-  std::vector<BookEntry> twice = once;
-  twice.insert(twice.end(), once.rbegin(), once.rend());
-  for ([[maybe_unused]] auto round : state) {
-    std::vector<BookEntry> entries = twice;
-    benchmark::DoNotOptimize(remove_double_entries(entries, MergeMode::kKeepExisting, {}, kNoStep));
-  }
-}
-BENCHMARK(RemoveDoubles)->Unit(benchmark::kMillisecond);
-
-void ComposeBook(benchmark::State& state) {
-  const std::vector<BookEntry> entries = entries_of(book());
-  for ([[maybe_unused]] auto round : state) {
-    benchmark::DoNotOptimize(compose_book(book(), entries, kNoStep).keep);
-  }
-}
-BENCHMARK(ComposeBook)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace quenda
+
+int main() {
+  using namespace quenda;
+  constexpr std::array<std::size_t, 3> kSizes = {10'000, 100'000, 1'000'000};
+  std::array<Times, kSizes.size()> times;
+  for (std::size_t i = 0; i < kSizes.size(); ++i) {
+    const std::string contacts = contact_file(kSizes[i]);
+    const std::string book = phone_book(kSizes[i]);
+    for (int round = 0; round < kRounds; ++round) import(contacts, book, times[i]);
+  }
+  std::printf("%-18s %10s %10s %10s  growth\n", "seconds", "10,000", "100,000", "1,000,000");
+  for (const std::string& stage : times[0].stages()) {
+    const double middle = times[1].of(stage);
+    const double large = times[2].of(stage);
+    std::printf("%-18s %10.4f %10.4f %10.4f  %6.2f\n", stage.c_str(), times[0].of(stage), middle,
+                large, std::log10(large / middle));
+  }
+}

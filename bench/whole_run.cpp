@@ -1,13 +1,10 @@
-// Measures a whole run of the console tool against a bare program that only reads the same file and
-// book and writes as many bytes, in turns, so that both see the same state of the machine. Prints
-// medians. Usage: quenda-bench-whole TOOL FOLDER [CONTACTS] [RUNS]
+// Measures whole runs of the console tool, in turns with a bare program that only reads the same
+// files and writes as many bytes (the floor), and with the reference programs, so that all see the
+// same state of the machine. All have to write the same book. Prints medians with the spread.
+// Usage: quenda-bench-whole TOOL REFERENCES FOLDER CONTACTS RUNS SHAPE; see bench/run.
 #include <fcntl.h>
-#include <sys/resource.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
-#include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -18,40 +15,12 @@
 #include <vector>
 
 #include "bench/contact_data.h"
+#include "bench/usage.h"
 
 namespace {
 
 namespace fs = std::filesystem;
-
-struct Usage {
-  double seconds = 0;      // of the wall clock
-  double cpu_seconds = 0;  // of one core
-  double megabytes = 0;    // at peak
-};
-
-double seconds_of(const timeval& time) {
-  return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) / 1e6;
-}
-
-/// Runs something in a process of its own.
-Usage measure(const std::function<void()>& child) {
-  const auto start = std::chrono::steady_clock::now();
-  const pid_t process = fork();
-  if (process == 0) {
-    child();
-    _exit(0);
-  }
-  int status = 0;
-  rusage usage{};
-  wait4(process, &status, 0, &usage);
-  if (status != 0) {
-    std::cerr << "the measured program failed\n";
-    std::exit(1);
-  }
-  const std::chrono::duration<double> elapsed = std::chrono::steady_clock::now() - start;
-  return {elapsed.count(), seconds_of(usage.ru_utime) + seconds_of(usage.ru_stime),
-          static_cast<double>(usage.ru_maxrss) / 1024};
-}
+using quenda::Usage;
 
 void write_file(const fs::path& path, const std::string& bytes) {
   std::ofstream(path, std::ios::binary) << bytes;
@@ -66,72 +35,122 @@ std::string read_file(const fs::path& path) {
 }
 
 /// Reads both files and writes what the tool adds.
-void bare_copy(const fs::path& contacts, const fs::path& book, std::size_t added) {
-  const std::string text = read_file(contacts);
-  const std::string entries = read_file(book);
+void bare_copy(const fs::path& contacts, const fs::path& book, const std::string& added) {
+  read_file(contacts);
+  read_file(book);
   const int file = open(book.c_str(), O_WRONLY | O_APPEND);
-  if (write(file, text.data(), added) != static_cast<ssize_t>(added)) std::abort();
+  if (write(file, added.data(), added.size()) != static_cast<ssize_t>(added.size())) std::abort();
   fsync(file);
   close(file);
 }
 
-double median(std::vector<Usage> runs, double Usage::*value) {
-  std::sort(runs.begin(), runs.end(),
-            [value](const Usage& a, const Usage& b) { return a.*value < b.*value; });
-  return runs[runs.size() / 2].*value;
+/// Lets this process become another program, which says nothing.
+void become(const std::vector<std::string>& command) {
+  const int nowhere = open("/dev/null", O_WRONLY);
+  dup2(nowhere, STDOUT_FILENO);
+  dup2(nowhere, STDERR_FILENO);
+  std::vector<char*> arguments;
+  for (const std::string& argument : command) {
+    arguments.push_back(const_cast<char*>(argument.c_str()));
+  }
+  arguments.push_back(nullptr);
+  execvp(arguments[0], arguments.data());
+  _exit(1);
 }
 
-void print(const char* name, const std::vector<Usage>& runs) {
-  std::printf("%-22s %8.3f s  %8.3f s CPU  %8.1f MB\n", name, median(runs, &Usage::seconds),
-              median(runs, &Usage::cpu_seconds), median(runs, &Usage::megabytes));
+struct Program {
+  const char* name;
+  std::function<void()> run;
+  std::vector<Usage> runs = {};
+};
+
+void print(const Program& program, const Program& floor) {
+  const auto seconds = spread_of(program.runs, &Usage::seconds);
+  const auto cpu = spread_of(program.runs, &Usage::cpu_seconds);
+  const double floor_cpu = spread_of(floor.runs, &Usage::cpu_seconds).median;
+  std::printf("%-16s %7.3f s %7.3f (%.3f-%.3f) s CPU %6.3f s system %8.0f faults %7.1f MB %6.1f\n",
+              program.name, seconds.median, cpu.median, cpu.least, cpu.most,
+              spread_of(program.runs, &Usage::system_seconds).median,
+              spread_of(program.runs, &Usage::faults).median,
+              spread_of(program.runs, &Usage::megabytes).median, cpu.median / floor_cpu);
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc < 3) {
-    std::cerr << "usage: quenda-bench-whole TOOL FOLDER [CONTACTS] [RUNS]\n";
+  if (argc != 7) {
+    std::cerr << "usage: quenda-bench-whole TOOL REFERENCES FOLDER CONTACTS RUNS SHAPE\n";
     return 2;
   }
   const std::string tool = argv[1];
-  const fs::path folder = argv[2];
-  const auto contacts = static_cast<std::size_t>(argc > 3 ? std::atoll(argv[3]) : 1'000'000);
-  const int runs = argc > 4 ? std::atoi(argv[4]) : 5;
+  const std::string references = argv[2];
+  const fs::path folder = argv[3];
+  const auto contacts = static_cast<std::size_t>(std::atoll(argv[4]));
+  const int runs = std::atoi(argv[5]);
+  const std::string shape = argv[6];
 
   fs::create_directories(folder / "data");
   write_file(folder / "Quendapaths.ini", "[Paths]\r\nProgramData=0\r\n");
   write_file(folder / "data/Quenda.ini", "[General]\r\nmyVWL=49\r\nmyVWO=30\r\n");
-  const fs::path file = folder / "contacts.csv";
-  const fs::path book = folder / "data/Quendabook.txt";
-  write_file(file, quenda::contact_file(contacts));
+  const bool log = shape == "log";
+  const std::string file = folder / (log ? "ispy.log" : "contacts.csv");
+  const std::string book = folder / "data/Quendabook.txt";
+  write_file(file, quenda::contacts_of_shape(shape, contacts));
   const std::string fresh_book = quenda::phone_book(contacts);
 
-  const std::string suite = folder.string();
-  const std::string file_text = file.string();
-  std::vector<Usage> tool_runs;
-  std::vector<Usage> bare_runs;
-  for (int i = 0; i < runs; ++i) {
-    write_file(book, fresh_book);
-    tool_runs.push_back(measure([&] {
-      const int nowhere = open("/dev/null", O_WRONLY);
-      dup2(nowhere, STDOUT_FILENO);
-      dup2(nowhere, STDERR_FILENO);
-      execl(tool.c_str(), tool.c_str(), "--suite", suite.c_str(), "--file", file_text.c_str(),
-            "--name", "Nachname", "--name", "Vorname", "--number", "Telefon", "--address1", "PLZ",
-            "--address1", "Ort", "--bind", "1=1", "--existing", "keep", nullptr);
-      _exit(1);
-    }));
-    const std::size_t added = fs::file_size(book) - fresh_book.size();
-    write_file(book, fresh_book);
-    bare_runs.push_back(measure([&] { bare_copy(file, book, added); }));
+  std::vector<std::string> command = {tool, "--suite",    folder, "--file",
+                                      file, "--existing", "keep"};
+  const auto add = [&](std::initializer_list<const char*> options) {
+    command.insert(command.end(), options.begin(), options.end());
+  };
+  if (!log) {
+    add({"--name", "Nachname", "--name", "Vorname", "--number", "Telefon", "--address1", "PLZ",
+         "--address1", "Ort", "--bind", "1=1"});
   }
-  std::printf("%zu contacts (%.0f MB) into a book of as many entries (%.0f MB), medians of %d\n",
-              contacts, static_cast<double>(fs::file_size(file)) / 1e6,
-              static_cast<double>(fresh_book.size()) / 1e6, runs);
-  print("quenda-import", tool_runs);
-  print("bare read and write", bare_runs);
-  std::printf("ratio                  %8.1f    %8.1f        %8.1f\n",
-              median(tool_runs, &Usage::seconds) / median(bare_runs, &Usage::seconds),
-              median(tool_runs, &Usage::cpu_seconds) / median(bare_runs, &Usage::cpu_seconds),
-              median(tool_runs, &Usage::megabytes) / median(bare_runs, &Usage::megabytes));
+  if (shape == "numbers") add({"--number", "Telefon2", "--number", "Telefon3"});
+  if (shape == "dry-run") add({"--dry-run"});
+
+  std::vector<Program> programs = {{"quenda-import", [&] { become(command); }}};
+  if (shape == "plain") {
+    programs.push_back({"C++, CSV reader", [&] { become({references + "/import", file, book}); }});
+    programs.push_back({"Python, csv", [&] { become({"python3", "import.py", file, book}); }});
+    programs.push_back({"mawk", [&] {
+                          become({"sh", "-c",
+                                  "LC_ALL=C mawk -f import.awk \"$1\" \"$2\" > \"$1.new\" && "
+                                  "cat \"$1.new\" >> \"$1\"",
+                                  "sh", book, file});
+                        }});
+    programs.push_back({"sqlite3", [&] {
+                          become(
+                              {"sh", "-c",
+                               "cp \"$1\" book.txt && cp \"$2\" contacts.csv && sqlite3 :memory: "
+                               "< import.sql && cat fresh.txt >> \"$1\"",
+                               "sh", book, file});
+                        }});
+  }
+  std::string added;
+  programs.push_back({"floor", [&] { bare_copy(file, book, added); }});
+
+  fs::current_path(references);
+  std::string expected;
+  for (int i = 0; i < runs; ++i) {
+    for (Program& program : programs) {
+      write_file(book, fresh_book);
+      program.runs.push_back(quenda::measure(program.run));
+      const std::string written = read_file(book);
+      if (expected.empty()) {
+        expected = written;
+        added = expected.substr(fresh_book.size());
+      }
+      if (program.name != std::string("floor") && written != expected) {
+        std::cerr << program.name << " wrote another book\n";
+        return 1;
+      }
+    }
+  }
+  std::printf(
+      "%s: %zu contacts (%.1f MB) into a book of as many entries (%.1f MB), %.1f MB added\n",
+      shape.c_str(), contacts, static_cast<double>(fs::file_size(file)) / 1e6,
+      static_cast<double>(fresh_book.size()) / 1e6, static_cast<double>(added.size()) / 1e6);
+  for (const Program& program : programs) print(program, programs.back());
 }
