@@ -63,8 +63,8 @@ build() {
     export CMAKE_C_COMPILER_LAUNCHER=ccache CMAKE_CXX_COMPILER_LAUNCHER=ccache
     export CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
   fi
-  mkdir -p "$root/build"
   local log=$root/build/$name.log
+  mkdir -p "$(dirname "$log")"
   (
     cd "$root"
     cmake --preset "$preset" -B "build/$name" "${options[@]}" &&
