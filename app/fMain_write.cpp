@@ -23,14 +23,34 @@ namespace {
 
 constexpr std::string_view kBookName = "Das Telefonbuch";
 
+/// A line of the book as reports show it: its number and its beginning.
+std::string line_for_report(std::string_view book, std::string_view line) {
+  constexpr std::size_t kMostCharacters = 200;
+  const auto start = static_cast<std::size_t>(line.data() - book.data());
+  return concat("Zeile ", std::to_string(count_of(book.substr(0, start), '\n') + 1), ": ",
+                line.substr(0, kMostCharacters), line.size() > kMostCharacters ? "..." : "");
+}
+
 }  // namespace
 
 void fMain::Add() {
   std::string book_text;
   std::string_view line;  // the line of the book that is being read, for the report of a fault
   auto merge = Merge::kFailed;
-  const bool done = procedure_with_message(app_.errors, "fMain.Add", {}, line,
-                                           [&] { merge = merge_into_book(book_text, line); });
+  const bool done = procedure_with_own_report(
+      app_.errors, "fMain.Add", {}, [&] { merge = merge_into_book(book_text, line); },
+      [&](const RuntimeFault& fault, int statement) {
+        if (line.empty()) {
+          app_.errors.ErrorLogWithMsgBox("fMain.Add", {}, fault, statement);
+        } else {
+          const std::string shown = line_for_report(book_text, line);
+          app_.errors.ErrorLogWithMsgBox("fMain.Add", {shown}, fault, statement);
+        }
+        // What the fault has done to the book.
+        if (!fault.addition().empty()) {
+          app_.message_box(fault.addition(), MessageStyle::kExclamation);
+        }
+      });
   if (!done || merge == Merge::kFailed) return;
   if (merge == Merge::kChangedMeanwhile) {
     // The same entries can be merged into the book as it is now.

@@ -27,6 +27,12 @@ class FileLock {
   virtual ~FileLock() = default;
 };
 
+/// Bytes that a file may have to be read.
+inline constexpr std::uint64_t kLargestFile = (1ULL << 31U) - 1;
+
+/// Fault 7 for a file with more bytes.
+void check_size(std::uint64_t bytes);
+
 /// The file system as the tool sees it. Paths are the tool's own texts (Windows-1252, backslashes);
 /// contents are bytes. What is not said to be a result value fails with a RuntimeFault: 53 no such
 /// file, 76 no such folder, 70 in use or not permitted, 75 read-only or no file to work on, 61 disk
@@ -43,21 +49,24 @@ class Files {
   /// fault: 75 for what can be no file to read and to change (a folder, a pipe, a device, a link to
   /// nothing), else the one that fits why the system cannot tell.
   [[nodiscard]] virtual bool has_file(std::string_view path) const = 0;
+  /// Whether a folder of that path is there.
+  [[nodiscard]] virtual bool has_folder(std::string_view path) const = 0;
   /// Bytes of the file; 0 when there is none.
   [[nodiscard]] virtual std::uint64_t size(std::string_view path) const = 0;
   /// A number that changes whenever the file does (from size and time of writing); 0 for no file.
   [[nodiscard]] virtual std::uint64_t stamp(std::string_view path) const = 0;
-  /// The whole content.
+  /// The whole content; fault 7 for more than 2 GB.
   [[nodiscard]] virtual std::string read(std::string_view path) const = 0;
   /// Creates the file or replaces its content.
   virtual void write(std::string_view path, std::string_view content) = 0;
-  /// Adds to the end of the file, which is created when missing.
+  /// Adds to the end of the file, which is created when missing. Fault 75 where the path is a link:
+  /// logs are written so, and nobody shall lead them into another file.
   virtual void append(std::string_view path, std::string_view content) = 0;
   /// Replaces everything from byte `keep` on, in place, and has the data on the disk when it
   /// returns. While this runs, other programs are kept from writing to the file. Nothing is done
   /// when the file no longer holds what was read (kChangedMeanwhile), or is gone (53). A file that
   /// was not there is created. After a fault the old content stands again, or the fault's
-  /// description says what could not be put back. Fault 5 when `keep` is beyond the old text.
+  /// addition says what could not be put back. Fault 5 when `keep` is beyond the old text.
   [[nodiscard]] virtual ReplaceResult replace_tail(std::string_view path,
                                                    const TailChange& change) = 0;
   /// Keeps other runs of this program from the same until the result goes; waits for one that is at

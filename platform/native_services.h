@@ -22,8 +22,11 @@ std::unique_ptr<Automation> native_automation();
 bool console_is_interactive();
 /// Whether what goes to stderr is read on a terminal, where a progress line can be redrawn.
 bool console_shows_progress();
+/// Whether what goes to stdout is read on a terminal.
+bool console_shows_results();
 /// The program's arguments as UTF-8, without the program's own name. Also sets the console up for
-/// UTF-8 output where that has to be asked for.
+/// UTF-8 output where that has to be asked for, and so that what cannot be put out is a failure of
+/// the stream and nothing worse.
 std::vector<std::string> console_arguments(int argc, char** argv);
 
 }  // namespace quenda

@@ -25,7 +25,7 @@ bool App::start() {
   environment.program_code = "IMP";
   if (machine.system.previous_instance()) return false;
   paths.program_folder = machine.system.program_folder();
-  if (!LoadSavePaths(errors, ini, machine.files, machine.system, paths, specs)) return false;
+  if (!LoadSavePaths(errors, ini, machine.system, paths, specs)) return false;
   environment.main_folder = paths.data_root;
   apply_switches(specs, environment);
 

@@ -1,15 +1,18 @@
 #include "settings/modAPI_INI.h"
 
+#include <optional>
+
 #include "platform/files.h"
 #include "support/procedure.h"
 #include "text/conversions.h"
+#include "text/fault.h"
 #include "text/text.h"
 
 namespace quenda {
 
 /// A file as it was when it was read last.
 struct modAPI_INI::Loaded {
-  std::uint64_t stamp = 0;
+  std::optional<std::uint64_t> stamp;
   IniText text;
 };
 
@@ -32,10 +35,30 @@ const IniText& modAPI_INI::load(const std::string& path) {
   if (stamp != loaded->stamp) {
     loaded->stamp = stamp;
     loaded->text = IniText();
-    // Where a folder or a protected file stands in place of the settings, the defaults count.
-    skip_faults({[&] { loaded->text = IniText(files_.read(path)); }});
+    // Where a folder stands in place of the settings, the defaults count.
+    if (files_.has_folder(path)) return loaded->text;
+    const bool done = procedure_with_own_report(
+        errors_, "modAPI_INI.load", {path},
+        [&] {
+          if (files_.has_file(path)) loaded->text = IniText(files_.read(path));
+        },
+        [&](const RuntimeFault& fault, int /*statement*/) { tell_unreadable(path, fault); });
+    if (done) told_.erase(path);
   }
   return loaded->text;
+}
+
+bool modAPI_INI::HasFile(const std::string& path) {
+  load(path);
+  return !told_.contains(path) && files_.exists(path);
+}
+
+void modAPI_INI::tell_unreadable(const std::string& path, const RuntimeFault& fault) {
+  if (!told_.insert(path).second) return;
+  unreadable_ = path;
+  errors_.show(concat(path, ": ", fault.description(), kCrLf,
+                      "Diese Einstellungen sind unbekannt, es gelten die Vorgaben."),
+               MessageStyle::kExclamation, "");
 }
 
 std::string modAPI_INI::GetMainPath(std::string_view file) {

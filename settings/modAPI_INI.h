@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <set>
 #include <string>
 #include <string_view>
 
@@ -13,6 +14,7 @@ namespace quenda {
 
 class clsErrorHandling;
 class Files;
+class RuntimeFault;
 
 /// The settings of the suite: INI files by their names inside the suite's folders, read with
 /// defaults and bounds. A missing or unreadable file gives the defaults. Files are read again when
@@ -51,6 +53,12 @@ class modAPI_INI {
   void SetSettStr(std::string_view section, std::string_view key, std::string_view value,
                   std::string_view file);
 
+  /// Whether a settings file is there to be read. One that cannot be looked at or read counts as
+  /// none, but the user is told once: what it says is not known.
+  bool HasFile(const std::string& path);
+  /// The first such file, empty while there is none.
+  [[nodiscard]] const std::string& unreadable() const { return unreadable_; }
+
   /// While set, nothing is written.
   bool write_protection = false;
 
@@ -58,11 +66,14 @@ class modAPI_INI {
   struct Loaded;
 
   const IniText& load(const std::string& path);
+  void tell_unreadable(const std::string& path, const RuntimeFault& fault);
 
   clsErrorHandling& errors_;
   Files& files_;
   const SuitePaths& paths_;
   std::map<std::string, std::unique_ptr<Loaded>, std::less<>> loaded_;
+  std::set<std::string> told_;
+  std::string unreadable_;
 };
 
 /// The rule of `modAPI_INI::Range`.

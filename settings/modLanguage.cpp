@@ -14,15 +14,21 @@ bool is_unmarked(std::string_view key) {
   return equal_ignoring_case(key, "language") || equal_ignoring_case(key, "countryid");
 }
 
+bool is_plain_name(std::string_view name) {
+  return name.find_first_of("\\/:") == name.npos && name != "..";
+}
+
 }  // namespace
 
 void modLanguage::LanguageInit(std::string_view language) {
   procedure(errors_, "modLanguage.LanguageInit", {language}, [&] {
-    language_ = language.empty()
-                    ? ini_.GetSettStr("General", "Language", language_, "", true, false)
-                    : std::string(language);
+    const std::string chosen =
+        language.empty() ? ini_.GetSettStr("General", "Language", language_, "", true, false)
+                         : std::string(language);
+    // A name that leads to another folder is none.
+    if (is_plain_name(chosen)) language_ = chosen;
     file_ = replace_all("\\base\\language_##.ini", "##", language_);
-    file_missing_ = !files_.exists(ini_.GetMainPath(file_));
+    file_missing_ = !ini_.HasFile(ini_.GetMainPath(file_));
   }).or_go_on();
 }
 

@@ -1,11 +1,12 @@
 #include "settings/suite_paths.h"
 
-#include "platform/files.h"
 #include "platform/system.h"
 #include "settings/modAPI_INI.h"
 #include "settings/suite_specs.h"
 #include "support/procedure.h"
 #include "text/conversions.h"
+#include "text/fault.h"
+#include "text/literal_1252.h"
 #include "text/text.h"
 
 namespace quenda {
@@ -43,13 +44,18 @@ std::string choose_book_folder(std::string_view setting, std::string_view data_r
   return concat(setting, setting.ends_with('\\') ? "" : "\\");
 }
 
-bool LoadSavePaths(clsErrorHandling& errors, modAPI_INI& ini, const Files& files,
-                   const System& system, SuitePaths& paths, SuiteSpecs& specs) {
+bool leads_out(std::string_view path) {
+  const std::string slashed = concat("\\", replace_all(path, "/", "\\"), "\\");
+  return slashed.find("\\..\\") != slashed.npos;
+}
+
+bool LoadSavePaths(clsErrorHandling& errors, modAPI_INI& ini, const System& system,
+                   SuitePaths& paths, SuiteSpecs& specs) {
   return procedure_with_own_report(
       errors, "suite_paths.LoadSavePaths", {},
       [&](Statement& at) {
         at(1);
-        LoadSpecs(errors, ini, files, paths.program_folder, specs);
+        LoadSpecs(errors, ini, paths.program_folder, specs);
         at(2);
         paths.common_folder = concat(system.special_folder(kCommonApplicationData), "\\Quenda");
         DataRootChoice choice;
@@ -60,7 +66,7 @@ bool LoadSavePaths(clsErrorHandling& errors, modAPI_INI& ini, const Files& files
         const std::string file = concat(paths.program_folder, kPathsFile);
         std::string root_setting = "1";
         std::string book_setting;
-        if (files.exists(file)) {
+        if (ini.HasFile(file)) {
           at(4);
           paths.book_refresh = ini.GetSettBool(kSection, "BookRefresh", false, file);
           at(5);
@@ -72,6 +78,17 @@ bool LoadSavePaths(clsErrorHandling& errors, modAPI_INI& ini, const Files& files
                           system.long_path(system.special_folder(kProgramFiles)));
           at(6);
           book_setting = ini.GetSettStr(kSection, "BookPath", "", file, false, false);
+          for (const std::string_view setting :
+               {std::string_view(root_setting), std::string_view(book_setting)}) {
+            if (!leads_out(setting)) continue;
+            errors.show(
+                concat(file, kCrLf, setting, u8" führt aus den Ordnern der Suite hinaus."_de),
+                MessageStyle::kExclamation, "");
+            raise_fault(kFaultPathAccess);
+          }
+        } else if (ini.unreadable() == file) {
+          // With the default folders in place of unknown ones, entries would go into another book.
+          raise_fault(kFaultPathAccess);
         }
         at(7);
         paths.data_root = choose_data_root(choice);

@@ -6,7 +6,6 @@
 namespace quenda {
 
 class clsErrorHandling;
-class Files;
 class modAPI_INI;
 class System;
 struct SuiteSpecs;
@@ -45,7 +44,7 @@ std::string choose_book_folder(std::string_view setting, std::string_view data_r
 
 /// Reads the switches and finds the suite's folders. `paths.program_folder` is set first and stays
 /// set. After a fault the user sees a box, and the result is false.
-bool LoadSavePaths(clsErrorHandling& errors, modAPI_INI& ini, const Files& files,
-                   const System& system, SuitePaths& paths, SuiteSpecs& specs);
+bool LoadSavePaths(clsErrorHandling& errors, modAPI_INI& ini, const System& system,
+                   SuitePaths& paths, SuiteSpecs& specs);
 
 }  // namespace quenda

@@ -4,7 +4,6 @@
 #include <cstddef>
 #include <string>
 
-#include "platform/files.h"
 #include "settings/modAPI_INI.h"
 #include "support/procedure.h"
 #include "text/text.h"
@@ -72,14 +71,14 @@ std::uint32_t read_mask(modAPI_INI& ini, const std::array<std::string_view, Size
 
 }  // namespace
 
-bool LoadSpecs(clsErrorHandling& errors, modAPI_INI& ini, const Files& files,
-               std::string_view program_folder, SuiteSpecs& specs) {
+bool LoadSpecs(clsErrorHandling& errors, modAPI_INI& ini, std::string_view program_folder,
+               SuiteSpecs& specs) {
   return procedure_with_own_report(
       errors, "suite_specs.LoadSpecs", {},
       [&](Statement& at) {
         at(1);
         const std::string file = concat(program_folder, "\\Quendaspec.ini");
-        if (!files.exists(file)) return;
+        if (!ini.HasFile(file)) return;
         at(2);
         for (const Switch& entry : kSwitches) {
           const bool forced = entry.field == &SuiteSpecs::ModeExport && specs.LogExport;

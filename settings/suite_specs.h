@@ -6,7 +6,6 @@
 namespace quenda {
 
 class clsErrorHandling;
-class Files;
 class modAPI_INI;
 struct ErrorEnvironment;
 
@@ -39,8 +38,8 @@ struct SuiteSpecs {
 
 /// Reads the switches from the program folder; a missing file leaves them as they are. After a
 /// fault the user sees a box, what was read stays, and the result is false.
-bool LoadSpecs(clsErrorHandling& errors, modAPI_INI& ini, const Files& files,
-               std::string_view program_folder, SuiteSpecs& specs);
+bool LoadSpecs(clsErrorHandling& errors, modAPI_INI& ini, std::string_view program_folder,
+               SuiteSpecs& specs);
 
 /// Hands the trace mode and the debug channels to the error service.
 void apply_switches(const SuiteSpecs& specs, ErrorEnvironment& environment);

@@ -42,9 +42,8 @@ constexpr std::array kDescriptions = {
 
 RuntimeFault::RuntimeFault(int number) : number_(number), description_(fault_description(number)) {}
 
-RuntimeFault::RuntimeFault(int number, std::string_view addition) : RuntimeFault(number) {
-  description_.append(". ").append(addition);
-}
+RuntimeFault::RuntimeFault(int number, std::string_view addition)
+    : number_(number), description_(fault_description(number)), addition_(addition) {}
 
 void raise_fault(int number) { throw RuntimeFault(number); }
 

@@ -10,16 +10,19 @@ namespace quenda {
 class RuntimeFault : public std::exception {
  public:
   explicit RuntimeFault(int number);
-  /// With a sentence behind the usual description.
+  /// With a sentence on what the fault means for the user.
   RuntimeFault(int number, std::string_view addition);
   [[nodiscard]] int number() const { return number_; }
   /// German text, Windows-1252.
   [[nodiscard]] const std::string& description() const { return description_; }
+  /// German text, Windows-1252; mostly empty.
+  [[nodiscard]] const std::string& addition() const { return addition_; }
   [[nodiscard]] const char* what() const noexcept override { return description_.c_str(); }
 
  private:
   int number_;
   std::string description_;
+  std::string addition_;
 };
 
 /// Numbers of the faults that this program itself raises.

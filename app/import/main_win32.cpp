@@ -2,6 +2,7 @@
 
 #include "app/fMain.h"
 #include "app/program.h"
+#include "platform/win32/library_folders.h"
 #include "platform/win32/platform_win32.h"
 #include "platform/win32/text_win32.h"
 #include "settings/app.h"
@@ -37,9 +38,7 @@ void show_version(HWND window) {
 
 int WINAPI WinMain(HINSTANCE /*instance*/, HINSTANCE /*previous*/, LPSTR /*command_line*/,
                    int /*show*/) {
-  // Libraries that are loaded later come from the system's folder, whatever lies beside the
-  // program.
-  SetDefaultDllDirectories(LOAD_LIBRARY_SEARCH_SYSTEM32);
+  quenda::load_from_system_folders_only();
   quenda::Win32Platform platform;
   if (tell_version(platform.machine())) return 0;
   quenda::App app(platform.machine());

@@ -1,6 +1,7 @@
 #include "app/quenda-import/batch_run.h"
 
 #include <istream>
+#include <optional>
 #include <ostream>
 #include <string>
 #include <string_view>
@@ -8,12 +9,14 @@
 
 #include "app/fMain.h"
 #include "app/quenda-import/console_services.h"
+#include "app/quenda-import/printable.h"
 #include "book/entry_list.h"
 #include "book/pages/fImportMsg.h"
 #include "platform/files.h"
 #include "settings/app.h"
 #include "sources/file_facts.h"
 #include "sources/file_findings.h"
+#include "support/procedure.h"
 #include "text/fault.h"
 #include "text/literal_1252.h"
 #include "text/text.h"
@@ -26,6 +29,8 @@ namespace {
 // others keep changing.
 constexpr std::uint32_t kSecondsForOthers = 30;
 constexpr int kMostMerges = 4;
+// Columns are counted in 16 bits.
+constexpr int kMostColumnsOfFile = 32767;
 
 /// One run: the services of the terminal, the forms, and the user who knows beforehand what to do.
 class BatchRun {
@@ -41,6 +46,11 @@ class BatchRun {
   [[noreturn]] void refuse(std::string_view message);
   void say(std::string_view message);
 
+  /// Refuses a folder that is no suite's: the entries would go into a book somewhere else.
+  void check_suite();
+  /// A result that nobody gets is none: the status says so then.
+  void check_output();
+  void check_file();
   void take_file();
   void take_outlook();
   void warn(const std::vector<Finding>& findings);
@@ -49,6 +59,8 @@ class BatchRun {
   [[noreturn]] void refuse_columns();
   void choose_names();
   void choose_addresses();
+  /// Names entries whose text would be taken for a contact card when the book is read.
+  void warn_about_cards();
   void write_or_show();
   /// Merges the entries into the book, anew when it changes meanwhile.
   void write();
@@ -61,6 +73,7 @@ class BatchRun {
   const BatchMachine& machine_;
   const BatchConsole& console_;
   int status_ = kExitRefused;
+  std::string told_;  // what the last fault meant for the book
 
   ProgressLine progress_;
   ConsoleDialogs dialogs_;
@@ -92,8 +105,13 @@ BatchRun::BatchRun(const BatchOptions& options, const BatchMachine& machine,
   app_.ini.write_protection = true;
   app_.errors.on_report = [this](std::string_view procedure, const RuntimeFault& fault,
                                  std::string_view parameters) {
+    told_ = fault.addition();
     say(concat(procedure, ": Fehler ", std::to_string(fault.number()), " ", fault.description(),
-               parameters.empty() ? "" : " - ", parameters));
+               parameters.empty() ? "" : " - ", parameters, told_.empty() ? "" : ". ", told_));
+  };
+  // The log that the wizard's box names is not written; what happened stands here.
+  dialogs_.known = [this](std::string_view text) {
+    return text == told_ || text.find(clsErrorHandling::FileLogError()) != text.npos;
   };
   events_.on_modal = [this](Form& form, Form& /*owner*/) { answer(form); };
   if (console.progress && !options.quiet) {
@@ -105,7 +123,11 @@ BatchRun::BatchRun(const BatchOptions& options, const BatchMachine& machine,
 
 void BatchRun::run() {
   try {
+    check_suite();
     main_.Form_Load();
+    if (const std::string& file = app_.ini.unreadable(); !file.empty()) {
+      refuse(concat("Ohne die Einstellungen in \"", file, "\" wird nichts eingelesen."));
+    }
     if (options_.existing) main_.optAsk(*options_.existing).choose();
     if (options_.min_name) main_.chkNameLen.set_ticked(*options_.min_name);
     if (options_.country) main_.txtStateCode.set_text(*options_.country);
@@ -129,14 +151,42 @@ void BatchRun::run() {
   if (main_.book_line_end == LineEnd::kLf) {
     say(u8"Warnung: Das Telefonbuch hat LF statt CR LF am Ende seiner Zeilen."_de);
   }
-  if (link_.result().empty()) return;
-  console_.out << link_.result() << '\n';
-  status_ = kExitDone;
+  if (!link_.result().empty()) {
+    console_.out << link_.result() << '\n';
+    status_ = kExitDone;
+  }
+  check_output();
+}
+
+void BatchRun::check_output() {
+  console_.out.flush();
+  if (status_ != kExitDone || console_.out) return;
+  status_ = kExitRefused;
+  say(concat(u8"Das Ergebnis lässt sich nicht ausgeben. "_de,
+             link_.result() == "data" ? "Das Telefonbuch ist geschrieben."
+                                      : u8"Das Telefonbuch ist unverändert."_de));
+}
+
+void BatchRun::check_suite() {
+  if (options_.suite.empty()) return;
+  const std::string folder = system_.program_folder();
+  const Files& files = machine_.files;
+  if (!files.has_folder(folder)) {
+    refuse(concat("Den Ordner \"", folder, "\" (--suite) gibt es nicht."));
+  }
+  const bool suite = files.exists(concat(folder, "\\Quendapaths.ini")) ||
+                     files.exists(concat(folder, "\\Quendaspec.ini")) ||
+                     files.has_folder(concat(folder, "\\base")) ||
+                     files.has_folder(concat(folder, "\\data"));
+  if (!suite) {
+    refuse(concat("Der Ordner \"", folder, u8"\" (--suite) enthält keine Suite: "_de,
+                  "weder Quendapaths.ini noch Quendaspec.ini, base oder data."));
+  }
 }
 
 void BatchRun::say(std::string_view message) {
   progress_.clear();
-  console_.errors << "quenda-import: " << to_utf8(message) << '\n' << std::flush;
+  console_.errors << "quenda-import: " << to_utf8(printable(message)) << '\n' << std::flush;
 }
 
 void BatchRun::refuse(std::string_view message) {
@@ -151,9 +201,7 @@ void BatchRun::go_on(Page page) {
 }
 
 void BatchRun::take_file() {
-  if (!machine_.files.exists(options_.file)) {
-    refuse(concat("Die Datei \"", options_.file, "\" gibt es nicht."));
-  }
+  check_file();
   main_.txtImpFile.set_text(options_.file);
   if (!main_.file_read())
     refuse(concat("Die Datei \"", options_.file, "\" kann nicht gelesen werden."));
@@ -165,6 +213,15 @@ void BatchRun::take_file() {
   if (!main_.cmdFor.enabled()) {
     refuse(concat(main_.labLimError.caption(), u8" (--delimiter gibt es vor.)"_de));
   }
+}
+
+void BatchRun::check_file() {
+  const std::string named = concat("\"", options_.file, "\"");
+  std::optional<bool> there;
+  skip_faults({[&] { there = machine_.files.has_file(options_.file); }});
+  if (!there) refuse(concat(named, " ist keine Datei, die gelesen werden kann."));
+  if (!*there) refuse(concat("Die Datei ", named, " gibt es nicht."));
+  if (machine_.files.size(options_.file) == 0) refuse(concat("Die Datei ", named, " ist leer."));
 }
 
 void BatchRun::warn(const std::vector<Finding>& findings) {
@@ -184,6 +241,9 @@ void BatchRun::take_outlook() {
 void BatchRun::choose_columns() {
   if (options_.columns_given()) app_.settings.selections = {};
   go_on(Page::kColumns);
+  if (main_.lstHeader(kNames).count() > kMostColumnsOfFile) {
+    refuse(concat("Die Datei hat mehr als ", std::to_string(kMostColumnsOfFile), " Spalten."));
+  }
   for (std::size_t kind = 0; kind < kHeaderKinds; ++kind) select_columns(kind);
   if (!main_.cmdFor.enabled()) refuse_columns();
 }
@@ -246,17 +306,40 @@ void BatchRun::write_or_show() {
     refuse(main_.composition_failed() ? u8"Die Einträge konnten nicht zusammengestellt werden."_de
                                       : u8"Die Datei enthält nichts zum Einlesen."_de);
   }
+  warn_about_cards();
   if (!options_.dry_run) {
     write();
     return;
   }
   progress_.clear();
   const FlatTable& rows = main_.lstImpFinal.table();
+  const auto shown = [&](std::string_view cell) {
+    const std::string line = on_one_line(cell);
+    return console_.results_on_terminal ? printable(line) : line;
+  };
   for (std::size_t row = 0; row < rows.rows(); ++row) {
-    console_.out << to_utf8(concat(rows.cell(row, kEntryName), "\t", rows.cell(row, kEntryNumber),
-                                   "\t", rows.cell(row, kEntryAddress), "\n"));
+    console_.out << to_utf8(concat(shown(rows.cell(row, kEntryName)), "\t",
+                                   shown(rows.cell(row, kEntryNumber)), "\t",
+                                   shown(rows.cell(row, kEntryAddress)), "\n"));
   }
   status_ = kExitDone;
+}
+
+void BatchRun::warn_about_cards() {
+  constexpr std::size_t kMostShown = 10;
+  const FlatTable& rows = main_.lstImpFinal.table();
+  std::size_t found = 0;
+  for (std::size_t row = 0; row < rows.rows(); ++row) {
+    const std::string_view line = rows.line(row);
+    if (line.find("[vcd(") == line.npos && line.find(")vcd]") == line.npos) continue;
+    if (++found > kMostShown) continue;
+    say(concat("Warnung: Eintrag ", std::to_string(row + 1), " (", rows.cell(row, kEntryName),
+               u8") enthält Zeichen einer Kontaktkarte; das Telefonbuch liest sie als Karte."_de));
+  }
+  if (found > kMostShown) {
+    say(concat(u8"Warnung: ebenso "_de, std::to_string(found - kMostShown),
+               u8" weitere Einträge."_de));
+  }
 }
 
 void BatchRun::write() {

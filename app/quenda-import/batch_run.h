@@ -21,10 +21,11 @@ struct BatchMachine {
 
 /// The terminal. Texts on it are UTF-8.
 struct BatchConsole {
-  std::ostream& out;                // the result, for scripts
-  std::ostream& errors;             // everything else
-  std::istream* answers = nullptr;  // where a person answers questions; null when there is nobody
-  bool progress = false;            // whether `errors` is a terminal that can redraw a line
+  std::ostream& out;                 // the result, for scripts
+  std::ostream& errors;              // everything else
+  std::istream* answers = nullptr;   // where a person answers questions; null when there is nobody
+  bool progress = false;             // whether `errors` is a terminal that can redraw a line
+  bool results_on_terminal = false;  // whether `out` is one
 };
 
 /// Carries out an import by the wizard's own forms, pressing their buttons as a user would.

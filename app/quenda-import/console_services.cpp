@@ -1,5 +1,6 @@
 #include "app/quenda-import/console_services.h"
 
+#include "app/quenda-import/printable.h"
 #include "platform/controls/form.h"
 #include "text/text.h"
 
@@ -7,8 +8,11 @@ namespace quenda {
 
 MessageAnswer ConsoleDialogs::message_box(std::string_view text, MessageStyle style,
                                           std::string_view /*title*/) {
-  progress_.clear();
-  errors_ << to_utf8(replace_all(replace_all(text, kCrLf, "\n"), "\r", "\n")) << '\n' << std::flush;
+  if (!known || !known(text)) {
+    progress_.clear();
+    const std::string lines = replace_all(replace_all(text, kCrLf, "\n"), "\r", "\n");
+    errors_ << to_utf8(printable(lines)) << '\n' << std::flush;
+  }
   return style == MessageStyle::kQuestionYesNo ? MessageAnswer::kNo : MessageAnswer::kOk;
 }
 
@@ -35,7 +39,7 @@ void ConsoleLink::set_text(std::string_view text) {
 }
 
 void ProgressLine::show(std::string_view activity, int percent) {
-  std::string line = concat(to_utf8(activity), " ", std::to_string(percent), " %");
+  std::string line = concat(to_utf8(printable(activity)), " ", std::to_string(percent), " %");
   if (line == shown_) return;
   errors_ << "\r\x1b[K" << line << std::flush;
   shown_ = std::move(line);

@@ -42,6 +42,9 @@ class ConsoleDialogs final : public Dialogs {
   /// There is no file dialog; always the empty text.
   ChosenFile open_file(const std::vector<FileFilter>& filters, const DialogHook& hook) override;
 
+  /// Says of a text that it need not be shown, because the user knows already.
+  std::function<bool(std::string_view text)> known;
+
  private:
   std::ostream& errors_;
   ProgressLine& progress_;

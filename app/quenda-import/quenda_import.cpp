@@ -10,8 +10,9 @@ int main(int argc, char** argv) {
   try {
     const BatchCommand command = read_batch_command(console_arguments(argc, argv));
     if (!command.options) {
-      (command.status == kExitDone ? std::cout : std::cerr) << command.text;
-      return command.status;
+      std::ostream& stream = command.status == kExitDone ? std::cout : std::cerr;
+      stream << command.text << std::flush;
+      return command.status == kExitDone && !stream ? kExitRefused : command.status;
     }
     const auto files = native_files();
     const auto clock = native_clock();
@@ -19,7 +20,7 @@ int main(int argc, char** argv) {
     const auto automation = native_automation();
     return run_batch(*command.options, {*files, *clock, *system, *automation},
                      {std::cout, std::cerr, console_is_interactive() ? &std::cin : nullptr,
-                      console_shows_progress()});
+                      console_shows_progress(), console_shows_results()});
   } catch (const std::exception& error) {
     std::cerr << "quenda-import: " << error.what() << '\n';
     return kExitRefused;

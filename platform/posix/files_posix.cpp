@@ -88,6 +88,11 @@ bool PosixFiles::has_file(std::string_view path) const {
   return false;
 }
 
+bool PosixFiles::has_folder(std::string_view path) const {
+  const auto status = status_of(posix_path(path));
+  return status && S_ISDIR(status->st_mode);
+}
+
 std::uint64_t PosixFiles::size(std::string_view path) const {
   const auto status = status_of(posix_path(path));
   return status && !S_ISDIR(status->st_mode) ? static_cast<std::uint64_t>(status->st_size) : 0;
@@ -109,6 +114,7 @@ std::string PosixFiles::read(std::string_view path) const {
   check_path(path);
   const OpenFile file(posix_path(path), O_RDONLY, true);
   if (S_ISDIR(file.status().st_mode)) raise_fault(kFaultPathAccess);
+  check_size(file.size());
   // One byte more than the size: the read that fills it short also finds the end. Pipes and files
   // that grow meanwhile are read on until they end.
   constexpr std::size_t kMinimum = 4096;
@@ -123,6 +129,7 @@ std::string PosixFiles::read(std::string_view path) const {
     if (done < 0) file.fail(errno);
     if (done == 0) break;
     filled += static_cast<std::size_t>(done);
+    check_size(filled);
   }
   content.resize(filled);
   return content;
@@ -143,7 +150,7 @@ void PosixFiles::append(std::string_view path, std::string_view content) {
   const std::string native = posix_path(path);
   check_writable(native);
   // Opened for appending, every write goes to the end, whatever other programs add meanwhile.
-  OpenFile file(native, O_WRONLY | O_CREAT | O_APPEND);
+  OpenFile file(native, O_WRONLY | O_CREAT | O_APPEND | O_NOFOLLOW);
   file.write_at(file.size(), content);
 }
 

@@ -18,6 +18,7 @@ class PosixFiles final : public Files {
   PosixFiles();
   [[nodiscard]] bool exists(std::string_view path) const override;
   [[nodiscard]] bool has_file(std::string_view path) const override;
+  [[nodiscard]] bool has_folder(std::string_view path) const override;
   [[nodiscard]] std::uint64_t size(std::string_view path) const override;
   [[nodiscard]] std::uint64_t stamp(std::string_view path) const override;
   [[nodiscard]] std::string read(std::string_view path) const override;

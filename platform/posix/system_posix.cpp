@@ -1,9 +1,11 @@
 #include "platform/posix/system_posix.h"
 
+#include <fcntl.h>
 #include <unistd.h>
 
 #include <array>
 #include <chrono>
+#include <csignal>
 #include <ctime>
 
 #include "platform/native_services.h"
@@ -91,7 +93,15 @@ bool console_is_interactive() {
 }
 bool console_shows_progress() { return ::isatty(STDERR_FILENO) == 1; }
 
+bool console_shows_results() { return ::isatty(STDOUT_FILENO) == 1; }
+
 std::vector<std::string> console_arguments(int argc, char** argv) {
+  // Where a standard stream is closed, the next file that is opened would get its number, and our
+  // output with it. What stands in its place can be read only, so that writing to it fails.
+  for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+    if (::fcntl(stream, F_GETFD) < 0) static_cast<void>(::open("/dev/null", O_RDONLY));
+  }
+  std::signal(SIGPIPE, SIG_IGN);
   return {argv + 1, argv + argc};
 }
 

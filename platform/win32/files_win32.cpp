@@ -41,6 +41,7 @@ class OpenFile final : public TailFile {
   }
 
   [[nodiscard]] std::string read_all() const {
+    check_size(size());
     std::string content(size(), '\0');
     content.resize(read_at(0, {content.data(), content.size()}));
     return content;
@@ -197,6 +198,11 @@ bool Win32Files::has_file(std::string_view path) const {
   return false;
 }
 
+bool Win32Files::has_folder(std::string_view path) const {
+  const DWORD attributes = GetFileAttributesW(wide(path).c_str());
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
 std::uint64_t Win32Files::size(std::string_view path) const {
   const auto data = attributes_of(path);
   if ((data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) return 0;
@@ -228,6 +234,9 @@ void Win32Files::write(std::string_view path, std::string_view content) {
 
 void Win32Files::append(std::string_view path, std::string_view content) {
   check_writable(path);
+  if ((attributes_of(path).dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0) {
+    raise_fault(kFaultPathAccess);
+  }
   OpenFile file(path, GENERIC_WRITE, FILE_SHARE_READ, OPEN_ALWAYS);
   file.write_at(file.size(), content);
 }

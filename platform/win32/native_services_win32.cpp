@@ -6,6 +6,7 @@
 #include "platform/win32/com/automation_com.h"
 #include "platform/win32/files_win32.h"
 #include "platform/win32/handles.h"
+#include "platform/win32/library_folders.h"
 #include "platform/win32/system_win32.h"
 // windows.h has to come first.
 #include <shellapi.h>
@@ -41,7 +42,10 @@ bool console_is_interactive() {
 
 bool console_shows_progress() { return is_terminal(STD_ERROR_HANDLE); }
 
+bool console_shows_results() { return is_terminal(STD_OUTPUT_HANDLE); }
+
 std::vector<std::string> console_arguments(int /*argc*/, char** /*argv*/) {
+  load_from_system_folders_only();
   SetConsoleOutputCP(CP_UTF8);
   int count = 0;
   using Arguments = Handle<LPWSTR*, &LocalFree>;

@@ -104,7 +104,7 @@ TEST_F(LastPage, FaultyBookLineStopsTheImportBeforeAnythingIsWritten) {
   EXPECT_EQ(last_box(), "Es ist ein Fehler aufgetreten!\r\nsiehe Datei: \\log\\error.log");
   EXPECT_EQ(machine.files.writes(kBookPath), 0);
   EXPECT_EQ(machine.host_link.texts, Texts{"ON"});
-  EXPECT_NE(app->errors.last_report().find("Params(S:Kurz;0305)"), std::string::npos)
+  EXPECT_NE(app->errors.last_report().find("Params(S:Zeile 2: Kurz;0305)"), std::string::npos)
       << app->errors.last_report();
   EXPECT_EQ(form->pointer(), Pointer::kDefault);
   // Once the book is mended, the same entries can be imported.

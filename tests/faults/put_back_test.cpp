@@ -71,7 +71,7 @@ std::optional<std::string> fault_of_replacing(TailFile& file, const Scene& scene
                                              .spoil = &make_unreadable}));
     return std::nullopt;
   } catch (const RuntimeFault& fault) {
-    return fault.description();
+    return fault.addition();
   }
 }
 

@@ -21,7 +21,7 @@ struct Fixture : ErrorService {
       files.put("C:\\Program Files\\Quenda\\Quendapaths.ini",
                 std::string("[Paths]\r\n") + std::string(section_text));
     }
-    return LoadSavePaths(errors, ini, files, system, paths, specs);
+    return LoadSavePaths(errors, ini, system, paths, specs);
   }
   void put_specs(std::string_view text) {
     files.put("C:\\Program Files\\Quenda\\Quendaspec.ini", text);
@@ -66,7 +66,7 @@ TEST(LoadSavePaths, FindsTheProgramFolderInsideProgramFilesAsWindowsComparesPath
     Fixture f;
     f.paths.program_folder = folder;
     f.files.put(folder + "\\Quendapaths.ini", "[Paths]\r\nProgramData=0\r\n");
-    EXPECT_TRUE(LoadSavePaths(f.errors, f.ini, f.files, f.system, f.paths, f.specs));
+    EXPECT_TRUE(LoadSavePaths(f.errors, f.ini, f.system, f.paths, f.specs));
     EXPECT_EQ(f.paths.data_root,
               folder.ends_with("Programme\\Quenda") ? folder : "C:\\ProgramData\\Quenda");
   }
@@ -84,7 +84,7 @@ TEST(LoadSavePaths, TellsTheUserWhereItFailed) {
   };
   Fixture f;
   const BrokenSystem broken;
-  EXPECT_FALSE(LoadSavePaths(f.errors, f.ini, f.files, broken, f.paths, f.specs));
+  EXPECT_FALSE(LoadSavePaths(f.errors, f.ini, broken, f.paths, f.specs));
   EXPECT_THAT(f.boxes,
               testing::ElementsAre(FakeDialogs::Box{"Error in Function \"LoadSavePaths\" at Line 2",
                                                     MessageStyle::kCritical, ""}));

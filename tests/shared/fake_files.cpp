@@ -70,6 +70,13 @@ bool FakeFiles::has_file(std::string_view path) const {
   return find(path) != nullptr;
 }
 
+bool FakeFiles::has_folder(std::string_view path) const {
+  const std::string key = key_of(path);
+  return std::any_of(folders_.begin(), folders_.end(), [&](const std::string& folder) {
+    return folder == key || folder.starts_with(key + "\\");
+  });
+}
+
 std::uint64_t FakeFiles::size(std::string_view path) const {
   const Entry* entry = find(path);
   return entry == nullptr ? 0 : entry->content.size();

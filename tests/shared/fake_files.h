@@ -33,6 +33,7 @@ class FakeFiles final : public Files {
 
   [[nodiscard]] bool exists(std::string_view path) const override;
   [[nodiscard]] bool has_file(std::string_view path) const override;
+  [[nodiscard]] bool has_folder(std::string_view path) const override;
   [[nodiscard]] std::uint64_t size(std::string_view path) const override;
   [[nodiscard]] std::uint64_t stamp(std::string_view path) const override;
   [[nodiscard]] std::string read(std::string_view path) const override;

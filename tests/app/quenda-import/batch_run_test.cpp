@@ -120,7 +120,7 @@ TEST_F(BatchRunTest, RefusalsNameTheReasonAndWriteNothing) {
   const auto nothing = [](BatchOptions&) {};
   const Case cases[] = {
       {"no file", two, [](BatchOptions& o) { o.file = "C:\\none.csv"; }, "C:\\none.csv"},
-      {"empty file", "", nothing, "Kein Trennzeichen"},
+      {"empty file", "", nothing, "leer"},
       {"no delimiter", "Name\r\nFalk\r\n", nothing, "Kein Trennzeichen"},
       {"delimiter not in the header", "Name\r\nFalk;030\r\n",
        [](BatchOptions& o) { o.delimiter = 0; }, "Keine zul\xC3\xA4ssigen Trennzeichen"},
