@@ -7,6 +7,7 @@
 #include "book/book_lines.h"
 #include "book/entry_list.h"
 #include "book/merge.h"
+#include "book/pages/entry_hints.h"
 #include "book/pages/entry_page.h"
 #include "sources/pages/outlook_page.h"
 #include "sources/pages/source_page.h"
@@ -31,7 +32,8 @@ class fMain : public WizardShell,
               public NamePage,
               public AddressPage,
               public EntryPage,
-              public OutlookPage {
+              public OutlookPage,
+              public EntryHints {
  public:
   explicit fMain(App& services);
   ~fMain() override;
@@ -72,7 +74,9 @@ class fMain : public WizardShell,
   void clean_file();
   void run_page_work(PageWork work);
   void enter_file_entries();
+  void compose_again();
   void return_to_source();
+  void show_page_state();
   [[nodiscard]] Composition composition() const;
   [[nodiscard]] CleanNumber number_cleaner();
   enum class Merge { kDone, kFailed, kChangedMeanwhile };
@@ -84,6 +88,7 @@ class fMain : public WizardShell,
                                 const std::string& fresh);
 
   App& app_;
+  bool book_written_ = false;
   FlatTable entries_{kEntryColumns};  // being collected; the final list takes them over
 };
 

@@ -1,3 +1,4 @@
+#include <string>
 #include <string_view>
 
 #include "app/fMain.h"
@@ -43,6 +44,7 @@ void fMain::clean_file() {
 }
 
 void fMain::run_page_work(PageWork work) {
+  if (work != PageWork::kWrite) labEdited.set_visible(false);
   switch (work) {
     case PageWork::kNone:
       break;
@@ -63,6 +65,7 @@ void fMain::run_page_work(PageWork work) {
       StatusBar.set_panel(2, "");
       break;
     case PageWork::kNames:
+      StatusBar.set_panel(2, "");
       HeaderFillName();
       break;
     case PageWork::kAddresses:
@@ -82,6 +85,18 @@ void fMain::run_page_work(PageWork work) {
   refresh_buttons();
 }
 
+void fMain::compose_again() {
+  begin_step();
+  switch (source.kind()) {
+    case Source::kFile:
+      return run_page_work(PageWork::kEntries);
+    case Source::kOutlook:
+      return run_page_work(PageWork::kOutlook);
+    case Source::kIspy:
+      return run_page_work(PageWork::kIspyLog);
+  }
+}
+
 void fMain::enter_file_entries() {
   lstImpFinal.clear();
   if (!CheckAreaCode()) return show_composed(Composed::kFailed);
@@ -95,10 +110,12 @@ void fMain::enter_file_entries() {
 void fMain::cmdBack_Click() {
   procedure(app_.errors, "fMain.cmdBack_Click", {}, [&] {
     PicProgress.set_percent(0);
+    StatusBar.set_panel(2, "");
     if (wizard.CurrentPage == Page::kWrite) {
       // The book could not be written: the entries are still there, whatever they came from.
       wizard.CurrentPage = Page::kEntries;
       ShowSite();
+      show_page_state();
       refresh_buttons();
       return;
     }
@@ -126,8 +143,17 @@ void fMain::cmdBack_Click() {
         return_to_source();
         break;
     }
+    show_page_state();
     refresh_buttons();
   }).or_go_on();
+}
+
+/// Panel 3 on a page that is come back to: what is on it, or how the link stands.
+void fMain::show_page_state() {
+  if (wizard.on_outlook_page)
+    return show_counts(lstImport.count(), texts["Import_Info_ItemsForImport"]);
+  if (wizard.CurrentPage == Page::kEntries) return show_count();
+  StatusBar.set_panel(3, wizard.link_open ? texts["Import_Info_DDEactive"] : std::string());
 }
 
 void fMain::return_to_source() {

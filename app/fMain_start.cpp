@@ -27,6 +27,7 @@ fMain::fMain(App& services)
       AddressPage(static_cast<WizardShell&>(*this), static_cast<ColumnPage&>(*this)),
       EntryPage(static_cast<WizardShell&>(*this)),
       OutlookPage(static_cast<WizardShell&>(*this), static_cast<SourcePage&>(*this)),
+      EntryHints(static_cast<WizardShell&>(*this), static_cast<EntryPage&>(*this)),
       app_(services) {
   connect();
 }
@@ -35,6 +36,7 @@ fMain::~fMain() = default;
 
 void fMain::connect() {
   cmdFor.on_click = [this] { cmdFor_Click(); };
+  on_compose = [this] { compose_again(); };
   cmdCancel.on_click = [this] { cmdCancel_Click(); };
   on_unload = [this] { Form_Unload(); };
   on_got_focus = [this] { Form_GotFocus(); };
@@ -93,7 +95,9 @@ void fMain::Form_LinkError() {
 
 void fMain::Form_Unload() {
   procedure(app_.errors, "fMain.Form_Unload", {}, [&] {
-    if (txtDDE.text() != "data") txtDDE.set_text("cancel");
+    // A host that came after the writing has heard "ON" only: it must not be told that nothing
+    // happened.
+    if (txtDDE.text() != "data") txtDDE.set_text(book_written_ ? "data" : "cancel");
     wizard.abort = true;
     SaveWindowPosition();
     app_.machine.host_link.shut_down();
@@ -133,6 +137,7 @@ void fMain::Language() {
     AddressPage::load_captions();
     EntryPage::load_captions();
     OutlookPage::load_captions();
+    EntryHints::load_captions();
   }).or_go_on();
 }
 

@@ -51,6 +51,7 @@ void fMain::Add() {
           app_.message_box(fault.addition(), MessageStyle::kExclamation);
         }
       });
+  if (!done || merge != Merge::kDone) StatusBar.set_panel(2, "");
   if (!done || merge == Merge::kFailed) return;
   if (merge == Merge::kChangedMeanwhile) {
     // The same entries can be merged into the book as it is now.
@@ -108,6 +109,7 @@ fMain::Merge fMain::merge_into_book(std::string& book_text, std::string_view& li
                                                                       .spoil = &make_unreadable});
   if (result == ReplaceResult::kChangedMeanwhile) return Merge::kChangedMeanwhile;
   txtDDE.set_text("data");
+  book_written_ = true;
   return Merge::kDone;
 }
 

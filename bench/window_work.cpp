@@ -88,7 +88,7 @@ class WindowWork : public WizardTest {
       prepare(step);
       begin(step);
       Sleep(static_cast<DWORD>(duration * static_cast<ULONGLONG>(percent) / 100));
-      press(Key::kEscape);
+      press_at_once(Key::kEscape);
       const ULONGLONG answer = milliseconds_until([&] { return !main_.visible(); });
       longest = std::max(longest, answer);
       std::printf(" %llu", answer);

@@ -64,9 +64,12 @@ std::string add_area_code(std::string_view number, std::string_view own_area_cod
   return concat(own_area_code, number);
 }
 
+bool country_code_complete(std::string_view country) {
+  return country.starts_with("00") && country.size() >= kShortestCode;
+}
+
 bool own_codes_complete(std::string_view country, std::string_view area) {
-  return country.starts_with("00") && area.starts_with('0') && country.size() >= kShortestCode &&
-         area.size() >= kShortestCode;
+  return country_code_complete(country) && area.starts_with('0') && area.size() >= kShortestCode;
 }
 
 bool own_codes_acceptable(std::string_view country, std::string_view area) {

@@ -18,6 +18,8 @@ void clean_number(std::string_view number, std::string_view own_country_code, st
 /// other number as it is.
 std::string add_area_code(std::string_view number, std::string_view own_area_code);
 
+/// Whether the own country code is: "00" and a digit more.
+bool country_code_complete(std::string_view country);
 /// Whether the own codes are good enough to import with: "00" and "0" in front, three characters
 /// each.
 bool own_codes_complete(std::string_view country, std::string_view area);

@@ -1,6 +1,7 @@
 #include "book/pages/entry_page.h"
 
 #include <algorithm>
+#include <optional>
 
 #include "book/entry_list.h"
 #include "book/number_cleaning.h"
@@ -10,6 +11,7 @@
 #include "support/procedure.h"
 #include "text/entry_text.h"
 #include "text/fault.h"
+#include "text/text.h"
 #include "wizard/shell/design.h"
 
 namespace quenda {
@@ -17,7 +19,7 @@ namespace {
 
 constexpr DesignRow<EntryPage> kDesign[] = {
     {.control = control_at<&EntryPage::labImpFinal>,
-     .place = {0, 0, 7320, 255},
+     .place = {0, 0, 2100, 255},
      .tab = 70,
      .caption = "Journal_Info_Items"},
     {.control = control_at<&EntryPage::lstImpFinal>,
@@ -40,44 +42,44 @@ constexpr DesignRow<EntryPage> kDesign[] = {
      .caption = "Import_Label_Delete",
      .across = Anchor::kEnd},
     {.control = control_at<&EntryPage::frmAsk>,
-     .place = {7500, 1800, 2940, 1830},
+     .place = {7500, 1710, 2940, 1680},
      .caption = "Import_Label_BehaviorExistNumber",
      .across = Anchor::kEnd},
     {.control = control_at<&EntryPage::optAsk, 0>,
-     .place = {150, 330, 2700, 420},
+     .place = {150, 285, 2700, 420},
      .tab = 74,
      .caption = "Import_Option_AskDataSet",
      .frame = control_at<&EntryPage::frmAsk>},
     {.control = control_at<&EntryPage::optAsk, 1>,
-     .place = {150, 795, 2700, 420},
+     .place = {150, 735, 2700, 420},
      .tab = 75,
      .caption = "Import_Option_NewDataSet",
      .frame = control_at<&EntryPage::frmAsk>},
     {.control = control_at<&EntryPage::optAsk, 2>,
-     .place = {150, 1260, 2700, 420},
+     .place = {150, 1185, 2700, 420},
      .tab = 76,
      .caption = "Import_Option_RetainDataSet",
      .frame = control_at<&EntryPage::frmAsk>},
     {.control = control_at<&EntryPage::labStateCode>,
-     .place = {7500, 3810, 1560, 255},
+     .place = {7500, 3555, 1560, 255},
      .tab = 77,
      .caption = "Settings_Label_CountryCode",
      .across = Anchor::kEnd},
     {.control = control_at<&EntryPage::txtStateCode>,
-     .place = {9120, 3765, 1320, 345},
+     .place = {9120, 3510, 1320, 345},
      .tab = 78,
      .across = Anchor::kEnd},
     {.control = control_at<&EntryPage::labOVW>,
-     .place = {7500, 4260, 1560, 255},
+     .place = {7500, 3960, 1560, 255},
      .tab = 79,
      .caption = "Import_Label_MissingAreaCode1",
      .across = Anchor::kEnd},
     {.control = control_at<&EntryPage::txtOVW>,
-     .place = {9120, 4215, 1320, 345},
+     .place = {9120, 3915, 1320, 345},
      .tab = 80,
      .across = Anchor::kEnd},
     {.control = control_at<&EntryPage::labOVWhint>,
-     .place = {7500, 4680, 2940, 480},
+     .place = {7500, 4575, 2940, 420},
      .caption = "Import_Label_MissingAreaCode2",
      .across = Anchor::kEnd},
 };
@@ -93,6 +95,7 @@ EntryPage::EntryPage(WizardShell& shell) : WizardPage(shell) {
 void EntryPage::design() {
   apply_design(*this, kDesign, &shell_.frmImp(4));
   lstImpFinal.set_columns({{"", 2600}, {"", 1800}, {"", 2550}});
+  lstImpFinal.set_sortable(true);
 }
 
 void EntryPage::connect() {
@@ -134,6 +137,7 @@ void EntryPage::show_composed(Composed composed) {
   cmdDel.set_enabled(can_go_on() && lstImpFinal.count() > 0);
   cmdEditItems.set_enabled(cmdDel.enabled());
   show_count();
+  if (on_composed) on_composed();
 }
 
 void EntryPage::show_count() {
@@ -159,10 +163,17 @@ std::string EntryPage::AddVW(std::string_view number) {
 bool EntryPage::CheckAreaCode() {
   return procedure(app_.errors, "fMain.CheckAreaCode", {}, [&] {
     if (own_codes_complete(txtStateCode.text(), txtOVW.text())) return;
+    // Closing the dialog is no answer: it comes back with what was typed.
+    std::optional<OwnCodes> typed;
     do {
       fOVWInput dialog(app_);
+      if (typed) {
+        dialog.txtLVW.set_text(typed->country);
+        dialog.txtOVW.set_text(typed->area);
+      }
       app_.machine.events.show_modal(dialog, shell_);
       if (shell_.wizard.abort) throw EndProgram();
+      typed = OwnCodes{.country = dialog.txtLVW.text(), .area = dialog.txtOVW.text()};
       if (!dialog.answer) continue;
       txtOVW.set_text(dialog.answer->area);
       txtStateCode.set_text(dialog.answer->country);
@@ -213,6 +224,7 @@ void EntryPage::ChangeItem() {
     lstImpFinal.set_cell(row, kEntryName, edited.name);
     lstImpFinal.set_cell(row, kEntryNumber, edited.number);
     lstImpFinal.set_cell(row, kEntryAddress, edited.address);
+    if (on_edited) on_edited();
   }).or_go_on();
 }
 
@@ -220,11 +232,15 @@ void EntryPage::cmdDel_Click() {
   procedure(app_.errors, "fMain.cmdDel_Click", {}, [&] {
     const int row = lstImpFinal.selected();
     if (row >= 0) {
+      // As the rows are seen, which may be sorted.
+      const std::size_t position = lstImpFinal.order().position_of(static_cast<std::size_t>(row));
       lstImpFinal.remove_row(static_cast<std::size_t>(row));
-      const int count = static_cast<int>(lstImpFinal.count());
+      if (on_edited) on_edited();
+      const std::size_t count = lstImpFinal.count();
       if (count > 0) {
         // The row that moved up, or the last one when the last was removed.
-        lstImpFinal.select(std::min(row, count - 1));
+        lstImpFinal.select(
+            static_cast<int>(lstImpFinal.order().row_at(std::min(position, count - 1))));
         lstImpFinal.set_focus();
       }
       show_count();

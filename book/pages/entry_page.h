@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -52,6 +53,11 @@ class EntryPage : public WizardPage {
   void ChangeItem();
   void optAsk_Click(int index);
 
+  /// The user has changed or deleted an entry.
+  std::function<void()> on_edited;
+  /// The entries were composed anew.
+  std::function<void()> on_composed;
+
   MergeMode merge_mode = MergeMode::kAsk;
   /// The entry that comes back from fImportItemEdit.
   EditedItem edited;
@@ -69,10 +75,13 @@ class EntryPage : public WizardPage {
   TextBox txtOVW{shell_, "txtOVW"};
   Label labOVWhint{shell_, "labOVWhint"};
 
+ protected:
+  /// "37 gültige Einträge" in panel 3.
+  void show_count();
+
  private:
   void design();
   void connect();
-  void show_count();
 
   Composed composed_ = Composed::kNothing;
 };

@@ -28,6 +28,7 @@ constexpr DesignRow<fImportItemEdit> kDesign[] = {
     {.control = control_at<&fImportItemEdit::txtAdress>,
      .place = {1620, 1095, 4380, 345},
      .tab = 5},
+    {.control = control_at<&fImportItemEdit::labMissing>, .place = {180, 1755, 2700, 255}},
     {.control = control_at<&fImportItemEdit::cmdEdit, 0>,
      .place = {3060, 1680, 1400, 390},
      .tab = 6,
@@ -99,9 +100,18 @@ void fImportItemEdit::SettVars(int row) {
   procedure(app_.errors, "fImportItemEdit.SettVars", {row}, [&] { row_ = row; }).or_go_on();
 }
 
+bool fImportItemEdit::misses(TextBox& box, const Label& name) {
+  if (!trim(box.text()).empty()) return false;
+  labMissing.set_caption(concat(name.caption(), " ", app_.text("Import_Label_IsMissing")));
+  box.set_focus();
+  return true;
+}
+
 void fImportItemEdit::cmdEdit_Click(int index) {
   procedure(app_.errors, "fImportItemEdit.cmdEdit_Click", {index}, [&] {
     if (index == 0) {
+      // The book has no use for an entry without them.
+      if (misses(txtName, labName) || misses(txtNumber, labNumber)) return;
       answer = {.row = row_,
                 .changed = !(txtName.text().empty() && txtNumber.text().empty() &&
                              txtAdress.text().empty()),

@@ -48,8 +48,11 @@ class fImportItemEdit : public Form {
   TextBox txtAdress{*this, "txtAdress"};
   ControlArray<Button> cmdEdit{*this, "cmdEdit", {0, 1}};
   Button cmdHelp{*this, "cmdHelp"};
+  Label labMissing{*this, "labMissing"};  // which field has to be filled first
 
  private:
+  /// Tells the user that a field has to be filled; whether it has to.
+  bool misses(TextBox& box, const Label& name);
   void design();
   void connect();
 

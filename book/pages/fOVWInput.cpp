@@ -70,7 +70,8 @@ void fOVWInput::connect() {
   cmdOK.on_click = [this] { cmdOK_Click(); };
   cmdHelp.on_click = [this] { cmdHelp_Click(); };
   on_help = cmdHelp.on_click;
-  on_got_focus = [this] { txtOVW.set_focus(); };
+  // Where there is something to do.
+  on_got_focus = [this] { (country_code_complete(txtLVW.text()) ? txtOVW : txtLVW).set_focus(); };
 }
 
 void fOVWInput::Form_Load() {

@@ -15,6 +15,7 @@ struct App;
 struct OwnCodes {
   std::string country;
   std::string area;
+  friend bool operator==(const OwnCodes&, const OwnCodes&) = default;
 };
 
 /// Asks for the own country and area code, without which numbers cannot be completed.

@@ -158,6 +158,11 @@ inline constexpr std::array kLanguageKeys = {
     // The entries.
     LanguageKey{"Import_Label_ImportedData", u8"Einträge für das Telefonbuch"_de},
     LanguageKey{"Import_Label_Delete", u8"Auch die Taste Entf entfernt den markierten Eintrag."_de},
+    LanguageKey{"Import_Label_EditsGetLost",
+                u8"\"Zurück\" verwirft Ihre Änderungen in dieser Liste."_de},
+    LanguageKey{"Import_Label_IsMissing", "fehlt"},
+    LanguageKey{"Import_Label_CodesPurpose", u8"Sie ergänzen die Nummern."_de},
+    LanguageKey{"Import_Button_ComposeAgain", "Neu anwenden"},
     LanguageKey{"Import_Label_BehaviorExistNumber", "Rufnummer bereits vorhanden"},
     LanguageKey{"Import_Option_AskDataSet", "nachfragen"},
     LanguageKey{"Import_Option_NewDataSet", u8"neuen Datensatz übernehmen"_de},

@@ -118,7 +118,14 @@ void SourcePage::cmdIspy_Click() {
 void SourcePage::choose_file(FilterSet filters) {
   txtImpFile.set_text("");
   const std::string path = app_.open_file(filters);
-  if (!path.empty()) txtImpFile.set_text(path);
+  if (path.empty()) return;
+  txtImpFile.set_text(path);
+  // Where the user's next step is; the button that was pressed would open the dialog again.
+  if (shell_.cmdFor.reachable()) {
+    shell_.cmdFor.set_focus();
+  } else if (detection_failed_ && cmbLimiter.reachable()) {
+    cmbLimiter.set_focus();
+  }
 }
 
 void SourcePage::open_choice(bool open) {

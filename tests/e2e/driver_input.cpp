@@ -90,6 +90,10 @@ void wait_until_active(const Window& window) {
 
 void press(Key key) {
   if (key == Key::kEnter || key == Key::kBlank || key == Key::kEscape) look_first();
+  press_at_once(key);
+}
+
+void press_at_once(Key key) {
   send_key(static_cast<WORD>(key), 0, 0);
   send_key(static_cast<WORD>(key), 0, KEYEVENTF_KEYUP);
 }

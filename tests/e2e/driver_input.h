@@ -25,6 +25,8 @@ void wait_until_active(const Window& window);
 
 /// Enter and the blank once what can be seen takes them.
 void press(Key key);
+/// Without a look at what there is.
+void press_at_once(Key key);
 /// Holds a key down for so many repeats.
 void hold(Key key, int repeats);
 /// With Shift, Control or Alt (VK_SHIFT, VK_CONTROL, VK_MENU) held down.

@@ -48,8 +48,10 @@ class FakeDialogs : public Dialogs {
   MessageAnswer message_box(std::string_view text, MessageStyle style,
                             std::string_view title) override {
     boxes.push_back({std::string(text), style, std::string(title)});
+    if (on_box) on_box();
     return taken_from(answers, MessageAnswer::kOk);
   }
+  std::function<void()> on_box;           // runs while a box stands
   std::function<void()> on_folder_shown;  // runs inside the hook of the file dialogs
 
   ChosenFile open_file(const std::vector<FileFilter>& wanted, const DialogHook& hook) override {

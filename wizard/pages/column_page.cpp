@@ -24,7 +24,8 @@ constexpr DesignRow<ColumnPage> kDesign[] = {
     {.control = control_at<&ColumnPage::lstHeader, 0>,
      .place = {0, 285, 2490, 2070},
      .tab = 21,
-     .across = Anchor::kShare},
+     .across = Anchor::kShare,
+     .down = Anchor::kBoth},
     {.control = control_at<&ColumnPage::labHeader, 1>,
      .place = {2650, 0, 2490, 255},
      .tab = 22,
@@ -33,7 +34,8 @@ constexpr DesignRow<ColumnPage> kDesign[] = {
     {.control = control_at<&ColumnPage::lstHeader, 1>,
      .place = {2650, 285, 2490, 2070},
      .tab = 23,
-     .across = Anchor::kShare},
+     .across = Anchor::kShare,
+     .down = Anchor::kBoth},
     {.control = control_at<&ColumnPage::labHeader, 2>,
      .place = {5300, 0, 2490, 255},
      .tab = 24,
@@ -42,7 +44,8 @@ constexpr DesignRow<ColumnPage> kDesign[] = {
     {.control = control_at<&ColumnPage::lstHeader, 2>,
      .place = {5300, 285, 2490, 2070},
      .tab = 25,
-     .across = Anchor::kShare},
+     .across = Anchor::kShare,
+     .down = Anchor::kBoth},
     {.control = control_at<&ColumnPage::labHeader, 3>,
      .place = {7950, 0, 2490, 255},
      .tab = 26,
@@ -51,7 +54,8 @@ constexpr DesignRow<ColumnPage> kDesign[] = {
     {.control = control_at<&ColumnPage::lstHeader, 3>,
      .place = {7950, 285, 2490, 2070},
      .tab = 27,
-     .across = Anchor::kShare},
+     .across = Anchor::kShare,
+     .down = Anchor::kBoth},
 };
 
 /// Below the page, shared with the next one.
@@ -99,6 +103,11 @@ void ColumnPage::page_shown(Page now) {
   const bool preview = now == Page::kColumns || now == Page::kNames;
   lstShow.set_visible(preview);
   labShow.set_visible(preview);
+  // Above it the lists of columns use their share of a larger window; the fields of the names
+  // cannot.
+  const bool shared = now == Page::kColumns;
+  labShow.set_anchors(Anchor::kStart, shared ? Anchor::kShareStart : Anchor::kStart);
+  lstShow.set_anchors(Anchor::kBoth, shared ? Anchor::kShare : Anchor::kBoth);
 }
 
 bool ColumnPage::can_go_on() const {

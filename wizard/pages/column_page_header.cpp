@@ -87,6 +87,9 @@ void ColumnPage::fill_header_lists(const std::vector<std::string>& header) {
   lstShow.set_columns(preview_columns(header, source.ImportRows, source.Delimiter.front()));
   preview_.show(source.ImportRows, source.Delimiter.front());
   lstShow.set_source(&preview_);
+  // The count of the file's lines, which the status bar tells, has the header among them.
+  labShow.set_caption(
+      concat(app_.text("Import_Label_PreviewData"), " (", std::to_string(preview_.rows()), ")"));
 }
 
 void ColumnPage::select_saved_columns(const std::vector<std::string>& header) {

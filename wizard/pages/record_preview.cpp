@@ -7,11 +7,15 @@ namespace quenda {
 void RecordPreview::show(const RecordTable& records, char delimiter) {
   records_ = &records;
   delimiter_ = delimiter;
+  rows_ = records.empty() ? 0 : records.size() - 1;
+  // What stands behind the last line end of a file is no record to look at.
+  const auto blank = [delimiter](std::string_view record) {
+    return record.find_first_not_of(delimiter) == record.npos;
+  };
+  while (rows_ > 0 && blank(records[rows_])) --rows_;
 }
 
-std::size_t RecordPreview::rows() const {
-  return records_ == nullptr || records_->empty() ? 0 : records_->size() - 1;
-}
+std::size_t RecordPreview::rows() const { return rows_; }
 
 std::string RecordPreview::cell(std::size_t row, std::size_t column) const {
   RecordFields fields;

@@ -19,6 +19,7 @@ class RecordPreview : public RowSource {
  private:
   const RecordTable* records_ = nullptr;
   char delimiter_ = ';';
+  std::size_t rows_ = 0;
 };
 
 }  // namespace quenda

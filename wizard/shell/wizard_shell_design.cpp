@@ -10,7 +10,7 @@ constexpr int kPageWidth = 10440;
 constexpr int kPageHeight = 5400;
 
 constexpr Place kPage = {0, 0, kPageWidth, kPageHeight};
-// The preview stands below these pages, so they keep their height.
+// The preview stands below these pages.
 constexpr Place kUpperPage = {0, 0, kPageWidth, 2430};
 constexpr Place kHelpLine = {180, 420, 10260, 420};
 
@@ -64,7 +64,8 @@ constexpr DesignRow<WizardShell> kDesign[] = {
     {.control = control_at<&WizardShell::frmImp, 1>,
      .place = kUpperPage,
      .frame = control_at<&WizardShell::frmPages>,
-     .across = Anchor::kBoth},
+     .across = Anchor::kBoth,
+     .down = Anchor::kShare},
     {.control = control_at<&WizardShell::frmImp, 2>,
      .place = kUpperPage,
      .frame = control_at<&WizardShell::frmPages>,

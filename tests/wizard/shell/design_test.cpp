@@ -42,7 +42,8 @@ TEST_F(MainDesign, TheOrderOfTheControlsStaysSinceTheirIdsComeFromIt) {
             "labImpFinal lstImpFinal cmdEditItems cmdDel labDelete frmAsk optAsk*3 labStateCode "
             "txtStateCode labOVW txtOVW labOVWhint "
             "labImport*3 chkImport*11 txtImport*11 chkAdr*14 chkFlipName chkFlipAdress "
-            "labPreview lstImport");
+            "labPreview lstImport "
+            "labEdited labCodes cmdCompose");
 }
 
 TEST_F(MainDesign, WhatTheTabKeyReachesHasANameOfItsOwnOnItsPage) {
