@@ -28,17 +28,17 @@ constexpr DesignRow<fImportItemEdit> kDesign[] = {
     {.control = control_at<&fImportItemEdit::txtAdress>,
      .place = {1620, 1095, 4380, 345},
      .tab = 5},
-    {.control = control_at<&fImportItemEdit::labMissing>, .place = {180, 1755, 2700, 255}},
+    {.control = control_at<&fImportItemEdit::labMissing>, .place = {1620, 1500, 4380, 255}},
     {.control = control_at<&fImportItemEdit::cmdEdit, 0>,
-     .place = {3060, 1680, 1400, 390},
+     .place = {3060, 1860, 1400, 390},
      .tab = 6,
      .caption = "Button_Save"},
     {.control = control_at<&fImportItemEdit::cmdEdit, 1>,
-     .place = {4600, 1680, 1400, 390},
+     .place = {4600, 1860, 1400, 390},
      .tab = 7,
      .caption = "Button_Cancel"},
     {.control = control_at<&fImportItemEdit::cmdHelp>,
-     .place = {180, 1680, 1400, 390},
+     .place = {180, 1860, 1400, 390},
      .tab = 8,
      .caption = "Button_Help"},
 };
@@ -53,7 +53,7 @@ fImportItemEdit::fImportItemEdit(App& app) : Form("fImportItemEdit"), app_(app) 
 
 void fImportItemEdit::design() {
   apply_design(*this, kDesign);
-  set_place({0, 0, 6180, 2250});
+  set_place({0, 0, 6180, 2430});
   default_button = &cmdEdit(0);
   cancel_button = &cmdEdit(1);
 }
