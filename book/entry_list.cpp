@@ -34,6 +34,8 @@ bool number_importable(std::string_view number) {
   return number.size() > kLongestDroppedNumber && is_numeric(number);
 }
 
+bool name_too_short(std::string_view name) { return name.size() < kShortestName; }
+
 FlatTable entry_rows(FlatTable rows, bool suppress_short_names,
                      const std::function<void(std::size_t, std::size_t)>& on_step) {
   const std::size_t total = rows.rows();
@@ -42,7 +44,7 @@ FlatTable entry_rows(FlatTable rows, bool suppress_short_names,
     on_step(++done, total);
     shift_at_separators(cells);
     if (!number_importable(cells[kEntryNumber])) return false;
-    if (suppress_short_names && cells[kEntryName].size() < kShortestName) return false;
+    if (suppress_short_names && name_too_short(cells[kEntryName])) return false;
     for (const EntryColumn column : {kEntryName, kEntryAddress})
       cells[column] = trim(cells[column]);
     return true;

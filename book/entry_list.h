@@ -16,6 +16,9 @@ enum EntryColumn : std::size_t { kEntryName, kEntryNumber, kEntryAddress, kEntry
 /// Whether a number is long enough (8 characters) and numeric, so that an entry can have it.
 bool number_importable(std::string_view number);
 
+/// Whether a name is below 3 characters, so that it is left out where short names are suppressed.
+bool name_too_short(std::string_view name);
+
 /// The rows of the final list. A row is left out when its number is not importable, and, where
 /// short names are suppressed, when its name has fewer than 3 characters. A ";" inside a cell,
 /// which a file with another delimiter can have, shifts the cells: a row counts as the line

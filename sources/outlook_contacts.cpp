@@ -72,6 +72,12 @@ void add_contact(ContactTable& table, const OutlookContact& contact) {
   table.add_row(cells);
 }
 
+std::string contact_name(const ContactTable& contacts, std::size_t contact, bool flip) {
+  std::string name;
+  join_pair(name, contacts.cell(contact, kContactName), " ", flip);
+  return std::string(trim(name));
+}
+
 FlatTable preview_rows(const ContactTable& contacts, const OutlookChoice& choice) {
   FlatTable rows(3);
   std::array<std::string, kNumberKinds + 1> suffixes;

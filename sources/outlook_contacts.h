@@ -86,8 +86,10 @@ constexpr bool has_two_addresses(std::size_t kind) { return kind == 7 || kind ==
 /// Columns of the preview.
 enum PreviewColumn : std::size_t { kPreviewName, kPreviewNumber, kPreviewAddress };
 
-/// The preview: one row per contact and ticked number kind that the contact
-/// has a number of.
+/// A contact's name in the order of the names, without a suffix.
+std::string contact_name(const ContactTable& contacts, std::size_t contact, bool flip);
+
+/// The preview: one row per contact and ticked number kind that the contact has a number of.
 FlatTable preview_rows(const ContactTable& contacts, const OutlookChoice& choice);
 
 }  // namespace quenda

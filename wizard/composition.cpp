@@ -70,6 +70,7 @@ void EntryComposer::append_cell(std::string& out, std::string_view field) const 
 }
 
 void EntryComposer::compose(const RecordTable& records, std::size_t record, FlatTable& entries) {
+  name_.clear();
   fields_.split(records, record, delimiter_, last_column_);
   if (!fields_.has_delimiter()) return;
   const std::string_view text = records[record];
@@ -79,7 +80,6 @@ void EntryComposer::compose(const RecordTable& records, std::size_t record, Flat
   const auto name_part = [&](std::size_t part) {
     return part < columns.names.size() ? fields_[columns.names[part]] : std::string_view();
   };
-  name_.clear();
   append_cell(name_, name_part(composition_.flip_name ? 1 : 0));
   name_ += ' ';
   append_cell(name_, name_part(composition_.flip_name ? 0 : 1));

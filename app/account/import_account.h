@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <string_view>
+
+#include "app/account/source_numbers.h"
+#include "book/import_report.h"
+#include "book/merge_account.h"
+#include "text/flat_table.h"
+
+namespace quenda {
+
+/// What an account of an import is made of.
+struct AccountInput {
+  /// Walks over the source as it was composed; returns the count of its records.
+  std::function<std::size_t(const OnSourceNumber&)> walk;
+  /// The final list as it stands: what the user removed is missing, what he edited is as edited.
+  const FlatTable& list;
+  /// What the merge makes, or made, of a row of the list.
+  std::function<MergeAccount::Verdict(std::size_t row)> verdict;
+  /// Line of the source of a row of the list.
+  std::function<std::uint64_t(std::size_t row)> line_of_row;
+  /// Name of an entry of the book as it was.
+  std::function<std::string_view(std::size_t entry)> name_in_book;
+};
+
+/// Every number of the source with its fate, in the order of the source. Returns the count of
+/// records. The texts of a row are good only while one is told of it.
+std::size_t account_for(const AccountInput& input,
+                        const std::function<void(const ReportRow&)>& on_row);
+
+}  // namespace quenda
