@@ -1,11 +1,16 @@
 #pragma once
 
+#include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "app/account/source_numbers.h"
+#include "app/merge_run.h"
 #include "book/book_lines.h"
 #include "book/entry_list.h"
+#include "book/import_report.h"
 #include "book/merge.h"
 #include "book/pages/entry_hints.h"
 #include "book/pages/entry_page.h"
@@ -67,6 +72,14 @@ class fMain : public WizardShell,
   [[nodiscard]] bool ListUpdate();
   void Add();
 
+  // What becomes of every number of the source.
+  /// Merges as Add does and writes nothing; questions are found, not put. Whether the book could be
+  /// read.
+  bool look_ahead();
+  /// Tells of every number of the source, by the merge that ran last. Returns the count of records.
+  std::size_t account(const std::function<void(const ReportRow&)>& on_row);
+  [[nodiscard]] const MergeRun* last_merge() const { return last_merge_.get(); }
+
   LineEnd book_line_end = LineEnd::kCrLf;  // of the book that was read last
 
  private:
@@ -79,16 +92,20 @@ class fMain : public WizardShell,
   void show_page_state();
   [[nodiscard]] Composition composition() const;
   [[nodiscard]] CleanNumber number_cleaner();
-  enum class Merge { kDone, kFailed, kChangedMeanwhile };
-  /// Where the merge did not come to its end for a fault, the user has been told why.
-  Merge merge_into_book(std::string& book_text, std::string_view& line);
+  /// Reads the book and merges the entries into it, up to what is to be written.
+  MergeRun::End merge_into_book(MergeRun& run, const AskAboutDouble& ask);
+  MergeRun::End write_book(MergeRun& run);
+  MergeRun::End merge_and_write(MergeRun& run);
   /// False when the book cannot be read without losing entries; the user has been told then.
   bool book_readable(std::string_view book);
   DoubleAnswer ask_about_double(std::string_view number, const std::string& existing,
                                 const std::string& fresh);
 
+  std::size_t walk_source(const OnSourceNumber& on_number);
+
   App& app_;
   bool book_written_ = false;
+  std::unique_ptr<MergeRun> last_merge_;
   FlatTable entries_{kEntryColumns};  // being collected; the final list takes them over
 };
 

@@ -1,3 +1,4 @@
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -34,16 +35,15 @@ std::string line_for_report(std::string_view book, std::string_view line) {
 }  // namespace
 
 void fMain::Add() {
-  std::string book_text;
-  std::string_view line;  // the line of the book that is being read, for the report of a fault
-  auto merge = Merge::kFailed;
+  last_merge_ = std::make_unique<MergeRun>();
+  MergeRun& run = *last_merge_;
   const bool done = procedure_with_own_report(
-      app_.errors, "fMain.Add", {}, [&] { merge = merge_into_book(book_text, line); },
+      app_.errors, "fMain.Add", {}, [&] { run.end = merge_and_write(run); },
       [&](const RuntimeFault& fault, int statement) {
-        if (line.empty()) {
+        if (run.line.empty()) {
           app_.errors.ErrorLogWithMsgBox("fMain.Add", {}, fault, statement);
         } else {
-          const std::string shown = line_for_report(book_text, line);
+          const std::string shown = line_for_report(run.book, run.line);
           app_.errors.ErrorLogWithMsgBox("fMain.Add", {shown}, fault, statement);
         }
         // What the fault has done to the book.
@@ -51,9 +51,12 @@ void fMain::Add() {
           app_.message_box(fault.addition(), MessageStyle::kExclamation);
         }
       });
-  if (!done || merge != Merge::kDone) StatusBar.set_panel(2, "");
-  if (!done || merge == Merge::kFailed) return;
-  if (merge == Merge::kChangedMeanwhile) {
+  if (!done) run.end = MergeRun::End::kFailed;
+  if (run.end == MergeRun::End::kFailed || run.end == MergeRun::End::kChangedMeanwhile) {
+    StatusBar.set_panel(2, "");
+  }
+  if (run.end == MergeRun::End::kFailed) return;
+  if (run.end == MergeRun::End::kChangedMeanwhile) {
     // The same entries can be merged into the book as it is now.
     wizard.CurrentPage = Page::kEntries;
     show_composed(Composed::kEntries);
@@ -72,45 +75,59 @@ void fMain::Add() {
   unload();
 }
 
-fMain::Merge fMain::merge_into_book(std::string& book_text, std::string_view& line) {
+MergeRun::End fMain::merge_and_write(MergeRun& run) {
+  const MergeRun::End end =
+      merge_into_book(run, [this](auto number, const auto& existing, const auto& fresh) {
+        return ask_about_double(number, existing, fresh);
+      });
+  return end == MergeRun::End::kToBeWritten ? write_book(run) : end;
+}
+
+MergeRun::End fMain::merge_into_book(MergeRun& run, const AskAboutDouble& ask) {
   BusyWork busy(*this);
-  const std::string path = app_.paths.book_file();
   book_line_end = LineEnd::kCrLf;
-  if (app_.machine.files.has_file(path)) {
+  if (app_.machine.files.has_file(app_.paths.book_file())) {
     StatusBar.set_panel(2, texts["Import_Info_LoadBook"]);
-    book_text = app_.machine.files.read(path);
-    if (!book_readable(book_text)) return Merge::kFailed;
+    run.book = app_.machine.files.read(app_.paths.book_file());
+    if (!book_readable(run.book)) return MergeRun::End::kFailed;
   }
-  BookList list(book_text, book_line_end, lstImpFinal.table());
-  list.read_book(line, busy.on_step());
+  run.list.emplace(run.book, book_line_end, lstImpFinal.table());
+  BookList& list = *run.list;
+  list.read_book(run.line, busy.on_step());
 
   StatusBar.set_panel(2, texts["Import_Info_FilterData"]);
   list.add_rows(busy.on_step());
+  OnDecision on_decision;
+  if (wizard.account_wanted) {
+    run.account.emplace(list.in_book(), lstImpFinal.count(), run.questions);
+    on_decision = [&run](const DoubleDecision& decision) { run.account->note(decision); };
+  }
   const std::optional<std::size_t> kept = modImport::RemoveDoubleEntriesTypedImportArray(
-      app_.errors, list, merge_mode,
-      [this](std::string_view number, const std::string& existing, const std::string& fresh) {
-        return ask_about_double(number, existing, fresh);
-      },
-      busy.on_step());
-  if (!kept) return Merge::kFailed;
+      app_.errors, list, merge_mode, ask, busy.on_step(), on_decision);
+  if (!kept) return MergeRun::End::kFailed;
 
   // Entries that were replaced count as kept, and doubles that the book itself held count against
   // the new entries: as many new ones as such doubles are not written.
-  if (list.in_book() >= *kept) {
-    txtDDE.set_text("nodata");
-    return Merge::kDone;
-  }
+  if (list.in_book() < *kept) return MergeRun::End::kToBeWritten;
+  if (run.account) run.account->withhold();
+  if (run.questions == MergeAccount::Questions::kAnswered) txtDDE.set_text("nodata");
+  return MergeRun::End::kNothingNew;
+}
+
+MergeRun::End fMain::write_book(MergeRun& run) {
+  BusyWork busy(*this);
   StatusBar.set_panel(2, texts["Import_Info_WriteBook"]);
-  const BookChange change = compose_book(book_text, list, busy.on_step());
-  const ReplaceResult result = app_.machine.files.replace_tail(path, {.old_text = book_text,
-                                                                      .keep = change.keep,
-                                                                      .pieces = change.pieces,
-                                                                      .name = kBookName,
-                                                                      .spoil = &make_unreadable});
-  if (result == ReplaceResult::kChangedMeanwhile) return Merge::kChangedMeanwhile;
+  const BookChange change = compose_book(run.book, *run.list, busy.on_step());
+  const ReplaceResult result =
+      app_.machine.files.replace_tail(app_.paths.book_file(), {.old_text = run.book,
+                                                               .keep = change.keep,
+                                                               .pieces = change.pieces,
+                                                               .name = kBookName,
+                                                               .spoil = &make_unreadable});
+  if (result == ReplaceResult::kChangedMeanwhile) return MergeRun::End::kChangedMeanwhile;
   txtDDE.set_text("data");
   book_written_ = true;
-  return Merge::kDone;
+  return MergeRun::End::kWritten;
 }
 
 bool fMain::book_readable(std::string_view book) {

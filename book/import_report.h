@@ -26,7 +26,7 @@ struct ReportHead {
   std::string_view source;  // "file", "ispy" or "outlook"
   bool dry_run = false;     // nothing was to be written
   std::size_t records = 0;  // of the source, the header not counted
-  std::string_view result;  // "data", "nodata" or "refused"
+  std::string result;       // "data", "nodata" or "refused"
   FateCounts fates{};       // their sum is the count of numbers
   std::vector<std::pair<std::string, std::string>> options;   // as they held for this run
   std::vector<std::pair<std::string, std::size_t>> unchosen;  // numbers in columns not chosen

@@ -73,6 +73,12 @@ class Files {
   /// it. Null when the other one is not done in that time. No file is created for it.
   [[nodiscard]] virtual std::unique_ptr<FileLock> lock(std::string_view path,
                                                        std::uint32_t milliseconds) = 0;
+  /// Whether two paths lead to one file that is there, by whatever names.
+  [[nodiscard]] virtual bool same_file(std::string_view a, std::string_view b) const = 0;
+  /// Whether a file could be written there, or written anew. Nothing is changed to find out.
+  [[nodiscard]] virtual bool can_write(std::string_view path) const = 0;
+  /// Creates a folder in one that is there; one of that name that exists already will do.
+  virtual void make_folder(std::string_view path) = 0;
   /// Deletes the file; a missing or protected file is left without a word.
   virtual void remove(std::string_view path) noexcept = 0;
 };

@@ -143,13 +143,14 @@ std::size_t walk_contacts(const ContactTable& contacts, const OutlookChoice& cho
   std::size_t count = 0;
   const FlatTable rows = preview_rows(contacts, choice);
   std::size_t next = 0;
+  std::string cleaned;
   for (std::size_t at = 0; at < contacts.rows(); ++at) {
     bool any = false;
     ++count;
     for (; next < rows.rows() && rows.origin(next) >> kOriginRowBits == at; ++next) {
       any = true;
       const std::string_view raw = rows.cell(next, kEntryNumber);
-      const std::string cleaned = clean(raw);
+      clean(raw, cleaned);
       const std::string_view name = rows.cell(next, kEntryName);
       SourceNumber number = shown.make(raw, cleaned, name, rows.cell(next, kEntryAddress));
       number.record = count;

@@ -22,7 +22,8 @@ constexpr const char* kExamples = R"text(Beispiele:
     quenda-import --suite . --file logs/ispy.log --existing keep
 
 Ende-Status: 0 eingelesen (letzte Zeile der Ausgabe: data oder nodata),
-1 abgelehnt oder gescheitert, 2 falscher Aufruf.)text";
+1 abgelehnt oder gescheitert, 2 falscher Aufruf,
+3 eingelesen, aber eine Rufnummer nicht übernommen (nur mit --strict).)text";
 
 /// Ends the reading of the arguments with a status and a message.
 struct Stop {
@@ -32,7 +33,7 @@ struct Stop {
 
 /// The option texts as they were typed, UTF-8.
 struct Typed {
-  std::string suite, file, delimiter, flip_name, existing, min_name, country, area;
+  std::string suite, file, delimiter, flip_name, existing, min_name, country, area, report;
   std::array<std::vector<std::string>, kHeaderKinds> columns;
   std::vector<std::string> bindings, suffixes;
   int address_order = -1;
@@ -91,6 +92,13 @@ void declare(CLI::App& cli, Typed& typed, BatchOptions& options) {
       ->option_text("VORWAHL");
   cli.add_option("--area", typed.area, "Eigene Ortsvorwahl, z. B. 030")->option_text("VORWAHL");
   cli.add_flag("--dry-run", options.dry_run, "Nur zeigen: Name, Nummer und Adresse mit TAB");
+  cli.add_option("--report", typed.report,
+                 "Bericht über jede Rufnummer: CSV, bei der Endung .json JSON; - für die Ausgabe")
+      ->option_text("DATEI|-");
+  cli.add_flag("--strict", options.strict,
+               "Ende-Status 3, wenn eine Rufnummer nicht übernommen wurde");
+  cli.add_flag("--backup", options.backup, "Telefonbuch vorher sichern");
+  cli.add_flag("--undo", options.undo, "Letzten Import zurücknehmen (nur mit --suite)");
   cli.add_flag("--quiet", options.quiet, "Keine Fortschrittsanzeige");
 }
 
@@ -142,6 +150,16 @@ void take_names(const Typed& typed, BatchOptions& options) {
 
 void take(const CLI::App& cli, const Typed& typed, BatchOptions& options) {
   const auto given = [&](const char* name) { return cli.count(name) > 0; };
+  if (options.undo) {
+    for (const CLI::Option* option : cli.get_options()) {
+      const std::string name = option->get_name();
+      if (option->count() > 0 && name != "--undo" && name != "--suite" && name != "--quiet") {
+        throw Stop{kExitWrongUsage, concat("--undo steht nicht mit ", name, ".")};
+      }
+    }
+    options.suite = converted(typed.suite, kExitRefused);
+    return;
+  }
   if (!given("--file") && !options.outlook) {
     throw Stop{kExitWrongUsage, "Es fehlt --file oder --outlook."};
   }
@@ -163,6 +181,7 @@ void take(const CLI::App& cli, const Typed& typed, BatchOptions& options) {
     const auto [row, value] = row_value(text, "--suffix");
     options.suffixes[row] = converted(value, kExitWrongUsage);
   }
+  if (given("--report")) options.report = converted(typed.report, kExitRefused);
   take_names(typed, options);
 }
 

@@ -26,13 +26,22 @@ struct BatchOptions {
   std::optional<std::string> country;
   std::optional<std::string> area;
   bool dry_run = false;
+  std::optional<std::string> report;  // path of the report, "-" for stdout
+  bool strict = false;                // a lost number makes the run end with a status of its own
+  bool backup = false;                // the book is copied before it is written
+  bool undo = false;                  // takes the last import back instead of importing
   bool quiet = false;
 
   [[nodiscard]] bool columns_given() const;
 };
 
 /// Exit statuses of the console tool.
-enum ExitStatus : int { kExitDone = 0, kExitRefused = 1, kExitWrongUsage = 2 };
+enum ExitStatus : int {
+  kExitDone = 0,
+  kExitRefused = 1,
+  kExitWrongUsage = 2,
+  kExitNumbersLost = 3,  // with `strict`: imported, but a number was not taken
+};
 
 /// Options, or the text to print (UTF-8) and the status to leave with.
 struct BatchCommand {

@@ -10,6 +10,7 @@
 #include "app/fMain.h"
 #include "app/quenda-import/console_services.h"
 #include "app/quenda-import/printable.h"
+#include "app/quenda-import/report_file.h"
 #include "book/entry_list.h"
 #include "book/pages/fImportMsg.h"
 #include "platform/files.h"
@@ -66,6 +67,11 @@ class BatchRun {
   void write();
   void answer(Form& form);
   void answer_double(fImportMsg& dialog);
+  /// Says why the report cannot be written where it is wanted, and ends the run.
+  void check_report(std::string_view book);
+  /// Tells what became of every number of the source, where that is asked for.
+  void give_account();
+  [[nodiscard]] std::string account_result() const;
   /// Presses "Weiter"; the page that comes has to be the given one.
   void go_on(Page page);
 
@@ -73,7 +79,9 @@ class BatchRun {
   const BatchMachine& machine_;
   const BatchConsole& console_;
   int status_ = kExitRefused;
-  std::string told_;  // what the last fault meant for the book
+  std::string told_;       // what the last fault meant for the book
+  bool composed_ = false;  // the final list shows the whole source
+  ReportFile report_;
 
   ProgressLine progress_;
   ConsoleDialogs dialogs_;
@@ -94,6 +102,7 @@ BatchRun::BatchRun(const BatchOptions& options, const BatchMachine& machine,
     : options_(options),
       machine_(machine),
       console_(console),
+      report_(options.report.value_or("")),
       progress_(console.errors),
       dialogs_(console.errors, progress_),
       events_(machine.clock),
@@ -123,11 +132,14 @@ BatchRun::BatchRun(const BatchOptions& options, const BatchMachine& machine,
 
 void BatchRun::run() {
   try {
+    check_report("");
+    main_.wizard.account_wanted = report_.wanted() || options_.strict;
     check_suite();
     main_.Form_Load();
     if (const std::string& file = app_.ini.unreadable(); !file.empty()) {
       refuse(concat("Ohne die Einstellungen in \"", file, "\" wird nichts eingelesen."));
     }
+    check_report(app_.paths.book_file());
     if (options_.existing) main_.optAsk(*options_.existing).choose();
     if (options_.min_name) main_.chkNameLen.set_ticked(*options_.min_name);
     if (options_.country) main_.txtStateCode.set_text(*options_.country);
@@ -143,6 +155,7 @@ void BatchRun::run() {
       choose_addresses();
     }
     go_on(Page::kEntries);
+    composed_ = !main_.composition_failed();
     write_or_show();
   } catch (const EndProgram&) {
     // The forms end the program in the end, and whenever they have to.
@@ -151,16 +164,61 @@ void BatchRun::run() {
   if (main_.book_line_end == LineEnd::kLf) {
     say(u8"Warnung: Das Telefonbuch hat LF statt CR LF am Ende seiner Zeilen."_de);
   }
-  if (!link_.result().empty()) {
-    console_.out << link_.result() << '\n';
-    status_ = kExitDone;
-  }
+  if (!link_.result().empty()) status_ = kExitDone;
+  give_account();
+  if (!link_.result().empty()) console_.out << link_.result() << '\n';
   check_output();
+}
+
+void BatchRun::check_report(std::string_view book) {
+  const std::string trouble = report_.trouble(machine_.files, options_.file, book);
+  if (trouble.empty()) return;
+  report_ = ReportFile("");
+  main_.wizard.account_wanted = false;
+  refuse(trouble);
+}
+
+std::string BatchRun::account_result() const {
+  if (!options_.dry_run) return link_.result().empty() ? "refused" : std::string(link_.result());
+  const MergeRun* const run = main_.last_merge();
+  if (status_ != kExitDone || run == nullptr || run->end == MergeRun::End::kFailed)
+    return "refused";
+  // What a question would be answered is not known, and without a terminal nobody would answer.
+  const bool asked = report_.head.fates[static_cast<std::size_t>(Fate::kAsked)] > 0;
+  if (asked && console_.answers == nullptr) return "refused";
+  return run->end == MergeRun::End::kToBeWritten ? "data" : "nodata";
+}
+
+void BatchRun::give_account() {
+  if (!main_.wizard.account_wanted) return;
+  ReportHead& head = report_.head;
+  head.version = app_.version();
+  head.file = options_.file;
+  head.source = options_.outlook ? "outlook" : main_.source.IsISpyFile ? "ispy" : "file";
+  head.dry_run = options_.dry_run;
+  if (composed_) {
+    // A run that was refused half way is told as what it would have done.
+    if (link_.result().empty()) main_.look_ahead();
+    head.records = main_.account([this](const ReportRow& row) { report_.add(row); });
+  }
+  head.result = account_result();
+  progress_.clear();
+  if (composed_) say(fate_summary(report_.fates()));
+  if (status_ == kExitDone && options_.strict && count_lost(report_.fates()) > 0) {
+    status_ = kExitNumbersLost;
+  }
+  if (report_.on_terminal()) {
+    console_.out << report_.text();
+  } else if (report_.wanted()) {
+    const bool written = procedure(app_.errors, "quenda-import.give_account", {},
+                                   [&] { report_.write(machine_.files); });
+    if (!written) status_ = kExitRefused;
+  }
 }
 
 void BatchRun::check_output() {
   console_.out.flush();
-  if (status_ != kExitDone || console_.out) return;
+  if ((status_ != kExitDone && status_ != kExitNumbersLost) || console_.out) return;
   status_ = kExitRefused;
   say(concat(u8"Das Ergebnis lässt sich nicht ausgeben. "_de,
              link_.result() == "data" ? "Das Telefonbuch ist geschrieben."
@@ -312,6 +370,8 @@ void BatchRun::write_or_show() {
     return;
   }
   progress_.clear();
+  status_ = kExitDone;
+  if (report_.on_terminal()) return;
   const FlatTable& rows = main_.lstImpFinal.table();
   const auto shown = [&](std::string_view cell) {
     const std::string line = on_one_line(cell);
@@ -322,7 +382,6 @@ void BatchRun::write_or_show() {
                                    shown(rows.cell(row, kEntryNumber)), "\t",
                                    shown(rows.cell(row, kEntryAddress)), "\n"));
   }
-  status_ = kExitDone;
 }
 
 void BatchRun::warn_about_cards() {

@@ -185,6 +185,33 @@ std::unique_ptr<FileLock> PosixFiles::lock(std::string_view path, std::uint32_t 
   return held;
 }
 
+bool PosixFiles::same_file(std::string_view a, std::string_view b) const {
+  const auto first = status_of(posix_path(a));
+  const auto second = status_of(posix_path(b));
+  return first && second && first->st_dev == second->st_dev && first->st_ino == second->st_ino;
+}
+
+bool PosixFiles::can_write(std::string_view path) const {
+  const std::string native = posix_path(path);
+  if (native.empty() || native.find('\0') != native.npos) return false;
+  if (const auto status = status_of(native)) {
+    if (S_ISDIR(status->st_mode) || is_protected(*status)) return false;
+    return ::access(native.c_str(), W_OK) == 0;
+  }
+  const auto slash = native.rfind('/');
+  const std::string folder = slash == native.npos ? "." : native.substr(0, slash + 1);
+  return slash + 1 != native.size() && ::access(folder.c_str(), W_OK | X_OK) == 0;
+}
+
+void PosixFiles::make_folder(std::string_view path) {
+  constexpr mode_t kUsual = 0777;
+  const std::string native = posix_path(path);
+  if (::mkdir(native.c_str(), kUsual) == 0) return;
+  const int error = errno;
+  const auto status = status_of(native);
+  if (!status || !S_ISDIR(status->st_mode)) raise_errno(error, native);
+}
+
 void PosixFiles::remove(std::string_view path) noexcept {
   const std::string native = posix_path(path);
   const auto status = status_of(native);

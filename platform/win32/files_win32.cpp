@@ -1,6 +1,7 @@
 #include "platform/win32/files_win32.h"
 
 #include <algorithm>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -262,6 +263,47 @@ std::unique_ptr<FileLock> Win32Files::lock(std::string_view path, std::uint32_t 
   if (!mutex) mutex.reset(OpenMutexW(SYNCHRONIZE, FALSE, name.c_str()));
   if (WaitForSingleObject(mutex.get(), milliseconds) == WAIT_TIMEOUT) return nullptr;
   return std::make_unique<MutexLock>(std::move(mutex));
+}
+
+bool Win32Files::same_file(std::string_view a, std::string_view b) const {
+  const auto identity = [](std::string_view path) -> std::optional<BY_HANDLE_FILE_INFORMATION> {
+    const FileHandle file(CreateFileW(wide(path).c_str(), 0,
+                                      FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                                      nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+    BY_HANDLE_FILE_INFORMATION data{};
+    if (!file || GetFileInformationByHandle(file.get(), &data) == 0) return std::nullopt;
+    return data;
+  };
+  const auto first = identity(a);
+  const auto second = identity(b);
+  return first && second && first->dwVolumeSerialNumber == second->dwVolumeSerialNumber &&
+         first->nFileIndexHigh == second->nFileIndexHigh &&
+         first->nFileIndexLow == second->nFileIndexLow;
+}
+
+bool Win32Files::can_write(std::string_view path) const {
+  const std::wstring native = wide(path);
+  const DWORD attributes = GetFileAttributesW(native.c_str());
+  const bool there = attributes != INVALID_FILE_ATTRIBUTES;
+  if (there && (attributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_READONLY)) != 0) {
+    return false;
+  }
+  // A file that is only made to find out goes with its handle.
+  const DWORD flags = there ? FILE_ATTRIBUTE_NORMAL : FILE_FLAG_DELETE_ON_CLOSE;
+  const DWORD access = there ? GENERIC_WRITE : GENERIC_WRITE | DELETE;
+  return static_cast<bool>(
+      FileHandle(CreateFileW(native.c_str(), access, FILE_SHARE_READ, nullptr,
+                             there ? OPEN_EXISTING : CREATE_NEW, flags, nullptr)));
+}
+
+void Win32Files::make_folder(std::string_view path) {
+  const std::wstring native = wide(path);
+  if (CreateDirectoryW(native.c_str(), nullptr) != 0) return;
+  const DWORD error = GetLastError();
+  const DWORD attributes = GetFileAttributesW(native.c_str());
+  if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0) {
+    raise_fault(fault_of_error(error, native.c_str()));
+  }
 }
 
 void Win32Files::remove(std::string_view path) noexcept { DeleteFileW(wide(path).c_str()); }

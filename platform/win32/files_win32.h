@@ -18,6 +18,9 @@ class Win32Files : public Files {
                                            const TailChange& change) override;
   [[nodiscard]] std::unique_ptr<FileLock> lock(std::string_view path,
                                                std::uint32_t milliseconds) override;
+  [[nodiscard]] bool same_file(std::string_view a, std::string_view b) const override;
+  [[nodiscard]] bool can_write(std::string_view path) const override;
+  void make_folder(std::string_view path) override;
   void remove(std::string_view path) noexcept override;
 };
 

@@ -37,6 +37,9 @@ class OutlookPage : public WizardPage {
   void LockElements(bool lock);
   /// Whether the contacts could be read the last time.
   [[nodiscard]] bool contacts_read() const { return contacts_read_; }
+  [[nodiscard]] const ContactTable& contacts() const { return contacts_; }
+  /// What the user has ticked and typed for each kind of number.
+  [[nodiscard]] OutlookChoice choice() const;
 
   ControlArray<Label> labImport{shell_, "labImport", {0, 1, 2}};
   ControlArray<CheckBox> chkImport{shell_, "chkImport", {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11}};
@@ -53,7 +56,6 @@ class OutlookPage : public WizardPage {
   void name_number_kinds();
   void flip_Click(std::string_view name);
   bool read_contacts();
-  [[nodiscard]] OutlookChoice choice() const;
 
   SourcePage& source_page_;
   ContactTable contacts_;

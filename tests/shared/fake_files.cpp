@@ -125,6 +125,21 @@ std::unique_ptr<FileLock> FakeFiles::lock(std::string_view path, std::uint32_t /
   return std::make_unique<FileLock>();
 }
 
+bool FakeFiles::same_file(std::string_view a, std::string_view b) const {
+  return find(a) != nullptr && find(a) == find(b);
+}
+
+bool FakeFiles::can_write(std::string_view path) const {
+  const std::string key = key_of(path);
+  return !refused_writing_.contains(key) && !folders_.contains(key) &&
+         folders_.contains(folder_of(key));
+}
+
+void FakeFiles::make_folder(std::string_view path) {
+  if (refused_writing_.contains(key_of(path))) raise_fault(kFaultPathAccess);
+  add_folder(path);
+}
+
 void FakeFiles::remove(std::string_view path) noexcept {
   const std::string key = key_of(path);
   if (!refused_writing_.contains(key)) entries_.erase(key);

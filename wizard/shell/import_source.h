@@ -29,6 +29,7 @@ struct WizardState {
   bool abort = false;      // the user wants the program to end; loops end it at their next record
   bool loading = false;    // controls are being filled, their handlers keep quiet
   bool link_open = false;  // the phone book listens
+  bool account_wanted = false;  // merges note what becomes of each entry
 };
 
 }  // namespace quenda

@@ -1,0 +1,57 @@
+#include <string_view>
+
+#include "app/account/import_account.h"
+#include "app/fMain.h"
+#include "settings/app.h"
+#include "support/procedure.h"
+#include "text/entry_origin.h"
+
+namespace quenda {
+
+bool fMain::look_ahead() {
+  last_merge_ = std::make_unique<MergeRun>();
+  MergeRun& run = *last_merge_;
+  run.questions = MergeAccount::Questions::kOnlyFound;
+  const bool done = procedure(app_.errors, "fMain.look_ahead", {}, [&] {
+    // Nobody is asked; it goes on as if the book's entry stayed.
+    run.end = merge_into_book(run, [](auto, const auto&, const auto&) { return DoubleAnswer{}; });
+  });
+  if (!done) run.end = MergeRun::End::kFailed;
+  return run.end != MergeRun::End::kFailed;
+}
+
+std::size_t fMain::walk_source(const OnSourceNumber& on_number) {
+  const CleanNumber clean = number_cleaner();
+  switch (source.kind()) {
+    case Source::kIspy:
+      return walk_call_log(source.ImportRows, source.Delimiter, on_number);
+    case Source::kOutlook:
+      return walk_contacts(contacts(), OutlookPage::choice(), clean, chkNameLen.ticked(),
+                           on_number);
+    case Source::kFile:
+      break;
+  }
+  return walk_file(source.ImportRows, source.Delimiter.front(), composition(), clean,
+                   chkNameLen.ticked(), source.ImportRows.size(), on_number);
+}
+
+std::size_t fMain::account(const std::function<void(const ReportRow&)>& on_row) {
+  const MergeRun* const run = last_merge_.get();
+  const bool merged = run != nullptr && run->account && run->end != MergeRun::End::kFailed;
+  const FlatTable& list = lstImpFinal.table();
+  const auto verdict = [&](std::size_t row) {
+    return merged ? run->account->of(row) : MergeAccount::Verdict{Fate::kUnread, {}, {}};
+  };
+  const auto line_of_row = [&](std::size_t row) {
+    const bool has_lines = source.kind() != Source::kOutlook;
+    return has_lines ? source.ImportRows.line_of(list.origin(row) >> kOriginRowBits) : 0;
+  };
+  return account_for({.walk = [this](const OnSourceNumber& tell) { return walk_source(tell); },
+                      .list = list,
+                      .verdict = verdict,
+                      .line_of_row = line_of_row,
+                      .name_in_book = [&](std::size_t e) { return run->list->contact(e).name; }},
+                     on_row);
+}
+
+}  // namespace quenda
