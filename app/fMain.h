@@ -101,7 +101,8 @@ class fMain : public WizardShell,
   DoubleAnswer ask_about_double(std::string_view number, const std::string& existing,
                                 const std::string& fresh);
 
-  std::size_t walk_source(const OnSourceNumber& on_number);
+  SourceLines source_lines();
+  std::size_t walk_source(const SourceLines& lines, const OnSourceNumber& on_number);
 
   App& app_;
   bool book_written_ = false;

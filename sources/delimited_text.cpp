@@ -21,8 +21,14 @@ constexpr std::size_t kPauseBytes = 1024UL * 1024;
 /// is read. Only quotes and line feeds need a look; what lies between them is moved as a whole.
 class RecordBuilder {
  public:
-  RecordBuilder(std::string& text, char delimiter)
-      : text_(text), delimiter_(delimiter), marks_(text, kQuote, '\n'), inside_quotes_(delimiter) {}
+  /// `begins`, where one is given, gets the places in the text as it was where the records after
+  /// the first begin.
+  RecordBuilder(std::string& text, char delimiter, std::vector<std::size_t>* begins = nullptr)
+      : text_(text),
+        delimiter_(delimiter),
+        marks_(text, kQuote, '\n'),
+        inside_quotes_(delimiter),
+        begins_(begins) {}
 
   std::vector<std::size_t> build(const OnStep& on_step) {
     const std::size_t size = text_.size();
@@ -172,6 +178,7 @@ class RecordBuilder {
     if (written_ == starts_.back() || text_[written_ - 1] != '\r') return;
     --written_;
     starts_.push_back(written_);
+    if (begins_ != nullptr) begins_->push_back(read_);
     quoted_field_ = false;
   }
 
@@ -196,7 +203,37 @@ class RecordBuilder {
   std::size_t field_ = 0;      // behind the field that was finished last
   bool quoted_field_ = false;  // the field being written begins with a quote
   std::vector<std::size_t> starts_ = {0};
+  std::vector<std::size_t>* begins_;
 };
+
+/// Counts the lines of a text up to places in it, which come in rising order.
+class LineCounter {
+ public:
+  explicit LineCounter(std::string_view text) : text_(text) {}
+
+  std::size_t line_at(std::size_t place) {
+    for (; at_ < place; ++at_) {
+      const char c = text_[at_];
+      const bool before_lf = at_ + 1 < text_.size() && text_[at_ + 1] == '\n';
+      if (c == '\n' || (c == '\r' && !before_lf)) ++line_;
+    }
+    return line_;
+  }
+
+ private:
+  std::string_view text_;
+  std::size_t at_ = 0;
+  std::size_t line_ = 1;
+};
+
+SourceLines lines_at(std::string_view text, const std::vector<std::size_t>& begins) {
+  SourceLines lines;
+  LineCounter counter(text);
+  for (std::size_t i = 0; i < begins.size(); ++i) {
+    lines.begin_record(i + 1, counter.line_at(begins[i]));
+  }
+  return lines;
+}
 
 /// The record check works with 16-bit numbers.
 constexpr std::size_t kMostDelimiters = std::numeric_limits<std::int16_t>::max();
@@ -268,6 +305,26 @@ RecordTable build_records(std::string text, char delimiter, const OnStep& on_ste
   auto records = std::make_shared<std::string>(std::move(text));
   std::vector<std::size_t> starts = RecordBuilder(*records, delimiter).build(on_step);
   return {std::move(records), std::move(starts), 0};
+}
+
+SourceLines lines_of_records(std::string text, char delimiter, std::size_t records) {
+  const std::size_t ends = count_line_ends(text);
+  const bool regular =
+      ends + 1 == records && count_of(text, '\n') == ends && count_of(text, '\r') == ends;
+  if (regular) return {};
+  remove_doubled_quotes(text);
+  std::string built = text;
+  std::vector<std::size_t> begins;
+  RecordBuilder(built, delimiter, &begins).build([](auto, auto) {});
+  return lines_at(text, begins);
+}
+
+SourceLines lines_of_log(std::string_view text) {
+  std::vector<std::size_t> begins;
+  for (auto at = text.find(kCrLf); at != text.npos; at = text.find(kCrLf, at + kCrLf.size())) {
+    begins.push_back(at + kCrLf.size());
+  }
+  return lines_at(text, begins);
 }
 
 void pad_records(RecordTable& records, char delimiter, const OnStep& on_step) {

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "sources/record_table.h"
+#include "sources/source_lines.h"
 
 // The rules of delimited contact files: which delimiter a file uses, how quotes are taken out, and
 // how its text becomes records.
@@ -50,6 +51,13 @@ void remove_doubled_quotes(
 /// A lone LF is dropped, so that a file with LF line ends becomes one record; a record cut off by
 /// the end of the file gets a surplus delimiter at its end.
 RecordTable build_records(std::string text, char delimiter, const OnStep& on_step);
+
+/// In which line of its file each record begins, for a text as it was read. CR LF, a lone LF and a
+/// lone CR each end a line, also inside quotes; a record begins behind the break that ended the one
+/// before it. `records` is how many the text has given.
+SourceLines lines_of_records(std::string text, char delimiter, std::size_t records);
+/// The same for the lines of a call log, which end at CR LF.
+SourceLines lines_of_log(std::string_view text);
 
 /// Gives every record at least as many delimiters as the header has. Fault 6 when a record, or the
 /// header, has more than 32767; the records before it are padded then.

@@ -21,19 +21,6 @@ std::string_view RecordTable::operator[](std::size_t record) const {
   return std::string_view(*text_).substr(start, starts_[record + 1] - gap_ - start);
 }
 
-std::uint64_t RecordTable::line_of(std::size_t record) const {
-  const auto behind =
-      std::upper_bound(line_gaps_.begin(), line_gaps_.end(), record,
-                       [](std::size_t wanted, const LineGap& gap) { return wanted < gap.record; });
-  return 1 + record + (behind == line_gaps_.begin() ? 0 : std::prev(behind)->more);
-}
-
-void RecordTable::set_line_gaps(const std::vector<LineGap>& gaps) {
-  line_gaps_ = gaps;
-  std::uint32_t sum = 0;
-  for (LineGap& gap : line_gaps_) gap.more = sum += gap.more;
-}
-
 void RecordTable::pad(std::size_t delimiters, std::size_t until) {
   padding_ = delimiters;
   padded_until_ = until;

@@ -26,16 +26,6 @@ class RecordTable {
   /// The record as it stands in the text, without what padding added. Fault 9 beyond the end.
   [[nodiscard]] std::string_view operator[](std::size_t record) const;
 
-  /// Line of the source file, from 1, in which the record begins.
-  [[nodiscard]] std::uint64_t line_of(std::size_t record) const;
-  /// Records that begin more lines behind the one before them than one: by how many more, from the
-  /// first record to the last.
-  struct LineGap {
-    std::uint32_t record;
-    std::uint32_t more;
-  };
-  void set_line_gaps(const std::vector<LineGap>& gaps);
-
   /// Gives the records before `until` at least `delimiters` delimiters. Nothing is copied: fields
   /// beyond a record's own text are then empty instead of missing.
   void pad(std::size_t delimiters, std::size_t until);
@@ -49,7 +39,6 @@ class RecordTable {
  private:
   std::shared_ptr<const std::string> text_;
   std::vector<std::size_t> starts_;
-  std::vector<LineGap> line_gaps_;  // summed up: lines more than records up to this one
   std::size_t gap_ = 0;
   std::size_t padding_ = 0;
   std::size_t padded_until_ = 0;

@@ -65,8 +65,9 @@ bool only_delimiters(std::string_view record, char delimiter) {
 
 }  // namespace
 
-std::size_t walk_file(const RecordTable& records, char delimiter, const Composition& composition,
-                      const CleanNumber& clean, bool suppress_short_names, std::size_t until,
+std::size_t walk_file(const RecordTable& records, const SourceLines& source_lines, char delimiter,
+                      const Composition& composition, const CleanNumber& clean,
+                      bool suppress_short_names, std::size_t until,
                       const OnSourceNumber& on_number) {
   EntryComposer composer(composition, delimiter, clean);
   FlatTable unused(kEntryColumns);
@@ -83,7 +84,7 @@ std::size_t walk_file(const RecordTable& records, char delimiter, const Composit
     number.fate = fate_before_merge(seen.number, seen.numeric, seen.name, suppress_short_names);
     if (at == 0 && !header_counts(number.fate)) return;
     any = true;
-    number.line = records.line_of(at);
+    number.line = source_lines.line_of(at);
     number.record = at == 0 ? 0 : count;
     number.row = static_cast<int>(seen.row) + 1;
     number.origin = entry_origin(at, seen.row + 1);
@@ -98,7 +99,7 @@ std::size_t walk_file(const RecordTable& records, char delimiter, const Composit
     composer.compose(records, at, unused);
     if (any || at == 0) continue;
     SourceNumber number = shown.make("", "", composer.name(), "");
-    number.line = records.line_of(at);
+    number.line = source_lines.line_of(at);
     number.record = count;
     number.origin = entry_origin(at, 0);
     number.fate = Fate::kNoNumber;
@@ -107,8 +108,8 @@ std::size_t walk_file(const RecordTable& records, char delimiter, const Composit
   return count;
 }
 
-std::size_t walk_call_log(const RecordTable& lines, std::string_view delimiter,
-                          const OnSourceNumber& on_number) {
+std::size_t walk_call_log(const RecordTable& lines, const SourceLines& source_lines,
+                          std::string_view delimiter, const OnSourceNumber& on_number) {
   ShownNumber shown;
   std::size_t count = 0;
   for (std::size_t at = 0; at < lines.size(); ++at) {
@@ -118,7 +119,7 @@ std::size_t walk_call_log(const RecordTable& lines, std::string_view delimiter,
     const IspyLine caller = read_ispy_line(line);
     const std::string name = without_line_breaks(caller.name);
     SourceNumber number = shown.make(caller.number, caller.number, name, "");
-    number.line = lines.line_of(at);
+    number.line = source_lines.line_of(at);
     number.record = count;
     number.row = caller.number.empty() ? 0 : 1;
     number.origin = entry_origin(at, static_cast<std::size_t>(number.row));

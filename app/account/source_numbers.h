@@ -9,6 +9,7 @@
 #include "book/fate.h"
 #include "sources/outlook_contacts.h"
 #include "sources/record_table.h"
+#include "sources/source_lines.h"
 #include "wizard/composition.h"
 
 // Walks over every number of a source in its order, those that give no entry included, and tells
@@ -36,13 +37,14 @@ using OnSourceNumber = std::function<void(const SourceNumber&)>;
 
 /// A delimited file after its cleaning. Returns the count of records behind the header; records of
 /// nothing but delimiters do not count. `until` ends the walk before that record.
-std::size_t walk_file(const RecordTable& records, char delimiter, const Composition& composition,
-                      const CleanNumber& clean, bool suppress_short_names, std::size_t until,
+std::size_t walk_file(const RecordTable& records, const SourceLines& source_lines, char delimiter,
+                      const Composition& composition, const CleanNumber& clean,
+                      bool suppress_short_names, std::size_t until,
                       const OnSourceNumber& on_number);
 
 /// The lines of a call log.
-std::size_t walk_call_log(const RecordTable& lines, std::string_view delimiter,
-                          const OnSourceNumber& on_number);
+std::size_t walk_call_log(const RecordTable& lines, const SourceLines& source_lines,
+                          std::string_view delimiter, const OnSourceNumber& on_number);
 
 /// Contacts of Outlook, with the ticked kinds of numbers.
 std::size_t walk_contacts(const ContactTable& contacts, const OutlookChoice& choice,
