@@ -84,6 +84,16 @@ class FaultyFiles final : public Files {
   std::unique_ptr<FileLock> lock(std::string_view path, std::uint32_t milliseconds) override {
     return files_.lock(path, milliseconds);
   }
+  bool same_file(std::string_view a, std::string_view b) const override {
+    return !fails(FileCall::kAsk) && files_.same_file(a, b);
+  }
+  bool can_write(std::string_view path) const override {
+    return !fails(FileCall::kAsk) && files_.can_write(path);
+  }
+  void make_folder(std::string_view path) override {
+    raise_if(FileCall::kWritePart);
+    files_.make_folder(path);
+  }
   void remove(std::string_view path) noexcept override { files_.remove(path); }
 
  private:
