@@ -17,8 +17,8 @@ int main(int count, char** words) {
   // What comes up takes no press for the double-click time, so the user here has to wait for it
   // before each of them. The setting is not stored.
   const UINT before = GetDoubleClickTime();
-  set_double_click_time(120);
+  quenda::set_double_click_time(120);
   const int result = RUN_ALL_TESTS();
-  set_double_click_time(before);
+  quenda::set_double_click_time(before);
   return result;
 }
