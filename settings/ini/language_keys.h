@@ -209,13 +209,15 @@ inline constexpr std::array<std::span<const LanguageKey>, 2> kLanguageTables = {
                                                                                 kFileReportKeys};
 
 namespace language_detail {
-constexpr const LanguageKey* find(std::string_view key) {
+/// The entry of a key; without key where there is none. A value, no pointer: g++ 12 takes the
+/// comparison of such a pointer for no constant expression under its sanitizer.
+constexpr LanguageKey find(std::string_view key) {
   for (const auto table : kLanguageTables) {
     for (const LanguageKey& entry : table) {
-      if (entry.key == key) return &entry;
+      if (entry.key == key) return entry;
     }
   }
-  return nullptr;
+  return {};
 }
 /// Not a constant expression: what the compiler names when a key is mistyped.
 void no_such_text_key();
@@ -223,8 +225,7 @@ void no_such_text_key();
 
 /// The German text of a key that is known only at run time; empty for one that is not in the table.
 constexpr std::string_view german_text(std::string_view key) {
-  const LanguageKey* const entry = language_detail::find(key);
-  return entry == nullptr ? std::string_view() : entry->german;
+  return language_detail::find(key).german;
 }
 
 /// A key that is in the table: a mistyped one does not compile.
@@ -233,18 +234,14 @@ class TextKey {
   /// No text.
   constexpr TextKey() = default;
   consteval TextKey(const char* key) : entry_(language_detail::find(key)) {
-    if (entry_ == nullptr) language_detail::no_such_text_key();
+    if (empty()) language_detail::no_such_text_key();
   }
-  [[nodiscard]] constexpr bool empty() const { return entry_ == nullptr; }
-  [[nodiscard]] constexpr std::string_view key() const {
-    return empty() ? std::string_view() : entry_->key;
-  }
-  [[nodiscard]] constexpr std::string_view german() const {
-    return empty() ? std::string_view() : entry_->german;
-  }
+  [[nodiscard]] constexpr bool empty() const { return entry_.key.empty(); }
+  [[nodiscard]] constexpr std::string_view key() const { return entry_.key; }
+  [[nodiscard]] constexpr std::string_view german() const { return entry_.german; }
 
  private:
-  const LanguageKey* entry_ = nullptr;
+  LanguageKey entry_;
 };
 
 }  // namespace quenda
