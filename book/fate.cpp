@@ -1,5 +1,7 @@
 #include "book/fate.h"
 
+#include <algorithm>
+
 #include "text/literal_1252.h"
 #include "text/text.h"
 
@@ -41,10 +43,7 @@ std::string grouped(std::size_t number) {
 const FateWords& words_of(Fate fate) { return kWords.at(static_cast<std::size_t>(fate)); }
 
 bool is_lost(Fate fate) {
-  for (const Fate lost : kLost) {
-    if (lost == fate) return true;
-  }
-  return false;
+  return std::find(kLost.begin(), kLost.end(), fate) != kLost.end();
 }
 
 std::size_t count_lost(const FateCounts& counts) {

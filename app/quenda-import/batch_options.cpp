@@ -97,8 +97,6 @@ void declare(CLI::App& cli, Typed& typed, BatchOptions& options) {
       ->option_text("DATEI|-");
   cli.add_flag("--strict", options.strict,
                "Ende-Status 3, wenn eine Rufnummer nicht übernommen wurde");
-  cli.add_flag("--backup", options.backup, "Telefonbuch vorher sichern");
-  cli.add_flag("--undo", options.undo, "Letzten Import zurücknehmen (nur mit --suite)");
   cli.add_flag("--quiet", options.quiet, "Keine Fortschrittsanzeige");
 }
 
@@ -150,16 +148,6 @@ void take_names(const Typed& typed, BatchOptions& options) {
 
 void take(const CLI::App& cli, const Typed& typed, BatchOptions& options) {
   const auto given = [&](const char* name) { return cli.count(name) > 0; };
-  if (options.undo) {
-    for (const CLI::Option* option : cli.get_options()) {
-      const std::string name = option->get_name();
-      if (option->count() > 0 && name != "--undo" && name != "--suite" && name != "--quiet") {
-        throw Stop{kExitWrongUsage, concat("--undo steht nicht mit ", name, ".")};
-      }
-    }
-    options.suite = converted(typed.suite, kExitRefused);
-    return;
-  }
   if (!given("--file") && !options.outlook) {
     throw Stop{kExitWrongUsage, "Es fehlt --file oder --outlook."};
   }

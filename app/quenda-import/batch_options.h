@@ -28,8 +28,6 @@ struct BatchOptions {
   bool dry_run = false;
   std::optional<std::string> report;  // path of the report, "-" for stdout
   bool strict = false;                // a lost number makes the run end with a status of its own
-  bool backup = false;                // the book is copied before it is written
-  bool undo = false;                  // takes the last import back instead of importing
   bool quiet = false;
 
   [[nodiscard]] bool columns_given() const;
