@@ -27,8 +27,8 @@ class OutlookReading : public testing::Test {
     contacts_.clear();
     outlook.isOutlookInstalled(true);
     name_ = outlook.version_name();
-    came_through_ =
-        outlook.getContactsAll(contacts_, [](std::size_t, std::size_t) { return true; });
+    came_through_ = outlook.getContactsAll(
+        contacts_, [](std::size_t, std::size_t) {}, [] { return true; });
     skipped_ = outlook.skipped_count();
   }
 
