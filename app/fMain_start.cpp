@@ -38,6 +38,7 @@ void fMain::connect() {
   cmdFor.on_click = [this] { cmdFor_Click(); };
   on_compose = [this] { compose_again(); };
   cmdCancel.on_click = [this] { cmdCancel_Click(); };
+  on_suggestion = [this](const ColumnSuggestion& suggestion) { adopt(suggestion); };
   on_unload = [this] { Form_Unload(); };
   on_got_focus = [this] { Form_GotFocus(); };
   txtDDE.on_change = [this] { app_.machine.host_link.set_text(txtDDE.text()); };

@@ -61,9 +61,16 @@ constexpr DesignRow<ColumnPage> kDesign[] = {
 /// Below the page, shared with the next one.
 constexpr DesignRow<ColumnPage> kPreviewDesign[] = {
     {.control = control_at<&ColumnPage::labShow>,
-     .place = {0, 2460, kPageWidth, 255},
+     .place = {0, 2460, 2490, 255},
      .tab = 100,
      .caption = "Import_Label_PreviewData"},
+    {.control = control_at<&ColumnPage::labTable>,
+     .place = {2650, 2460, 5140, 255},
+     .across = Anchor::kBoth},
+    {.control = control_at<&ColumnPage::cmdSuggest>,
+     .place = {7950, 2385, 2490, 330},
+     .tab = 28,
+     .across = Anchor::kEnd},
     {.control = control_at<&ColumnPage::lstShow>,
      .place = {0, 2745, kPageWidth, 2655},
      .tab = 101,
@@ -82,9 +89,12 @@ ColumnPage::ColumnPage(WizardShell& shell) : WizardPage(shell) {
 void ColumnPage::design() {
   apply_design(*this, kDesign, &shell_.frmImp(1));
   apply_design(*this, kPreviewDesign, &shell_.frmPages);
+  labTable.set_visible(false);
+  cmdSuggest.set_visible(false);
 }
 
 void ColumnPage::connect() {
+  cmdSuggest.on_click = [this] { take_suggestion(); };
   for (const auto& list : lstHeader) {
     list->on_click = [this, index = list->index()] { lstHeader_Click(index); };
   }
@@ -108,6 +118,13 @@ void ColumnPage::page_shown(Page now) {
   const bool shared = now == Page::kColumns;
   labShow.set_anchors(Anchor::kStart, shared ? Anchor::kShareStart : Anchor::kStart);
   lstShow.set_anchors(Anchor::kBoth, shared ? Anchor::kShare : Anchor::kBoth);
+  show_below_lists();
+}
+
+void ColumnPage::show_below_lists() {
+  const bool shown = shell_.wizard.CurrentPage == Page::kColumns;
+  labTable.set_visible(shown && !labTable.caption().empty());
+  cmdSuggest.set_visible(shown && suggestion_offered_);
 }
 
 bool ColumnPage::can_go_on() const {
