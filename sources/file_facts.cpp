@@ -142,7 +142,7 @@ LineEnds line_ends_of(const ByteFlags& flags) {
   const int kinds = flags.pair + flags.lone_lf + flags.lone_cr;
   if (kinds == 0) return LineEnds::kNone;
   if (kinds > 1) return LineEnds::kMixed;
-  if (flags.pair != 0) return LineEnds::kCrLf;
+  if (flags.pair != 0) return LineEnds::kCrAndLf;
   return flags.lone_lf != 0 ? LineEnds::kLf : LineEnds::kCr;
 }
 

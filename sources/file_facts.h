@@ -24,7 +24,7 @@ enum class FileKind {
 
 enum class FileEncoding { kAscii, kWindows1252, kUtf8, kUtf16Little, kUtf16Big, kMixed };
 
-enum class LineEnds { kNone, kCrLf, kLf, kCr, kMixed };
+enum class LineEnds { kNone, kCrAndLf, kLf, kCr, kMixed };
 
 struct FileFacts {
   FileKind kind = FileKind::kTable;

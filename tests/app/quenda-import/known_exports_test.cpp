@@ -36,9 +36,9 @@ class KnownExportsTest : public testing::Test {
     machine_.files.put(kFile, content);
     std::ostringstream out;
     errors_.str("");
-    status_ = run_batch(options_,
-                        {machine_.files, machine_.clock, machine_.system, machine_.automation},
-                        {out, errors_, nullptr});
+    status_ =
+        run_batch(options_, {machine_.files, machine_.clock, machine_.system, machine_.automation},
+                  {out, errors_, nullptr});
     return out.str();
   }
 
