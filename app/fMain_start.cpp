@@ -29,6 +29,10 @@ fMain::fMain(App& services)
       OutlookPage(static_cast<WizardShell&>(*this), static_cast<SourcePage&>(*this)),
       EntryHints(static_cast<WizardShell&>(*this), static_cast<EntryPage&>(*this)),
       app_(services) {
+  for (Control* control : {static_cast<Control*>(&labFacts), static_cast<Control*>(&chkConvert),
+                           static_cast<Control*>(&labTable), static_cast<Control*>(&cmdSuggest)}) {
+    move_to_end(*control);
+  }
   connect();
 }
 

@@ -6,9 +6,11 @@
 
 #include "settings/app.h"
 #include "sources/delimited_text.h"
+#include "sources/file_findings.h"
 #include "support/procedure.h"
 #include "text/text.h"
 #include "wizard/shell/design.h"
+#include "wizard/shell/finding_text.h"
 
 namespace quenda {
 namespace {
@@ -66,11 +68,13 @@ constexpr DesignRow<ColumnPage> kPreviewDesign[] = {
      .caption = "Import_Label_PreviewData"},
     {.control = control_at<&ColumnPage::labTable>,
      .place = {2650, 2460, 5140, 255},
-     .across = Anchor::kBoth},
+     .across = Anchor::kBoth,
+     .down = Anchor::kShareStart},
     {.control = control_at<&ColumnPage::cmdSuggest>,
      .place = {7950, 2385, 2490, 330},
      .tab = 28,
-     .across = Anchor::kEnd},
+     .across = Anchor::kEnd,
+     .down = Anchor::kShareStart},
     {.control = control_at<&ColumnPage::lstShow>,
      .place = {0, 2745, kPageWidth, 2655},
      .tab = 101,
@@ -103,6 +107,7 @@ void ColumnPage::connect() {
 void ColumnPage::load_captions() {
   quenda::load_captions(*this, kDesign, app_);
   quenda::load_captions(*this, kPreviewDesign, app_);
+  cmdSuggest.set_caption(text_of(app_, Finding{"Import_Button_Suggestion", {""}}));
   for (const int address : {1, 2}) {
     Label& label = labHeader(address + 1);
     label.set_caption(concat(label.caption(), " ", std::to_string(address)));

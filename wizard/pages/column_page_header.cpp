@@ -128,7 +128,8 @@ void ColumnPage::show_table_facts() {
       text += text_of(app_, finding);
     }
   };
-  add(table_findings(look_at_table(source.ImportRows, source.Delimiter.front(), source.made_table), source.lines));
+  add(table_findings(look_at_table(source.ImportRows, source.Delimiter.front(), source.made_table),
+                     source.lines));
   add(loss_findings(source.losses, source.lines));
   labTable.set_caption(text);
 }
