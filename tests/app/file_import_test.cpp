@@ -84,6 +84,7 @@ TEST_F(FileImport, RunsFromTheFileToTheBook) {
 TEST_F(FileImport, ChoicesOfOneRunAreThereInTheNext) {
   go_to(Page::kNames);
   form->chkFlip.take_user_click();
+  EXPECT_EQ(form->txtHeadName.text(), "Vorname Nachname");
   form->txtIndex(0).set_text("Festnetz");
   forward();
   form->cmbFlipAdress.take_user_index(4);
@@ -218,6 +219,8 @@ TEST_F(FileImport, ColumnsWhoseHeaderHasBlanksOrQuotesAroundItAreFoundAgain) {
 TEST_F(FileImport, AnUnnamedColumnCountsAsAPartOfTheAddress) {
   go_to(Page::kAddresses, "Name;Tel;;PLZ;Ort\r\nMeier;0301234567;Weg 1;12345;Berlin\r\n",
         {{"Name"}, {"Tel"}, {"", "PLZ", "Ort"}});
+  EXPECT_FALSE(form->chkFlip.enabled()) << "there is but one name to turn round";
+  EXPECT_FALSE(form->txtIndex(1).enabled());
   EXPECT_EQ(form->cmbFlipAdress.items()[0], "/PLZ/Ort");
   form->cmbFlipAdress.take_user_index(2);
   form->chk1(0).take_user_click();

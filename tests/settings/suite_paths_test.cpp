@@ -111,6 +111,9 @@ TEST(LoadSpecs, MissingLogModesReadAsFalseAndExportFollowsItsLog) {
   EXPECT_TRUE(environment.trace_mode);
   EXPECT_TRUE(environment.LogExport);
   EXPECT_FALSE(environment.LogTiming);
+  f.specs.LogOther = f.specs.LogTiming = true;
+  apply_switches(f.specs, environment);
+  EXPECT_TRUE(environment.LogOther && environment.LogTiming);
 }
 
 TEST(LoadSpecs, ReadsMasksOnlyWhenTold) {

@@ -81,6 +81,8 @@ TEST(Collection, RemovesAndRenamesAndClonesValuesWithoutKeys) {
   for (const auto* key : {"a", "b", "c", "d"}) items.AddByKeyValue(key, std::string(key));
   for (const auto* none : {"x", "", "0", "1E400"}) EXPECT_FALSE(items.RemoveByIndex(none)) << none;
   EXPECT_FALSE(items.RemoveByIndex("5"));
+  EXPECT_TRUE(items.RemoveByIndex("4"));
+  items.AddByKeyValue("d", std::string("d"));
   EXPECT_TRUE(items.RemoveByIndex("2"));
   EXPECT_TRUE(items.RemoveByKeyName("c"));
   EXPECT_FALSE(items.RemoveByKeyName("c"));
