@@ -42,9 +42,7 @@ std::string grouped(std::size_t number) {
 
 const FateWords& words_of(Fate fate) { return kWords.at(static_cast<std::size_t>(fate)); }
 
-bool is_lost(Fate fate) {
-  return std::find(kLost.begin(), kLost.end(), fate) != kLost.end();
-}
+bool is_lost(Fate fate) { return std::find(kLost.begin(), kLost.end(), fate) != kLost.end(); }
 
 std::size_t count_lost(const FateCounts& counts) {
   std::size_t lost = 0;
