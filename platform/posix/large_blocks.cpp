@@ -22,6 +22,7 @@ void* block_of(std::size_t size) noexcept {
     return block;
   }
 #endif
+  // NOLINTNEXTLINE(cppcoreguidelines-no-malloc): this is what the operators below are made of
   return std::malloc(size == 0 ? 1 : size);
 }
 
@@ -36,5 +37,7 @@ void* operator new(std::size_t size) {
   }
 }
 
+// NOLINTBEGIN(cppcoreguidelines-no-malloc): blocks of the operator above come from there
 void operator delete(void* block) noexcept { std::free(block); }
 void operator delete(void* block, std::size_t /*size*/) noexcept { std::free(block); }
+// NOLINTEND(cppcoreguidelines-no-malloc)
