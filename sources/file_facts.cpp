@@ -76,9 +76,9 @@ void look_at_characters(const unsigned char* bytes, std::size_t count, ByteFlags
       const unsigned char second = (bytes - 2)[at + lane];
       const unsigned char third = (bytes - 3)[at + lane];
       const unsigned char follows = flag((byte & 0xC0U) == 0x80U);
-      const unsigned char wanted = static_cast<unsigned char>(
-          flag(first >= 0xC2) | flag(second >= 0xE0) | flag(third >= 0xF0));
-      const unsigned char never =
+      const auto wanted = static_cast<unsigned char>(flag(first >= 0xC2) | flag(second >= 0xE0) |
+                                                     flag(third >= 0xF0));
+      const auto never =
           static_cast<unsigned char>(flag((byte & 0xFEU) == 0xC0U) | flag(byte >= 0xF5));
       sequence[lane] = static_cast<unsigned char>(sequence[lane] | (follows & wanted));
       broken[lane] = static_cast<unsigned char>(broken[lane] | (follows ^ wanted) | never);

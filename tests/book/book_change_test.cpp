@@ -79,8 +79,8 @@ TEST_F(ComposeBook, EveryLineThatIsNotPlainIsWrittenAnew) {
       {"A;1;0;0;-32768;0;;;[vcd()vcd]", "A;1;0;0;-32768;0;;;[vcd()vcd]"},
   };
   for (const auto& [line, rewritten] : cases) {
-    EXPECT_EQ(change(kFirst + std::string(line) + "\r\n" + kSecond),
-              kFirst + std::string(rewritten) + "\r\n" + kSecond);
+    EXPECT_EQ(change(concat(kFirst, line, "\r\n", kSecond)),
+              concat(kFirst, rewritten, "\r\n", kSecond));
   }
 }
 

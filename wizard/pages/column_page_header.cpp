@@ -95,6 +95,7 @@ void ColumnPage::fill_header_lists(const std::vector<std::string>& header) {
 void ColumnPage::select_saved_columns(const std::vector<std::string>& header) {
   const MainTexts& texts = shell_.texts;
   std::vector<std::string> stored;
+  stored.reserve(header.size());
   for (const std::string& text : header) stored.push_back(as_ini_gives_back(text));
   const SelectionMatch match = match_selection(header, stored, app_.settings.selections);
   for (std::size_t kind = 0; kind < kHeaderKinds; ++kind) {

@@ -77,12 +77,11 @@ class Letters {
   }
 
   bool take_free(int caption) {
-    for (const std::size_t place : candidates(caption)) {
-      if (holders_[letter_at(caption, place)] != kFree) continue;
-      take(caption, place);
-      return true;
-    }
-    return false;
+    return std::ranges::any_of(candidates(caption), [&](std::size_t place) {
+      const bool free = holders_[letter_at(caption, place)] == kFree;
+      if (free) take(caption, place);
+      return free;
+    });
   }
 
   bool take_from_another(int caption, std::array<bool, 256>& asked) {

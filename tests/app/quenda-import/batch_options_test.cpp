@@ -57,7 +57,7 @@ TEST(BatchOptions, EverythingGiven) {
 TEST(BatchOptions, TheVersionNeedsNothingElse) {
   const BatchCommand command = read_batch_command({"--version"});
   EXPECT_EQ(command.status, kExitDone);
-  EXPECT_THAT(command.text, testing::MatchesRegex("quenda-import [0-9]+\\.[0-9]+ \\(.+\\)\n"));
+  EXPECT_THAT(command.text, testing::MatchesRegex("quenda-import \\d+\\.\\d+ \\(.+\\)\n"));
 }
 
 TEST(BatchOptions, WrongUsageIsToldApartFromTextsThatNoFileCanHave) {

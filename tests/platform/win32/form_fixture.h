@@ -44,6 +44,9 @@ class TestForm : public Form {
   Button go{*this, "cmdGo"};
   Button stop{*this, "cmdStop"};
   Timer timer{*this, "tmTimer"};
+  Label label{*this, "labView"};
+  PictureBox progress{*this, "PicProgress"};
+  StatusBar status{*this, "StatusBar"};
 };
 
 /// The system's double-click time in the tests, in milliseconds: none has to wait for long.

@@ -199,9 +199,8 @@ std::string read_aloud(HWND window) {
 }
 
 TEST_F(FormWindowTest, BoxesAndListsTellAScreenReaderWhatTheyAre) {
-  Label label(form_, "labView");
-  label.set_caption("Vorschau");
-  label.set_tab_index(100);
+  form_.label.set_caption("Vorschau");
+  form_.label.set_tab_index(100);
   form_.view.set_tab_index(101);
   form_.box.set_caption("1");
   form_.box.set_spoken_name("Adresse 1");
@@ -212,17 +211,16 @@ TEST_F(FormWindowTest, BoxesAndListsTellAScreenReaderWhatTheyAre) {
 }
 
 TEST_F(FormWindowTest, TheTitleTellsTheProgressWhileTheWindowIsMinimised) {
-  PictureBox progress(form_, "PicProgress");
   form_.set_caption("Quenda - Import");
   form_.set_resizable(true);
   show();
   const HWND main = window_of(form_);
-  progress.set_percent(37);
+  form_.progress.set_percent(37);
   loop_.pump();
   EXPECT_EQ(window_text(main), L"Quenda - Import");
   ShowWindow(main, SW_MINIMIZE);
   EXPECT_EQ(window_text(main), L"37 % - Quenda - Import");
-  progress.set_percent(38);
+  form_.progress.set_percent(38);
   loop_.pump();
   EXPECT_EQ(window_text(main), L"38 % - Quenda - Import");
   ShowWindow(main, SW_RESTORE);
@@ -236,12 +234,11 @@ void CALLBACK hear(HWINEVENTHOOK, DWORD, HWND, LONG, LONG child, DWORD, DWORD) n
 }
 
 TEST_F(FormWindowTest, WhatHappensIsAnnouncedToAScreenReader) {
-  StatusBar status(form_, "StatusBar");
   show();
   constexpr DWORD kLiveRegionChanged = 0x8019;
   const HWINEVENTHOOK hook = SetWinEventHook(kLiveRegionChanged, kLiveRegionChanged, nullptr, &hear,
                                              GetCurrentProcessId(), 0, WINEVENT_OUTOFCONTEXT);
-  status.set_panel(2, "7 Eintr\xE4ge gelesen");
+  form_.status.set_panel(2, "7 Eintr\xE4ge gelesen");
   for (int i = 0; i < 20 && announced_panel == 0; ++i) {
     loop_.pump();
     Sleep(10);
