@@ -10,8 +10,8 @@
 #include "platform/win32/com/automation_com.h"
 #include "platform/win32/com/com_values.h"
 #include "sources/pages/modOutlook.h"
-#include "tests/outlook/outlook_standin.h"
 #include "tests/shared/error_service.h"
+#include "tools/outlook/outlook_standin.h"
 
 namespace quenda {
 namespace {

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "bench/contact_data.h"
-#include "tests/e2e/wizard_test.h"
+#include "tools/driver/wizard_test.h"
 // windows.h has to come first.
 #include <psapi.h>
 

@@ -2,7 +2,7 @@
 #include <gmock/gmock.h>
 
 #include "platform/win32/text_win32.h"
-#include "tests/e2e/wizard_test.h"
+#include "tools/driver/wizard_test.h"
 
 namespace quenda {
 namespace {

@@ -1,8 +1,8 @@
 // Numbers that are in the book already, under another name.
 #include <gmock/gmock.h>
 
-#include "tests/e2e/wizard_test.h"
 #include "text/text.h"
+#include "tools/driver/wizard_test.h"
 
 namespace quenda {
 namespace {

@@ -1,7 +1,7 @@
 // A file of contacts, from the file dialog to the phone book.
 #include <gmock/gmock.h>
 
-#include "tests/e2e/wizard_test.h"
+#include "tools/driver/wizard_test.h"
 
 namespace quenda {
 namespace {

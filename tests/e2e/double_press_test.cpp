@@ -1,7 +1,7 @@
 // A hand that presses twice: nothing is answered, deleted or written that was not seen.
 #include <gmock/gmock.h>
 
-#include "tests/e2e/wizard_test.h"
+#include "tools/driver/wizard_test.h"
 
 namespace quenda {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <cstdio>
 
-#include "tests/e2e/driver_input.h"
+#include "tools/driver/driver_input.h"
 
 // Without a display no window of any program could be seen: that is no reason to skip, but to fail.
 int main(int count, char** words) {

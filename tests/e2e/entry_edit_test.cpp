@@ -1,7 +1,7 @@
 // The list of entries before it goes into the book.
 #include <gmock/gmock.h>
 
-#include "tests/e2e/wizard_test.h"
+#include "tools/driver/wizard_test.h"
 
 namespace quenda {
 namespace {

@@ -1,7 +1,7 @@
 // What the phone book hears, and what becomes of the import when the phone book goes or hangs.
 #include <gmock/gmock.h>
 
-#include "tests/e2e/wizard_test.h"
+#include "tools/driver/wizard_test.h"
 
 namespace quenda {
 namespace {

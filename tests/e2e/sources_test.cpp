@@ -1,7 +1,7 @@
 // Files that are no source.
 #include <gmock/gmock.h>
 
-#include "tests/e2e/wizard_test.h"
+#include "tools/driver/wizard_test.h"
 
 namespace quenda {
 namespace {

@@ -1,8 +1,8 @@
 // The ways in which the tool does not start.
 #include <gmock/gmock.h>
 
-#include "tests/e2e/wizard_test.h"
 #include "text/text.h"
+#include "tools/driver/wizard_test.h"
 
 namespace quenda {
 namespace {

@@ -4,9 +4,9 @@
 
 #include <string>
 
-#include "tests/e2e/suite_folder.h"
-#include "tests/outlook/outlook_standin.h"
 #include "text/text.h"
+#include "tools/driver/suite_folder.h"
+#include "tools/outlook/outlook_standin.h"
 
 namespace quenda {
 namespace {

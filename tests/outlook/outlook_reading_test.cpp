@@ -7,9 +7,9 @@
 
 #include "platform/win32/com/automation_com.h"
 #include "sources/pages/modOutlook.h"
-#include "tests/outlook/outlook_standin.h"
 #include "tests/shared/error_service.h"
 #include "text/literal_1252.h"
+#include "tools/outlook/outlook_standin.h"
 
 namespace quenda {
 namespace {

@@ -5,8 +5,8 @@
 #include <string>
 #include <string_view>
 
-#include "tests/e2e/wizard_test.h"
-#include "tests/outlook/outlook_standin.h"
+#include "tools/driver/wizard_test.h"
+#include "tools/outlook/outlook_standin.h"
 
 namespace quenda {
 namespace {

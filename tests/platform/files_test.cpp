@@ -12,8 +12,8 @@
 #include "platform/native_services.h"
 #include "tests/shared/fake_files.h"
 #include "tests/shared/fault_of.h"
-#include "tests/shared/temp_folder.h"
 #include "text/literal_1252.h"
+#include "tools/driver/temp_folder.h"
 
 namespace quenda {
 namespace {

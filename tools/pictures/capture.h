@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "tests/e2e/driver_window.h"
+#include "tools/driver/driver_window.h"
 
 namespace quenda {
 

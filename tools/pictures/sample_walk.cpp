@@ -6,8 +6,8 @@
 #include <cstdio>
 
 #include "platform/win32/text_win32.h"
-#include "tests/e2e/wizard_test.h"
 #include "text/text.h"
+#include "tools/driver/wizard_test.h"
 #include "tools/pictures/capture.h"
 
 namespace quenda {

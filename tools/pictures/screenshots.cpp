@@ -5,9 +5,9 @@
 #include <filesystem>
 
 #include "platform/win32/text_win32.h"
-#include "tests/e2e/wizard_test.h"
-#include "tests/outlook/outlook_standin.h"
 #include "text/text.h"
+#include "tools/driver/wizard_test.h"
+#include "tools/outlook/outlook_standin.h"
 #include "tools/pictures/capture.h"
 
 namespace quenda {

@@ -10,7 +10,7 @@
 #include <csignal>
 
 #include "tests/shared/fault_of.h"
-#include "tests/shared/temp_folder.h"
+#include "tools/driver/temp_folder.h"
 
 namespace quenda {
 namespace {

@@ -3,7 +3,7 @@
 
 #include "platform/win32/windows_headers.h"
 #include "tests/settings/ini/ini_profile.h"
-#include "tests/shared/temp_folder.h"
+#include "tools/driver/temp_folder.h"
 
 namespace quenda::ini_profile {
 namespace {

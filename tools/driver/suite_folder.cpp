@@ -1,11 +1,11 @@
-#include "tests/e2e/suite_folder.h"
+#include "tools/driver/suite_folder.h"
 
 #include <filesystem>
 #include <fstream>
 
-#include "tests/e2e/processes.h"
 #include "text/literal_1252.h"
 #include "text/text.h"
+#include "tools/driver/processes.h"
 
 namespace quenda {
 namespace {

@@ -8,8 +8,8 @@
 #include <string>
 
 #include "sources/outlook_contacts.h"
-#include "tests/outlook/outlook_object.h"
-#include "tests/outlook/outlook_script.h"
+#include "tools/outlook/outlook_object.h"
+#include "tools/outlook/outlook_script.h"
 
 #include <shellapi.h>
 

@@ -7,13 +7,13 @@
 #include <string>
 #include <string_view>
 
-#include "tests/e2e/driver_dialogs.h"
-#include "tests/e2e/driver_input.h"
-#include "tests/e2e/driver_lists.h"
-#include "tests/e2e/driver_window.h"
-#include "tests/e2e/processes.h"
-#include "tests/e2e/suite_folder.h"
 #include "text/literal_1252.h"
+#include "tools/driver/driver_dialogs.h"
+#include "tools/driver/driver_input.h"
+#include "tools/driver/driver_lists.h"
+#include "tools/driver/driver_window.h"
+#include "tools/driver/processes.h"
+#include "tools/driver/suite_folder.h"
 
 namespace quenda {
 

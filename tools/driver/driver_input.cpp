@@ -1,4 +1,4 @@
-#include "tests/e2e/driver_input.h"
+#include "tools/driver/driver_input.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "tests/outlook/outlook_script.h"
+#include "tools/outlook/outlook_script.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,4 +1,4 @@
-#include "tests/e2e/driver_window.h"
+#include "tools/driver/driver_window.h"
 
 #include <algorithm>
 #include <array>

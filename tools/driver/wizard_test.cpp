@@ -1,4 +1,4 @@
-#include "tests/e2e/wizard_test.h"
+#include "tools/driver/wizard_test.h"
 
 #include "text/text.h"
 

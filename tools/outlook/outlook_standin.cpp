@@ -1,4 +1,4 @@
-#include "tests/outlook/outlook_standin.h"
+#include "tools/outlook/outlook_standin.h"
 
 #include <array>
 #include <filesystem>
@@ -7,9 +7,9 @@
 
 #include "platform/win32/handles.h"
 #include "platform/win32/text_win32.h"
-#include "tests/e2e/driver_window.h"
-#include "tests/e2e/processes.h"
 #include "text/text.h"
+#include "tools/driver/driver_window.h"
+#include "tools/driver/processes.h"
 // windows.h has to come first.
 #include <objbase.h>
 

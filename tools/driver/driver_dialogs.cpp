@@ -1,8 +1,8 @@
-#include "tests/e2e/driver_dialogs.h"
+#include "tools/driver/driver_dialogs.h"
 
 #include <gtest/gtest.h>
 
-#include "tests/e2e/driver_input.h"
+#include "tools/driver/driver_input.h"
 
 namespace quenda {
 

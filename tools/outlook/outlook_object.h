@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "platform/win32/com/com_support.h"
-#include "tests/outlook/outlook_script.h"
+#include "tools/outlook/outlook_script.h"
 // objbase.h has to come first.
 #include <ocidl.h>
 

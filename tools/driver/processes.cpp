@@ -1,12 +1,12 @@
-#include "tests/e2e/processes.h"
+#include "tools/driver/processes.h"
 
 #include <algorithm>
 #include <fstream>
 #include <iterator>
 
 #include "platform/win32/text_win32.h"
-#include "tests/e2e/driver_window.h"
 #include "text/text.h"
+#include "tools/driver/driver_window.h"
 
 namespace quenda {
 namespace {

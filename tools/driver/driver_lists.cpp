@@ -1,4 +1,4 @@
-#include "tests/e2e/driver_lists.h"
+#include "tools/driver/driver_lists.h"
 
 #include <gtest/gtest.h>
 
@@ -8,7 +8,7 @@
 
 #include "platform/win32/handles.h"
 #include "platform/win32/text_win32.h"
-#include "tests/e2e/driver_input.h"
+#include "tools/driver/driver_input.h"
 
 namespace quenda {
 namespace {

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "platform/win32/handles.h"
-#include "tests/shared/temp_folder.h"
+#include "tools/driver/temp_folder.h"
 
 namespace quenda {
 

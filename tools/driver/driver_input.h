@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "tests/e2e/driver_window.h"
+#include "tools/driver/driver_window.h"
 
 // Keys and mouse as the system gets them from the devices. Each function ends when the tool has
 // been seen to take the input, and fails the test when it does not.

@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "tests/shared/temp_folder.h"
+#include "tools/driver/temp_folder.h"
 
 namespace quenda {
 

@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "tests/e2e/driver_window.h"
+#include "tools/driver/driver_window.h"
 
 // What lists, tables and the status bar show, and choosing in them. Positions count from 0.
 namespace quenda {

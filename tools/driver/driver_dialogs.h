@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "tests/e2e/driver_window.h"
+#include "tools/driver/driver_window.h"
 
 namespace quenda {
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "tests/shared/temp_folder.h"
+#include "tools/driver/temp_folder.h"
 
 namespace quenda {
 
