@@ -57,7 +57,8 @@ TEST(BatchOptions, EverythingGiven) {
 TEST(BatchOptions, TheVersionNeedsNothingElse) {
   const BatchCommand command = read_batch_command({"--version"});
   EXPECT_EQ(command.status, kExitDone);
-  EXPECT_THAT(command.text, testing::MatchesRegex("quenda-import \\d+\\.\\d+ \\(.+\\)\n"));
+  EXPECT_THAT(command.text, testing::AllOf(testing::StartsWith("quenda-import "),
+                                           testing::HasSubstr(" ("), testing::EndsWith(")\n")));
 }
 
 TEST(BatchOptions, WrongUsageIsToldApartFromTextsThatNoFileCanHave) {
