@@ -16,6 +16,7 @@ constexpr std::string_view kLog =
     "2014-03-02 17:06:00 Erika Mustermann [#0301234567] ok\r\n"
     "2014-03-02 17:07:00 <unbekannt> [#0302222222]\r\n"
     "kaputt\r\n"
+    "2014-03-02 17:08:00 Al [#0303333333] ok\r\n"
     "2014-03-03 08:00:00 Hans Meier [#089765] ok\r\n";
 
 class IspyImport : public WizardTest {};
@@ -31,7 +32,9 @@ TEST_F(IspyImport, GoesStraightToTheEntries) {
   EXPECT_FALSE(form->cmbLimiter.enabled());
   forward();
   EXPECT_EQ(form->wizard.CurrentPage, Page::kEntries);
-  EXPECT_EQ(rows(), (Texts{"Erika Mustermann|0301234567|", "Hans Meier|089765|"}));
+  EXPECT_TRUE(form->chkNameLen.ticked());
+  EXPECT_EQ(rows(), (Texts{"Erika Mustermann|0301234567|", "Al|0303333333|", "Hans Meier|089765|"}))
+      << "a caller's short name stays";
   EXPECT_EQ(form->cmdFor.caption(), u8"Übernehmen"_de);
   back();
   EXPECT_EQ(form->wizard.CurrentPage, Page::kSource);
@@ -41,6 +44,7 @@ TEST_F(IspyImport, GoesStraightToTheEntries) {
   finish();
   EXPECT_EQ(book(),
             "Erika Mustermann;0301234567;0;0;0;0;;;[vcd()vcd]\r\n"
+            "Al;0303333333;0;0;0;0;;;[vcd()vcd]\r\n"
             "Hans Meier;089765;0;0;0;0;;;[vcd()vcd]\r\n");
 }
 
@@ -54,7 +58,7 @@ TEST_F(IspyImport, AfterAFailedWriteTheEntriesAreStillThere) {
   EXPECT_EQ(form->wizard.CurrentPage, Page::kEntries);
   EXPECT_EQ(form->cmdFor.caption(), u8"Übernehmen"_de);
   EXPECT_TRUE(form->cmdFor.enabled());
-  EXPECT_EQ(rows().size(), 2U);
+  EXPECT_EQ(rows().size(), 3U);
   back();
   EXPECT_EQ(form->wizard.CurrentPage, Page::kSource);
 }
@@ -68,7 +72,7 @@ TEST_F(IspyImport, NothingOfAnEarlierSourceIsShown) {
   back();
   take_file(kLog, kLogPath);
   forward();
-  EXPECT_EQ(rows().size(), 2U);
+  EXPECT_EQ(rows().size(), 3U);
   back();
   take_file("Name;Nummer\r\n");
   forward();

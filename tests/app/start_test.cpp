@@ -8,7 +8,9 @@
 #include <string>
 
 #include "app/program.h"
+#include "book/pages/fImportItemEdit.h"
 #include "book/pages/fImportMsg.h"
+#include "book/pages/fOVWInput.h"
 #include "settings/ini/ini_text.h"
 #include "settings/ini/language_keys.h"
 #include "tests/shared/wizard_fixture.h"
@@ -190,17 +192,33 @@ TEST_F(Start, HelpOpensThePageOfTheImportAndWaitsWhileWorkIsDone) {
   EXPECT_EQ(machine.system.opened.size(), 2U);
 }
 
+TEST_F(Start, EachDialogOpensTheSamePageByItsButtonAndByF1) {
+  start();
+  const auto press_help = [](auto&& dialog) {
+    dialog.cmdHelp.take_user_click();
+    dialog.on_help();
+  };
+  press_help(fOVWInput(*app));
+  press_help(fImportItemEdit(*app));
+  press_help(fImportMsg(*app));
+  EXPECT_THAT(machine.system.opened, testing::SizeIs(6));
+  EXPECT_THAT(machine.system.opened, testing::Each(testing::EndsWith("#imp")));
+}
+
 TEST_F(Start, TraceNamesEveryProcedure) {
   machine.files.put("C:\\Quenda\\Quendaspec.ini", "[Debug]\r\nTraceMode=1\r\n");
   machine.files.add_folder("C:\\Quenda\\log");
   start();
+  form->chkFlip_Click();
+  form->cmbFlipAdress_Click();
   form.reset();
   app.reset();
   const std::string trace = machine.files.content("C:\\Quenda\\log\\trace.log");
   EXPECT_NE(trace.find("2014/03/02  17:05:09  IMP v1.17  fMain.Form_Load 01\r\n"),
             std::string::npos);
   EXPECT_NE(trace.find("fMain.ShowSite 01(B:0)\r\n"), std::string::npos);
-  for (const auto* name : {"LoadWindowPosition", "LoadPageOptions", "LoadSelections"}) {
+  for (const auto* name : {"LoadWindowPosition", "LoadPageOptions", "LoadSelections",
+                           "chkFlip_Click", "cmbFlipAdress_Click"}) {
     EXPECT_NE(trace.find(concat("fMain.", name, " 01\r\n")), std::string::npos) << name;
   }
 }
