@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "tests/shared/fault_of.h"
+#include "tests/sources/slow_records.h"
 
 namespace quenda {
 namespace {
@@ -66,52 +67,6 @@ TEST(BuildRecords, TellsItsStepsUpToTheEnd) {
   EXPECT_GE(steps, 3U);
 }
 
-/// The cleaning rule told once more, character by character with a growing output text: what the
-/// quick builder has to agree with.
-std::vector<std::string> slow_records(const std::string& text, char delimiter) {
-  std::string out;
-  bool in_quotes = false;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    std::string taken(1, text[i]);
-    if (text[i] == delimiter && i + 1 < text.size() && text[i + 1] == '"') {
-      taken = {delimiter, '"'};
-      ++i;
-      in_quotes = true;
-    }
-    if (i + 1 < text.size() && text[i + 1] == '"') {
-      taken = std::string(1, text[i]);
-      in_quotes = false;
-    }
-    if (in_quotes) {
-      if (taken == "\r" || taken == "\n") taken = " ";
-      if (taken == std::string(1, delimiter)) taken = "|";
-      out += taken;
-      continue;
-    }
-    out += taken;
-    if (out.ends_with("\r\n")) {
-      out += delimiter;
-    } else if (out.ends_with('\n')) {
-      out.pop_back();
-    }
-  }
-  std::vector<std::string> records = {""};
-  if (out.empty()) return records;
-  for (std::size_t start = 0; start <= out.size();) {
-    const std::size_t end = std::min(out.find(delimiter, start), out.size());
-    std::string field = out.substr(start, end - start);
-    start = end + 1;
-    if (const auto at = field.find("\r\n"); at != std::string::npos) {
-      records.back() += field.erase(at, 2);
-      records.emplace_back();
-    } else {
-      const bool cut = field.starts_with('"') && !field.ends_with('"');
-      records.back() += field + (cut ? '|' : delimiter);
-    }
-  }
-  return records;
-}
-
 TEST(BuildRecords, AgreesWithTheSlowRuleOnRandomTexts) {
   constexpr std::string_view kLetters = "ab;;,\"\"\r\n\r\n|\n x";
   unsigned seed = 20140302;
@@ -122,7 +77,8 @@ TEST(BuildRecords, AgreesWithTheSlowRuleOnRandomTexts) {
       text += kLetters[(seed >> 16U) % kLetters.size()];
     }
     remove_doubled_quotes(text);
-    ASSERT_EQ(records_of(text), slow_records(text, ';')) << testing::PrintToString(text);
+    ASSERT_EQ(records_of(text), slow_records(slow_clean(text, ';'), ';'))
+        << testing::PrintToString(text);
   }
 }
 

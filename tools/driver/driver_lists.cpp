@@ -19,13 +19,10 @@ constexpr int kLongestCell = 512;
 /// not carry from one process to another.
 class RemoteMemory {
  public:
-  explicit RemoteMemory(const Window& window) {
-    DWORD id = 0;
-    GetWindowThreadProcessId(window.handle(), &id);
-    process_.reset(OpenProcess(PROCESS_VM_OPERATION | PROCESS_VM_READ | PROCESS_VM_WRITE, 0, id));
-    address_ = static_cast<std::byte*>(
-        VirtualAllocEx(process_.get(), nullptr, kSize, MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE));
-  }
+  explicit RemoteMemory(const Window& window)
+      : process_(open_process_of(window)),
+        address_(static_cast<std::byte*>(VirtualAllocEx(
+            process_.get(), nullptr, kSize, MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE))) {}
   RemoteMemory(const RemoteMemory&) = delete;
   RemoteMemory& operator=(const RemoteMemory&) = delete;
   ~RemoteMemory() { VirtualFreeEx(process_.get(), address_, 0, MEM_RELEASE); }
@@ -50,10 +47,16 @@ class RemoteMemory {
   }
 
  private:
+  static HANDLE open_process_of(const Window& window) {
+    DWORD id = 0;
+    GetWindowThreadProcessId(window.handle(), &id);
+    return OpenProcess(PROCESS_VM_OPERATION | PROCESS_VM_READ | PROCESS_VM_WRITE, 0, id);
+  }
+
   static constexpr std::size_t kHead = 256;  // for the structure in front of the text
   static constexpr std::size_t kSize = kHead + kLongestCell * sizeof(wchar_t);
   KernelHandle process_;
-  std::byte* address_ = nullptr;
+  std::byte* address_;
 };
 
 LRESULT send(const Window& window, UINT message, WPARAM wparam = 0, LPARAM lparam = 0) {

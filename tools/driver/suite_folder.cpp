@@ -29,8 +29,7 @@ constexpr std::string_view kRemembered =
 
 }  // namespace
 
-SuiteFolder::SuiteFolder() {
-  folder_ = own_.emplace().path();
+SuiteFolder::SuiteFolder() : own_(std::in_place), folder_(own_->path()) {
   for (const char* folder : {"data", "base", "log"}) {
     std::filesystem::create_directory(folder_ / folder);
   }
