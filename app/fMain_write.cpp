@@ -18,11 +18,10 @@
 #include "text/literal_1252.h"
 #include "text/text.h"
 #include "wizard/shell/busy.h"
+#include "wizard/shell/main_texts.h"
 
 namespace quenda {
 namespace {
-
-constexpr std::string_view kBookName = "Das Telefonbuch";
 
 /// A line of the book as reports show it: its number and its beginning.
 std::string line_for_report(std::string_view book, std::string_view line) {
@@ -30,6 +29,14 @@ std::string line_for_report(std::string_view book, std::string_view line) {
   const auto start = static_cast<std::size_t>(line.data() - book.data());
   return concat("Zeile ", std::to_string(count_of(book.substr(0, start), '\n') + 1), ": ",
                 line.substr(0, kMostCharacters), line.size() > kMostCharacters ? "..." : "");
+}
+
+/// What is said of the book when it could not be written.
+TailTexts book_texts(const MainTexts& texts) {
+  return {.unchanged = texts["Import_Msg_BookUnchanged"],
+          .longer = texts["Import_Msg_BookLonger"],
+          .damaged = texts["Import_Msg_BookDamaged"],
+          .rest = texts["Import_Msg_BookRestAtEnd"]};
 }
 
 }  // namespace
@@ -61,10 +68,7 @@ void fMain::Add() {
     wizard.CurrentPage = Page::kEntries;
     show_composed(Composed::kEntries);
     refresh_buttons();
-    app_.message_box(
-        u8"Das Telefonbuch ist inzwischen von einem anderen Programm geändert worden. "
-        u8"Es ist nichts geschrieben worden; \"Übernehmen\" liest es neu."_de,
-        MessageStyle::kExclamation);
+    app_.message_box(texts["Import_Msg_BookChanged"], MessageStyle::kExclamation);
     return;
   }
   if (!wizard.link_open) {
@@ -122,7 +126,7 @@ MergeRun::End fMain::write_book(MergeRun& run) {
       app_.machine.files.replace_tail(app_.paths.book_file(), {.old_text = run.book,
                                                                .keep = change.keep,
                                                                .pieces = change.pieces,
-                                                               .name = kBookName,
+                                                               .texts = book_texts(texts),
                                                                .spoil = &make_unreadable});
   if (result == ReplaceResult::kChangedMeanwhile) return MergeRun::End::kChangedMeanwhile;
   txtDDE.set_text("data");

@@ -8,12 +8,20 @@
 
 namespace quenda {
 
+/// What a message says of a file whose change has failed. "%1" and "%2" are filled in.
+struct TailTexts {
+  std::string_view unchanged;
+  std::string_view longer;   // the old lines stand, %1 of them, and new ones behind them
+  std::string_view damaged;  // from line %1 on, which begins with "%2"
+  std::string_view rest;     // follows `damaged` when the lines lost there stand at the end
+};
+
 /// What becomes of the end of a file of lines that was read before.
 struct TailChange {
   std::string_view old_text;  // the whole content as it was read; empty for a file to be created
   std::uint64_t keep = 0;     // bytes at the front that stay as they are
   std::span<const std::string_view> pieces;  // what follows them; may be views into `old_text`
-  std::string_view name = "Die Datei";       // what a message calls the file
+  TailTexts texts = {};                      // in the user's language
   /// Makes lines unreadable for those who know the format, without changing their lengths: in each
   /// line, the first byte that it changes has to do that alone. Null where it does not matter.
   void (*spoil)(std::string& lines) = nullptr;

@@ -150,7 +150,7 @@ class Replacement {
       overwriting_ = false;
       file_.cut(old_.size());
       file_.flush();
-      return concat(change_.name, u8" ist unverändert."_de);
+      return std::string(change_.texts.unchanged);
     } catch (const std::exception&) {
       return overwriting_ ? broken() : longer();
     }
@@ -216,24 +216,20 @@ class Replacement {
     return before == old_.npos ? 0 : before + 1;
   }
 
-  [[nodiscard]] std::string line_and_entry() const {
-    constexpr std::size_t kMostCharacters = 60;
-    const std::size_t start = first_line();
-    const std::string_view line =
-        old_.substr(start, std::min(old_.find(kCrLf, start) - start, kMostCharacters));
-    return concat(std::to_string(count_of(old_.substr(0, start), '\n') + 1), " (\"", line, "\")");
-  }
-
   [[nodiscard]] std::string longer() const {
-    return concat(change_.name, u8" enthält alle bisherigen Zeilen unverändert; hinter Zeile "_de,
-                  std::to_string(count_of(old_, '\n')),
-                  " stehen neue, die letzte kann unvollständig sein.");
+    return replace_all(change_.texts.longer, "%1", std::to_string(count_of(old_, '\n')));
   }
 
   [[nodiscard]] std::string broken() const {
-    return concat(change_.name, " ist ab Zeile ", line_and_entry(),
-                  u8" beschädigt und davor unverändert."_de,
-                  new_end_ == keep_ ? "" : " Was dort fehlt, steht an seinem Ende.");
+    constexpr std::size_t kMostCharacters = 60;
+    const std::size_t start = first_line();
+    const std::string number = std::to_string(count_of(old_.substr(0, start), '\n') + 1);
+    const std::string_view line =
+        old_.substr(start, std::min(old_.find(kCrLf, start) - start, kMostCharacters));
+    // The line last: it may hold "%1" itself.
+    const std::string numbered = replace_all(change_.texts.damaged, "%1", number);
+    const std::string text = replace_all(numbered, "%2", line);
+    return new_end_ == keep_ ? text : concat(text, " ", change_.texts.rest);
   }
 
   TailFile& file_;

@@ -72,6 +72,17 @@ inline constexpr std::array kLanguageKeys = {
     LanguageKey{"Import_Msg_BookLineEnds",
                 u8"Das Telefonbuch wurde nicht geändert, weil seine Zeilen verschieden enden!"_de},
     LanguageKey{"Import_Msg_BookLineWithoutEnd", "Zeile ohne CR LF am Ende:"},
+    LanguageKey{"Import_Msg_BookChanged",
+                u8"Das Telefonbuch ist inzwischen von einem anderen Programm geändert worden. "
+                u8"Es ist nichts geschrieben worden; \"Übernehmen\" liest es neu."_de},
+    LanguageKey{"Import_Msg_BookUnchanged", u8"Das Telefonbuch ist unverändert."_de},
+    LanguageKey{
+        "Import_Msg_BookLonger",
+        u8"Das Telefonbuch enthält alle bisherigen Zeilen unverändert; hinter Zeile %1 stehen "
+        u8"neue, die letzte kann unvollständig sein."_de},
+    LanguageKey{"Import_Msg_BookDamaged",
+                u8"Das Telefonbuch ist ab Zeile %1 (\"%2\") beschädigt und davor unverändert."_de},
+    LanguageKey{"Import_Msg_BookRestAtEnd", "Was dort fehlt, steht an seinem Ende."},
     LanguageKey{"Import_Msg_DDENotConnect", "Es besteht keine DDE-Verbindung zu Quenda!"},
     LanguageKey{"Import_Msg_RefreshInfo",
                 "Nach dem Import ist es erforderlich das Telefonbuch durch \"Aktualisieren\" (F5) "

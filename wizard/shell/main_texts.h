@@ -12,7 +12,7 @@ namespace quenda {
 class modLanguage;
 
 /// Messages and status texts of the wizard.
-inline constexpr std::array<TextKey, 39> kMainTexts = {
+inline constexpr std::array<TextKey, 44> kMainTexts = {
     "Import_Info_DDEexit",
     "Import_Info_DDEbreak",
     "Import_Info_DDEactive",
@@ -31,6 +31,11 @@ inline constexpr std::array<TextKey, 39> kMainTexts = {
     "Import_Info_BookHasLf",
     "Import_Msg_BookLineEnds",
     "Import_Msg_BookLineWithoutEnd",
+    "Import_Msg_BookChanged",
+    "Import_Msg_BookUnchanged",
+    "Import_Msg_BookLonger",
+    "Import_Msg_BookDamaged",
+    "Import_Msg_BookRestAtEnd",
     "Import_Msg_DDENotConnect",
     "Import_Msg_RefreshInfo",
     "Import_Info_ReadingFile",
