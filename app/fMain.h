@@ -90,6 +90,8 @@ class fMain : public WizardShell,
   void compose_again();
   void return_to_source();
   void show_page_state();
+  /// Suffixes, order and addresses of a suggestion whose columns have been chosen.
+  void adopt(const ColumnSuggestion& suggestion);
   [[nodiscard]] Composition composition() const;
   [[nodiscard]] CleanNumber number_cleaner();
   /// Reads the book and merges the entries into it, up to what is to be written.

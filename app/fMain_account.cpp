@@ -25,6 +25,7 @@ bool fMain::look_ahead() {
 SourceLines fMain::source_lines() {
   if (source.kind() == Source::kOutlook) return {};
   if (source.kind() == Source::kIspy) return lines_of_log(*source.ImportText);
+  if (source.converted) return source.lines;
   // The cleaning has changed the text, so the file is looked at once more. One that is gone by now
   // leaves the lines as they would be without breaks inside of records.
   SourceLines lines;

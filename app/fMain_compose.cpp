@@ -19,6 +19,8 @@ Composition fMain::composition() const {
   composition.address_order = order();
   composition.suffixes = suffixes();
   composition.bindings = bindings();
+  composition.adapt = source.converted;
+  if (source.converted) composition.stand_ins = name_stand_ins(header());
   return composition;
 }
 
@@ -31,6 +33,20 @@ CleanNumber fMain::number_cleaner() {
   return [code = txtStateCode.text()](std::string_view number, std::string& cleaned) {
     clean_number(number, code, cleaned);
   };
+}
+
+void fMain::adopt(const ColumnSuggestion& suggestion) {
+  chkFlip.set_ticked(suggestion.flip_name);
+  app_.settings.address_flip = suggestion.address_order;
+  const ControlArray<CheckBox>* const rows[] = {&chk1, &chk2, &chk3};
+  for (std::size_t row = 0; row < kNumberRows; ++row) {
+    TextBox& suffix = txtIndex(static_cast<int>(row));
+    if (suffix.text().empty()) suffix.set_text(suggestion.suffixes.at(row));
+    for (const auto& box : *rows[row]) box->set_ticked(false);
+    if (const int address = suggestion.bindings.at(row); address > 0) {
+      (*rows[row])(address - 1).set_ticked(true);
+    }
+  }
 }
 
 bool fMain::Scramble() {

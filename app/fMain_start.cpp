@@ -29,6 +29,10 @@ fMain::fMain(App& services)
       OutlookPage(static_cast<WizardShell&>(*this), static_cast<SourcePage&>(*this)),
       EntryHints(static_cast<WizardShell&>(*this), static_cast<EntryPage&>(*this)),
       app_(services) {
+  for (Control* control : {static_cast<Control*>(&labFacts), static_cast<Control*>(&chkConvert),
+                           static_cast<Control*>(&labTable), static_cast<Control*>(&cmdSuggest)}) {
+    move_to_end(*control);
+  }
   connect();
 }
 
@@ -38,6 +42,7 @@ void fMain::connect() {
   cmdFor.on_click = [this] { cmdFor_Click(); };
   on_compose = [this] { compose_again(); };
   cmdCancel.on_click = [this] { cmdCancel_Click(); };
+  on_suggestion = [this](const ColumnSuggestion& suggestion) { adopt(suggestion); };
   on_unload = [this] { Form_Unload(); };
   on_got_focus = [this] { Form_GotFocus(); };
   txtDDE.on_change = [this] { app_.machine.host_link.set_text(txtDDE.text()); };

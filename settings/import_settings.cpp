@@ -34,6 +34,7 @@ struct Setting {
   std::string_view text_standard = {};
   bool keeps_text = false;    // the default is the text that the field has
   bool only_written = false;  // never read back
+  bool optional = false;      // not written as long as it has its default and is not in the file
 };
 
 template <auto Member>
@@ -66,6 +67,9 @@ constexpr Setting text(Group group, std::string_view key, std::string_view stand
                        std::string& (*field)(ImportSettings&)) {
   return {.group = group, .key = key, .text = field, .text_standard = standard};
 }
+constexpr Setting option(std::string_view key, std::int32_t& (*field)(ImportSettings&)) {
+  return {.group = Group::kPage, .key = key, .number = field, .max = 1, .optional = true};
+}
 constexpr Setting suffix(std::string_view key, std::string& (*field)(ImportSettings&)) {
   return {.group = Group::kHeader, .key = key, .text = field, .keeps_text = true};
 }
@@ -88,6 +92,7 @@ constexpr std::array kSettings = {
     number(Group::kPage, "OlAdrFlip", 0, 0, 1, kField<&ImportSettings::ol_address_flip>),
     text(Group::kPage, "OlNumber", "10010010000", kField<&ImportSettings::ol_number>),
     text(Group::kPage, "OlAdress", "10010000000000", kField<&ImportSettings::ol_adress>),
+    option("Convert", kField<&ImportSettings::convert>),
     outlook_suffix("OLNameExt1", kOutlookSuffix<0>),
     outlook_suffix("OLNameExt2", kOutlookSuffix<1>),
     outlook_suffix("OLNameExt3", kOutlookSuffix<2>),
@@ -153,6 +158,10 @@ void save(modAPI_INI& ini, const ImportSettings& settings, Group group) {
     if (entry.group != group) continue;
     const std::string value =
         entry.number != nullptr ? std::to_string(entry.number(copy)) : entry.text(copy);
+    const bool standard = entry.optional && entry.number(copy) == entry.standard;
+    if (standard && ini.GetSettStr(home.section, entry.key, "", home.file, false, false).empty()) {
+      continue;
+    }
     ini.SetSettStr(home.section, entry.key, value, home.file);
   }
 }

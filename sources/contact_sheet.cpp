@@ -108,6 +108,7 @@ std::string ContactSheet::heading(std::size_t column) {
 ConvertedTable ContactSheet::write() const {
   ConvertedTable table;
   table.delimiter = kDelimiter;
+  table.made = true;
   std::array<std::size_t, kColumns> positions{};
   std::size_t columns = 0;
   for (std::size_t column = 0; column < kColumns; ++column) {

@@ -142,7 +142,7 @@ LineEnds line_ends_of(const ByteFlags& flags) {
   const int kinds = flags.pair + flags.lone_lf + flags.lone_cr;
   if (kinds == 0) return LineEnds::kNone;
   if (kinds > 1) return LineEnds::kMixed;
-  if (flags.pair != 0) return LineEnds::kCrLf;
+  if (flags.pair != 0) return LineEnds::kCrAndLf;
   return flags.lone_lf != 0 ? LineEnds::kLf : LineEnds::kCr;
 }
 
@@ -312,6 +312,8 @@ FileFacts look_at_file(std::string_view bytes) {
   facts.nul_bytes = flags.nul != 0;
   facts.encoding = facts.mark && flags.broken == 0 ? FileEncoding::kUtf8 : encoding_of(text, flags);
   look_at_sep_line(text, facts);
+  const std::string_view header = first_line(text.substr(0, kBeginning)).first;
+  facts.labelled = header.find("Phone 1 - Value") != header.npos;
   if (facts.encoding == FileEncoding::kUtf8 || facts.encoding == FileEncoding::kMixed) {
     facts.sample = word_around(text, first_likely_letter(text));
   }

@@ -24,7 +24,7 @@ enum class FileKind {
 
 enum class FileEncoding { kAscii, kWindows1252, kUtf8, kUtf16Little, kUtf16Big, kMixed };
 
-enum class LineEnds { kNone, kCrLf, kLf, kCr, kMixed };
+enum class LineEnds { kNone, kCrAndLf, kLf, kCr, kMixed };
 
 struct FileFacts {
   FileKind kind = FileKind::kTable;
@@ -33,6 +33,7 @@ struct FileFacts {
   bool mark = false;       // a byte order mark at the beginning
   bool sep_line = false;   // a first line "sep=" and a delimiter
   char sep_delimiter = 0;  // the one it names, 0 for none that the tool knows
+  bool labelled = false;   // the kind of each number stands in a column of its own
   bool nul_bytes = false;  // in a text that is not UTF-16
   std::string sample;      // a word with a letter beyond ASCII, as its bytes stand in the file
 

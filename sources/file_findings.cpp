@@ -64,6 +64,7 @@ std::string adaptations(const FileFacts& facts) {
   if (facts.line_ends == LineEnds::kCr) add("CR");
   if (facts.line_ends == LineEnds::kMixed) add("CR/LF");
   if (facts.sep_line) add("sep=");
+  if (facts.labelled) add("Label");
   if (facts.nul_bytes) add("NUL");
   return list;
 }

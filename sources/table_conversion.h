@@ -15,6 +15,7 @@ namespace quenda {
 struct ConvertedTable {
   std::string text;
   char delimiter = '\0';
+  bool made = false;  // a contact table, whose records leave out what is empty at their end
   SourceLines lines;
   LostCharacters losses;
 };

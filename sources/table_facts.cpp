@@ -36,7 +36,7 @@ void look_at_header(const std::vector<std::string>& header, TableFacts& facts) {
 
 }  // namespace
 
-TableFacts look_at_table(const RecordTable& records, char delimiter) {
+TableFacts look_at_table(const RecordTable& records, char delimiter, bool ends_early) {
   TableFacts facts;
   if (records.empty()) return facts;
   look_at_header(shown_fields(records[0], delimiter), facts);
@@ -44,7 +44,7 @@ TableFacts look_at_table(const RecordTable& records, char delimiter) {
   for (std::size_t i = 1; i < records.size(); ++i) {
     std::string_view record = records[i];
     std::size_t own = count_of(record, delimiter);
-    if (own == wanted) continue;
+    if (own == wanted || (ends_early && own < wanted)) continue;
     const bool last = i + 1 == records.size();
     if (last && own == wanted + 1 && record.ends_with(delimiter)) continue;
     if (is_blank(record, delimiter)) continue;

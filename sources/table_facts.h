@@ -19,6 +19,7 @@ struct TableFacts {
 
 /// Looks at records before they are padded. Records of nothing but delimiters, and the surplus
 /// delimiter of a last record without line end, do not count.
-TableFacts look_at_table(const RecordTable& records, char delimiter);
+/// `ends_early`: records may leave out what is empty at their end.
+TableFacts look_at_table(const RecordTable& records, char delimiter, bool ends_early = false);
 
 }  // namespace quenda

@@ -1,8 +1,10 @@
 #include "wizard/composition.h"
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
+#include "sources/cell_adaptation.h"
 #include "text/conversions.h"
 #include "text/entry_origin.h"
 #include "text/entry_text.h"
@@ -53,6 +55,10 @@ EntryComposer::EntryComposer(Composition composition, char delimiter, CleanNumbe
        {&columns.names, &columns.numbers, &columns.addresses[0], &columns.addresses[1]}) {
     for (const std::size_t position : *positions) last_column_ = std::max(last_column_, position);
   }
+  if (!composition_.adapt) return;
+  for (const auto& column : {composition_.stand_ins.display, composition_.stand_ins.company}) {
+    last_column_ = std::max(last_column_, column.value_or(0));
+  }
 }
 
 void EntryComposer::append_cell(std::string& out, std::string_view field) const {
@@ -76,6 +82,12 @@ void EntryComposer::compose(const RecordTable& records, std::size_t record, Flat
   const std::string_view text = records[record];
   has_quotes_ = text.find('"') != text.npos;
   has_breaks_ = text.find('\r') != text.npos || text.find('\n') != text.npos;
+  compose_name();
+  const std::size_t rows = std::min(composition_.columns.numbers.size(), kNumberRows);
+  for (std::size_t row = 0; row < rows; ++row) compose_numbers(record, row, entries);
+}
+
+void EntryComposer::compose_name() {
   const ColumnChoice& columns = composition_.columns;
   const auto name_part = [&](std::size_t part) {
     return part < columns.names.size() ? fields_[columns.names[part]] : std::string_view();
@@ -83,13 +95,31 @@ void EntryComposer::compose(const RecordTable& records, std::size_t record, Flat
   append_cell(name_, name_part(composition_.flip_name ? 1 : 0));
   name_ += ' ';
   append_cell(name_, name_part(composition_.flip_name ? 0 : 1));
+  if (!composition_.adapt) return;
+  const auto stand_in = [&](const std::optional<std::size_t>& column) {
+    std::string text;
+    if (column && fields_.has(*column)) append_cell(text, fields_[*column]);
+    return text;
+  };
+  if (trim(name_).empty()) {
+    const std::string display = stand_in(composition_.stand_ins.display);
+    const std::string company = stand_in(composition_.stand_ins.company);
+    name_ = name_or_stand_in({}, display, company);
+  }
+  if (needs_adapting(name_)) name_ = adapted_text(name_);
+  nameless_ = trim(name_).empty();
+}
 
-  const std::size_t rows = std::min(columns.numbers.size(), kNumberRows);
-  for (std::size_t row = 0; row < rows; ++row) {
-    number_.clear();
-    append_cell(number_, fields_[columns.numbers[row]]);
-    if (number_.empty()) continue;
+void EntryComposer::compose_numbers(std::size_t record, std::size_t row, FlatTable& entries) {
+  number_.clear();
+  append_cell(number_, fields_[composition_.columns.numbers[row]]);
+  if (number_.empty()) return;
+  if (!composition_.adapt) {
     clean_(number_, cleaned_);
+    return add_entry(record, row, cleaned_, entries);
+  }
+  for (const std::string& number : numbers_in_cell(number_, delimiter_)) {
+    clean_(number, cleaned_);
     add_entry(record, row, cleaned_, entries);
   }
 }
@@ -102,7 +132,8 @@ void EntryComposer::add_entry(std::size_t record, std::size_t row, std::string_v
   const bool numeric = is_numeric(number);
   if (!numeric && !on_number) return;
   const std::size_t name_size = name_.size();
-  name_.append(" ").append(composition_.suffixes[row]);
+  // A suffix alone is no name.
+  if (!nameless_) name_.append(" ").append(composition_.suffixes[row]);
   const std::string_view name = trim(name_);
   if (on_number) {
     const std::string_view raw = fields_[composition_.columns.numbers[row]];
@@ -126,6 +157,7 @@ std::string_view EntryComposer::address_of(std::size_t row) {
     if (i > 0) address_ += ' ';
     append_cell(address_, parts[order.size() == 1 ? 0 : order[i]]);
   }
+  if (composition_.adapt && needs_adapting(address_)) address_ = adapted_text(address_);
   return trim(address_);
 }
 

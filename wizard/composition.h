@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "sources/column_suggestion.h"
 #include "sources/record_table.h"
 #include "text/flat_table.h"
 
@@ -38,6 +39,8 @@ struct Composition {
   AddressOrder address_order;
   std::array<std::string, kNumberRows> suffixes;
   std::array<Binding, kNumberRows> bindings{};
+  bool adapt = false;      // the cells are those of an adapted file
+  NameStandIns stand_ins;  // for records without a name, where they are adapted
 };
 
 /// Two name parts as a name shows them: without quotes, with a blank between; flipped, the second
@@ -86,6 +89,8 @@ class EntryComposer {
   [[nodiscard]] std::string_view name() const;
 
  private:
+  void compose_name();
+  void compose_numbers(std::size_t record, std::size_t row, FlatTable& entries);
   void add_entry(std::size_t record, std::size_t row, std::string_view number, FlatTable& entries);
   [[nodiscard]] std::string_view address_of(std::size_t row);
   /// Adds a field as the cell of an entry has it: without quotes, with a blank for a line break.
@@ -102,6 +107,7 @@ class EntryComposer {
   std::string number_;
   std::string cleaned_;
   std::string address_;
+  bool nameless_ = false;  // adapted records only
 };
 
 }  // namespace quenda

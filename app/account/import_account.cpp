@@ -30,10 +30,11 @@ class ListRows {
  public:
   explicit ListRows(const FlatTable& list) : list_(list) {}
   /// The row made of that number, if the list has one; asked for in the order of the source.
+  /// Numbers of one cell have one origin, and a row each.
   std::optional<std::size_t> of(std::uint32_t origin) {
     while (next_ < list_.rows() && list_.origin(next_) < origin) ++next_;
     if (next_ == list_.rows() || list_.origin(next_) != origin) return std::nullopt;
-    return next_;
+    return next_++;
   }
 
  private:
@@ -74,7 +75,7 @@ std::size_t account_for(const AccountInput& input,
       row.fate = *number.fate;
     } else {
       const auto earlier = first_lines.find_or_add(number.entry, number.line);
-      const auto listed = list_rows.of(number.origin);
+      const auto listed = earlier ? std::nullopt : list_rows.of(number.origin);
       if (listed) {
         take_list_row(row, input, *listed);
       } else if (earlier) {

@@ -6,6 +6,7 @@
 #include "book/entry_list.h"
 #include "sources/delimited_text.h"
 #include "sources/ispy_log.h"
+#include "sources/kept_breaks.h"
 #include "text/conversions.h"
 #include "text/entry_origin.h"
 #include "text/entry_text.h"
@@ -80,7 +81,10 @@ std::size_t walk_file(const RecordTable& records, const SourceLines& source_line
     // As the file has it: what the cleaning did to a quoted cell is taken back.
     const bool quoted = seen.raw.find('"') != seen.raw.npos;
     if (quoted) raw = shown_field(seen.raw, delimiter);
-    SourceNumber number = shown.make(quoted ? raw : seen.raw, seen.number, seen.name, seen.address);
+    const bool kept = composition.adapt;
+    if (kept) raw = with_line_breaks(shown_field(seen.raw, delimiter));
+    SourceNumber number =
+        shown.make(quoted || kept ? raw : seen.raw, seen.number, seen.name, seen.address);
     number.fate = fate_before_merge(seen.number, seen.numeric, seen.name, suppress_short_names);
     if (at == 0 && !header_counts(number.fate)) return;
     any = true;

@@ -33,7 +33,8 @@ struct Stop {
 
 /// The option texts as they were typed, UTF-8.
 struct Typed {
-  std::string suite, file, delimiter, flip_name, existing, min_name, country, area, report;
+  std::string suite, file, delimiter, convert, automatic, flip_name, existing, min_name, country,
+      area, report;
   std::array<std::vector<std::string>, kHeaderKinds> columns;
   std::vector<std::string> bindings, suffixes;
   int address_order = -1;
@@ -65,6 +66,10 @@ void declare(CLI::App& cli, Typed& typed, BatchOptions& options) {
       ->excludes(file);
   cli.add_option("--delimiter", typed.delimiter, "Trennzeichen, falls keines erkannt wird")
       ->option_text("semicolon|comma|tab");
+  cli.add_option("--convert", typed.convert, "Datei beim Einlesen anpassen (UTF-8, vCard ...)")
+      ->option_text("yes|no");
+  cli.add_option("--columns", typed.automatic, "Spalten eines bekannten Exports wählen")
+      ->option_text("auto");
   constexpr std::array kWhat = {"Spalte des Namens, bis zu 2", "Spalte einer Nummer, bis zu 3",
                                 "Spalte der Adresse 1, bis zu 3", "Spalte der Adresse 2, bis zu 3"};
   for (std::size_t kind = 0; kind < kHeaderKinds; ++kind) {
@@ -154,6 +159,15 @@ void take(const CLI::App& cli, const Typed& typed, BatchOptions& options) {
   check_column_counts(typed);
   if (given("--delimiter")) {
     options.delimiter = choice(kDelimiterNames, typed.delimiter, "--delimiter");
+  }
+  if (given("--convert")) options.convert = choice(kYesNo, typed.convert, "--convert") == 1;
+  if (given("--columns")) {
+    options.auto_columns = choice({{"auto", 1}}, typed.automatic, "--columns") == 1;
+    for (const char* option : kColumnOptions) {
+      if (given(option)) {
+        throw Stop{kExitWrongUsage, concat("--columns auto geht nicht mit ", option, ".")};
+      }
+    }
   }
   if (given("--flip-name")) options.flip_name = choice(kYesNo, typed.flip_name, "--flip-name") == 1;
   if (given("--min-name")) options.min_name = choice(kYesNo, typed.min_name, "--min-name") == 1;

@@ -17,6 +17,8 @@ struct BatchOptions {
   bool outlook = false;
   std::optional<int> delimiter;                                // position in the wizard's list
   std::array<std::vector<std::string>, kHeaderKinds> columns;  // header texts per kind
+  std::optional<bool> convert;
+  bool auto_columns = false;  // those of a known export
   std::optional<bool> flip_name;
   std::optional<int> address_order;
   std::array<std::optional<int>, 3> bindings;  // per number row: address 1 or 2, 0 for none

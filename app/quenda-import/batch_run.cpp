@@ -17,6 +17,7 @@
 #include "settings/app.h"
 #include "sources/file_facts.h"
 #include "sources/file_findings.h"
+#include "sources/table_facts.h"
 #include "support/procedure.h"
 #include "text/fault.h"
 #include "text/literal_1252.h"
@@ -141,6 +142,7 @@ void BatchRun::run() {
     }
     check_report(app_.paths.book_file());
     if (options_.existing) main_.optAsk(*options_.existing).choose();
+    if (options_.convert) main_.chkConvert.set_ticked(*options_.convert);
     if (options_.min_name) main_.chkNameLen.set_ticked(*options_.min_name);
     if (options_.country) main_.txtStateCode.set_text(*options_.country);
     if (options_.area) main_.txtOVW.set_text(*options_.area);
@@ -263,7 +265,11 @@ void BatchRun::take_file() {
   main_.txtImpFile.set_text(options_.file);
   if (!main_.file_read())
     refuse(concat("Die Datei \"", options_.file, "\" kann nicht gelesen werden."));
-  warn(file_findings(look_at_file(*main_.source.ImportText), false));
+  const std::vector<Finding> findings = file_findings(main_.source.facts, main_.converts());
+  if (main_.chkConvert.ticked() && !main_.source.facts.readable() && !main_.source.IsISpyFile) {
+    refuse(text_of(app_, findings.front()));
+  }
+  warn(findings);
   if (main_.source.IsISpyFile) return;
   if (options_.delimiter && main_.cmbLimiter.enabled()) {
     main_.cmbLimiter.set_list_index(*options_.delimiter);
@@ -297,10 +303,22 @@ void BatchRun::take_outlook() {
 }
 
 void BatchRun::choose_columns() {
-  if (options_.columns_given()) app_.settings.selections = {};
+  if (options_.columns_given() || options_.auto_columns) app_.settings.selections = {};
   go_on(Page::kColumns);
   if (main_.lstHeader(kNames).count() > kMostColumnsOfFile) {
     refuse(concat("Die Datei hat mehr als ", std::to_string(kMostColumnsOfFile), " Spalten."));
+  }
+  const ImportSource& source = main_.source;
+  const char delimiter = source.Delimiter.front();
+  warn(
+      table_findings(look_at_table(source.ImportRows, delimiter, source.made_table), source.lines));
+  warn(loss_findings(source.losses, source.lines));
+  if (options_.auto_columns) {
+    if (!main_.take_suggestion()) {
+      refuse(u8"Die Kopfzeile der Datei ist von keinem bekannten Export (--columns auto)."_de);
+    }
+    warn(unchosen_findings(unchosen_numbers(main_.header(), source.ImportRows, delimiter,
+                                            main_.ColumnPage::choice().numbers)));
   }
   for (std::size_t kind = 0; kind < kHeaderKinds; ++kind) select_columns(kind);
   if (!main_.cmdFor.enabled()) refuse_columns();

@@ -30,6 +30,11 @@ Control::Control(ControlHost& host, ControlKind kind, std::string_view name, int
   host_.controls_.push_back(this);
 }
 
+void ControlHost::move_to_end(Control& control) {
+  std::erase(controls_, &control);
+  controls_.push_back(&control);
+}
+
 Control::~Control() { std::erase(host_.controls_, this); }
 
 void Control::set_caption(std::string_view caption) {

@@ -48,12 +48,14 @@ enum class ControlKind {
 /// The window that controls belong to, as far as controls need to know it.
 class ControlHost {
  public:
-  /// The controls in the order of their construction.
+  /// The controls in the order of their construction, which is that of their ids.
   [[nodiscard]] const std::vector<Control*>& controls() const { return controls_; }
   /// While input is locked, only controls that are always usable take any: long work locks it
   /// before it handles events for the first time.
   [[nodiscard]] bool input_locked() const { return input_locked_; }
   void lock_input(bool locked);
+  /// Puts a control behind all others, so that one more does not change the ids of those.
+  void move_to_end(Control& control);
 
  protected:
   ControlHost() = default;

@@ -10,6 +10,9 @@ namespace quenda {
 /// The texts about a file that is going to be read: what it is, what would come out wrong, and what
 /// can be done. "%1" and so on stand for what was found.
 inline constexpr std::array kFileReportKeys = {
+    // Controls.
+    LanguageKey{"Import_ChkBox_Convert", "Datei beim Einlesen anpassen"},
+    LanguageKey{"Import_Button_Suggestion", "Vorschlag: %1"},
     // What is going to be adapted: "UTF-8, LF".
     LanguageKey{"Import_File_Adapted", "Die Datei wird beim Einlesen angepasst (%1)."},
     // What would come out wrong.

@@ -56,6 +56,13 @@ constexpr DesignRow<SourcePage> kDesign[] = {
      .place = {0, 4020, 7800, 300},
      .tab = 8,
      .caption = "Import_ChkBox_NameMin3Chars"},
+    {.control = control_at<&SourcePage::labFacts>,
+     .place = {2520, 1245, 7920, 450},
+     .across = Anchor::kBoth},
+    {.control = control_at<&SourcePage::chkConvert>,
+     .place = {0, 3630, 7800, 300},
+     .tab = 9,
+     .caption = "Import_ChkBox_Convert"},
 };
 
 }  // namespace
@@ -71,6 +78,8 @@ void SourcePage::design() {
   apply_design(*this, kDesign, &shell_.frmImp(0));
   labLimError.set_visible(false);
   labOLhint.set_visible(false);
+  labFacts.set_visible(false);
+  chkConvert.set_visible(false);
 }
 
 void SourcePage::connect() {
@@ -78,6 +87,7 @@ void SourcePage::connect() {
   cmdIspy.on_click = [this] { cmdIspy_Click(); };
   txtImpFile.on_change = [this] { txtImpFile_Change(); };
   cmbLimiter.on_click = [this] { cmbLimiter_Click(); };
+  chkConvert.on_click = [this] { chkConvert_Click(); };
   shell_.tmOLcheck.on_timer = [this] { tmOLcheck_Timer(); };
   shell_.on_drop_file = [this](std::string_view path) {
     // A dropped file is taken like a chosen one, as long as a source can be chosen.
@@ -96,11 +106,13 @@ void SourcePage::load_captions() {
 }
 
 void SourcePage::load(const ImportSettings& settings) {
-  skip_faults({[&] { chkNameLen.set_value(settings.min_name_length); }});
+  skip_faults({[&] { chkNameLen.set_value(settings.min_name_length); },
+               [&] { chkConvert.set_value(settings.convert); }});
 }
 
 void SourcePage::save(ImportSettings& settings) const {
   settings.min_name_length = chkNameLen.value();
+  settings.convert = chkConvert.value();
 }
 
 void SourcePage::cmdFile_Click() {

@@ -36,6 +36,10 @@ class SourcePage : public WizardPage {
   void start_outlook_search();
   /// Lets the user choose a source, or no longer; Outlook only where it has contacts.
   void open_choice(bool open);
+  void chkConvert_Click();
+
+  /// Whether the file taken is going to be adapted.
+  [[nodiscard]] bool converts() const;
   /// Whether the file chosen last could be read.
   [[nodiscard]] bool file_read() const { return file_read_; }
 
@@ -53,12 +57,17 @@ class SourcePage : public WizardPage {
   Label labOLver{shell_, "labOLver"};
   Label labOLhint{shell_, "labOLhint"};
   CheckBox chkNameLen{shell_, "chkNameLen"};
+  Label labFacts{shell_, "labFacts"};
+  CheckBox chkConvert{shell_, "chkConvert"};
 
  private:
   void design();
   void connect();
   void choose_file(FilterSet filters);
   void read_file(const std::string& path);
+  bool detect_delimiter();
+  void show_facts();
+  void build_converted();
   void show_detection(bool failed);
   void enable_outlook();
 

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -7,12 +8,15 @@
 #include "platform/files.h"
 #include "settings/app.h"
 #include "sources/delimited_text.h"
+#include "sources/file_conversion.h"
+#include "sources/file_findings.h"
 #include "sources/pages/source_page.h"
 #include "support/clsFiles.h"
 #include "support/procedure.h"
 #include "text/fault.h"
 #include "text/text.h"
 #include "wizard/shell/busy.h"
+#include "wizard/shell/finding_text.h"
 
 // The file on the first page: read, its delimiter found, its records made.
 namespace quenda {
@@ -28,6 +32,9 @@ void SourcePage::txtImpFile_Change() {
     StatusBar& status = shell_.StatusBar;
     if (!app_.machine.files.exists(txtImpFile.text())) {
       file_ready_ = false;
+      source.facts = {};
+      show_facts();
+      chkConvert.set_visible(false);
       shell_.refresh_buttons();
       return;
     }
@@ -44,16 +51,65 @@ void SourcePage::txtImpFile_Change() {
     bool delimiter_found = false;
     if (!source.IsISpyFile) {
       status.set_panel(2, shell_.texts["Import_Info_GetDelimiter"]);
-      delimiter_found = CheckLimiter();
+      delimiter_found = detect_delimiter();
       source.FileChecked = true;
-      if (delimiter_found) {
-        status.set_panel(2, shell_.texts["Import_Info_DelimiterOk"]);
-        cmbLimiter.set_enabled(false);
-        shell_.ObjectEnable(false, cmbLimiter);
-      }
     }
+    show_facts();
+    // A tick that was remembered is never at work unseen.
+    const bool adaptable = is_adaptable(source.facts) || chkConvert.ticked();
+    chkConvert.set_visible(file_read_ && !source.IsISpyFile && adaptable);
     if (shell_.wizard.abort) throw EndProgram();
     file_ready_ = source.IsISpyFile || delimiter_found;
+    shell_.refresh_buttons();
+  }).or_go_on();
+}
+
+bool SourcePage::detect_delimiter() {
+  bool found = CheckLimiter();
+  if (converts()) {
+    const char delimiter = conversion_delimiter(*shell_.source.ImportText, shell_.source.facts);
+    const auto known = std::find(kDelimiters.begin(), kDelimiters.end(), delimiter);
+    if (known != kDelimiters.end()) {
+      cmbLimiter.set_list_index(static_cast<int>(known - kDelimiters.begin()));
+      show_detection(false);
+      found = true;
+    }
+  } else if (chkConvert.ticked() && !shell_.source.facts.readable()) {
+    // A workbook or the like: there is nothing in it that could be adapted.
+    found = false;
+  }
+  if (found) {
+    shell_.StatusBar.set_panel(2, shell_.texts["Import_Info_DelimiterOk"]);
+    cmbLimiter.set_enabled(false);
+    shell_.ObjectEnable(false, cmbLimiter);
+  }
+  return found;
+}
+
+bool SourcePage::converts() const {
+  const ImportSource& source = shell_.source;
+  return chkConvert.ticked() && source.kind() == Source::kFile && source.facts.readable();
+}
+
+void SourcePage::show_facts() {
+  std::string text;
+  const FileFacts& facts = shell_.source.facts;
+  for (const Finding& finding : file_findings(facts, converts())) {
+    if (!text.empty()) text += ' ';
+    text += text_of(app_, finding);
+  }
+  labFacts.set_caption(text);
+  labFacts.set_visible(!text.empty());
+}
+
+void SourcePage::chkConvert_Click() {
+  procedure(app_.errors, "fMain.chkConvert_Click", {}, [&] {
+    if (!shell_.source.FileChecked || shell_.source.kind() != Source::kFile) return;
+    cmbLimiter.set_list_index(-1);
+    cmbLimiter.set_enabled(true);
+    shell_.ObjectEnable(true, cmbLimiter);
+    file_ready_ = detect_delimiter();
+    show_facts();
     shell_.refresh_buttons();
   }).or_go_on();
 }
@@ -89,9 +145,11 @@ void SourcePage::read_file(const std::string& path) {
   long count = 0;
   // The text before is given up first: two files need not fit into memory together.
   source.ImportText = std::make_shared<std::string>();
+  source.facts = {};
   source.ImportText = std::make_shared<std::string>(
       clsFiles(app_.errors, app_.machine.files, app_.machine.clock).fOpenFileToStream(path, count));
   pause();
+  source.facts = look_at_file(*source.ImportText);
   // The records of a delimited file are built when its delimiter is settled.
   if (is_ispy_log(path)) source.ImportRows = split_lines(source.ImportText);
   pause();
@@ -138,10 +196,28 @@ void SourcePage::CSVclean() {
     BusyWork busy(shell_);
     // The records are built in the memory of the text itself, which is not needed after that.
     source.ImportRows = RecordTable();
+    source.converted = converts();
+    source.made_table = false;
+    source.lines = {};
+    source.losses = {};
+    if (source.converted) return build_converted();
     std::string text = std::move(*source.ImportText);
     remove_doubled_quotes(text, [this] { shell_.answer_events(); });
     source.ImportRows = build_records(std::move(text), source.Delimiter.front(), busy.on_step());
   }).or_go_on();
+}
+
+void SourcePage::build_converted() {
+  ImportSource& source = shell_.source;
+  const std::string bytes = std::move(*source.ImportText);
+  ConvertedTable table = convert_file(bytes, source.facts, source.Delimiter.front(),
+                                      [this] { shell_.answer_events(); });
+  source.Delimiter = table.delimiter;
+  source.made_table = table.made;
+  source.lines = std::move(table.lines);
+  source.losses = std::move(table.losses);
+  source.ImportRows = build_records(std::move(table.text), table.delimiter,
+                                    [this](std::size_t i, std::size_t n) { shell_.step(i, n); });
 }
 
 void SourcePage::DatasetComplete() {

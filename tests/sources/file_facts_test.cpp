@@ -59,7 +59,7 @@ TEST(LookAtFile, TellsTheLineEnds) {
     std::string text;
     LineEnds ends;
   };
-  const Case cases[] = {{"a;b", LineEnds::kNone},       {"a\r\nb\r\n", LineEnds::kCrLf},
+  const Case cases[] = {{"a;b", LineEnds::kNone},       {"a\r\nb\r\n", LineEnds::kCrAndLf},
                         {"a\nb\n", LineEnds::kLf},      {"a\rb\r", LineEnds::kCr},
                         {"a\r\nb\n", LineEnds::kMixed}, {"a\r\nb\r", LineEnds::kMixed},
                         {"a\nb\r", LineEnds::kMixed},   {"\r\n\n", LineEnds::kMixed}};
@@ -74,7 +74,7 @@ TEST(LookAtFile, TellsTheLineEnds) {
                                      "a\0\r\0\n\0",
                                      8))
                 .line_ends,
-            LineEnds::kCrLf);
+            LineEnds::kCrAndLf);
 }
 
 TEST(LookAtFile, TellsTheKind) {

@@ -6,9 +6,11 @@
 
 #include "settings/app.h"
 #include "sources/delimited_text.h"
+#include "sources/file_findings.h"
 #include "support/procedure.h"
 #include "text/text.h"
 #include "wizard/shell/design.h"
+#include "wizard/shell/finding_text.h"
 
 namespace quenda {
 namespace {
@@ -61,9 +63,18 @@ constexpr DesignRow<ColumnPage> kDesign[] = {
 /// Below the page, shared with the next one.
 constexpr DesignRow<ColumnPage> kPreviewDesign[] = {
     {.control = control_at<&ColumnPage::labShow>,
-     .place = {0, 2460, kPageWidth, 255},
+     .place = {0, 2460, 2490, 255},
      .tab = 100,
      .caption = "Import_Label_PreviewData"},
+    {.control = control_at<&ColumnPage::labTable>,
+     .place = {2650, 2460, 5140, 255},
+     .across = Anchor::kBoth,
+     .down = Anchor::kShareStart},
+    {.control = control_at<&ColumnPage::cmdSuggest>,
+     .place = {7950, 2385, 2490, 330},
+     .tab = 28,
+     .across = Anchor::kEnd,
+     .down = Anchor::kShareStart},
     {.control = control_at<&ColumnPage::lstShow>,
      .place = {0, 2745, kPageWidth, 2655},
      .tab = 101,
@@ -82,9 +93,12 @@ ColumnPage::ColumnPage(WizardShell& shell) : WizardPage(shell) {
 void ColumnPage::design() {
   apply_design(*this, kDesign, &shell_.frmImp(1));
   apply_design(*this, kPreviewDesign, &shell_.frmPages);
+  labTable.set_visible(false);
+  cmdSuggest.set_visible(false);
 }
 
 void ColumnPage::connect() {
+  cmdSuggest.on_click = [this] { take_suggestion(); };
   for (const auto& list : lstHeader) {
     list->on_click = [this, index = list->index()] { lstHeader_Click(index); };
   }
@@ -93,6 +107,7 @@ void ColumnPage::connect() {
 void ColumnPage::load_captions() {
   quenda::load_captions(*this, kDesign, app_);
   quenda::load_captions(*this, kPreviewDesign, app_);
+  cmdSuggest.set_caption(text_of(app_, Finding{"Import_Button_Suggestion", {""}}));
   for (const int address : {1, 2}) {
     Label& label = labHeader(address + 1);
     label.set_caption(concat(label.caption(), " ", std::to_string(address)));
@@ -108,6 +123,13 @@ void ColumnPage::page_shown(Page now) {
   const bool shared = now == Page::kColumns;
   labShow.set_anchors(Anchor::kStart, shared ? Anchor::kShareStart : Anchor::kStart);
   lstShow.set_anchors(Anchor::kBoth, shared ? Anchor::kShare : Anchor::kBoth);
+  show_below_lists();
+}
+
+void ColumnPage::show_below_lists() {
+  const bool shown = shell_.wizard.CurrentPage == Page::kColumns;
+  labTable.set_visible(shown && !labTable.caption().empty());
+  cmdSuggest.set_visible(shown && suggestion_offered_);
 }
 
 bool ColumnPage::can_go_on() const {

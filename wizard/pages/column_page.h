@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -9,6 +10,7 @@
 #include "platform/controls/lists.h"
 #include "platform/controls/simple_controls.h"
 #include "settings/import_settings.h"
+#include "sources/column_suggestion.h"
 #include "wizard/composition.h"
 #include "wizard/header_columns.h"
 #include "wizard/pages/record_preview.h"
@@ -42,12 +44,24 @@ class ColumnPage : public WizardPage {
   ControlArray<ListBox> lstHeader{shell_, "lstHeader", {0, 1, 2, 3}};
   Label labShow{shell_, "labShow"};
   ListView lstShow{shell_, "lstShow"};
+  Label labTable{shell_, "labTable"};
+  Button cmdSuggest{shell_, "cmdSuggest"};
+
+  /// Chooses the columns of the known export that the file is; false for an unknown one.
+  bool take_suggestion();
+  /// Told of a suggestion that was taken: what it says about suffixes and addresses.
+  std::function<void(const ColumnSuggestion& suggestion)> on_suggestion;
+  /// The column names of the file.
+  [[nodiscard]] const std::vector<std::string>& header() const { return header_; }
 
  private:
   void design();
   void connect();
   void fill_header_lists(const std::vector<std::string>& header);
   void select_saved_columns(const std::vector<std::string>& header);
+  void show_table_facts();
+  void offer_suggestion();
+  void show_below_lists();
   [[nodiscard]] const ListBox& list(std::size_t kind) const {
     return lstHeader(static_cast<int>(kind));
   }
@@ -55,6 +69,8 @@ class ColumnPage : public WizardPage {
 
   RecordPreview preview_;
   bool header_shown_ = false;
+  std::vector<std::string> header_;
+  bool suggestion_offered_ = false;
 };
 
 }  // namespace quenda

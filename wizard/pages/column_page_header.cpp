@@ -7,9 +7,12 @@
 #include "settings/app.h"
 #include "settings/ini/ini_text.h"
 #include "sources/delimited_text.h"
+#include "sources/file_findings.h"
+#include "sources/table_facts.h"
 #include "support/procedure.h"
 #include "text/text.h"
 #include "wizard/pages/column_page.h"
+#include "wizard/shell/finding_text.h"
 
 // The header of the file on the columns' page, and what a click on it does.
 namespace quenda {
@@ -54,6 +57,8 @@ void ColumnPage::ImpHeader() {
     const ImportSource& source = shell_.source;
     const MainTexts& texts = shell_.texts;
     header_shown_ = false;
+    header_.clear();
+    suggestion_offered_ = false;
     const std::string_view header_record = source.ImportRows[0];
     if (header_record.find(source.Delimiter) == header_record.npos) {
       fill_header_lists({});
@@ -74,7 +79,10 @@ void ColumnPage::ImpHeader() {
           MessageStyle::kInformation);
     }
     header_shown_ = true;
+    header_ = header;
+    show_table_facts();
     select_saved_columns(header);
+    offer_suggestion();
   }).or_go_on();
 }
 
@@ -85,7 +93,7 @@ void ColumnPage::fill_header_lists(const std::vector<std::string>& header) {
   if (header.empty()) return lstShow.set_columns({});
   const ImportSource& source = shell_.source;
   lstShow.set_columns(preview_columns(header, source.ImportRows, source.Delimiter.front()));
-  preview_.show(source.ImportRows, source.Delimiter.front());
+  preview_.show(source.ImportRows, source.Delimiter.front(), source.converted);
   lstShow.set_source(&preview_);
   // The count of the file's lines, which the status bar tells, has the header among them.
   labShow.set_caption(
@@ -110,6 +118,55 @@ void ColumnPage::select_saved_columns(const std::vector<std::string>& header) {
              texts["Import_Msg_SelectionFail3"]);
   for (const std::string& area : areas) message.append(kCrLf).append(area);
   app_.message_box(message, MessageStyle::kInformation);
+}
+
+void ColumnPage::show_table_facts() {
+  const ImportSource& source = shell_.source;
+  std::string text;
+  const auto add = [&](const std::vector<Finding>& findings) {
+    for (const Finding& finding : findings) {
+      if (!text.empty()) text += ' ';
+      text += text_of(app_, finding);
+    }
+  };
+  add(table_findings(look_at_table(source.ImportRows, source.Delimiter.front(), source.made_table),
+                     source.lines));
+  add(loss_findings(source.losses, source.lines));
+  labTable.set_caption(text);
+}
+
+void ColumnPage::offer_suggestion() {
+  const bool remembered = list(kNames).selected_count() > 0 || list(kNumbers).selected_count() > 0;
+  const std::string_view name = remembered ? std::string_view() : known_export_name(header_);
+  suggestion_offered_ = !name.empty();
+  if (suggestion_offered_) {
+    cmdSuggest.set_caption(text_of(app_, Finding{"Import_Button_Suggestion", {std::string(name)}}));
+  }
+  show_below_lists();
+}
+
+bool ColumnPage::take_suggestion() {
+  bool taken = false;
+  procedure(app_.errors, "fMain.cmdSuggest_Click", {}, [&] {
+    const auto suggestion =
+        suggest_columns(header_, shell_.source.ImportRows, shell_.source.Delimiter.front());
+    if (!suggestion) return;
+    const std::array<const std::vector<std::size_t>*, kHeaderKinds> columns = {
+        &suggestion->names, &suggestion->numbers, &suggestion->addresses[0],
+        &suggestion->addresses[1]};
+    for (std::size_t kind = 0; kind < kHeaderKinds; ++kind) {
+      ListBox& list = lstHeader(static_cast<int>(kind));
+      for (const int position : list.selected_positions()) list.set_selected(position, false);
+      for (const std::size_t column : *columns.at(kind)) {
+        list.set_selected(static_cast<int>(column), true);
+      }
+    }
+    if (on_suggestion) on_suggestion(*suggestion);
+    suggestion_offered_ = false;
+    show_below_lists();
+    taken = true;
+  }).or_go_on();
+  return taken;
 }
 
 void ColumnPage::lstHeader_Click(int index) {

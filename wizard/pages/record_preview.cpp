@@ -1,10 +1,12 @@
 #include "wizard/pages/record_preview.h"
 
 #include "sources/delimited_text.h"
+#include "sources/kept_breaks.h"
 
 namespace quenda {
 
-void RecordPreview::show(const RecordTable& records, char delimiter) {
+void RecordPreview::show(const RecordTable& records, char delimiter, bool converted) {
+  converted_ = converted;
   records_ = &records;
   delimiter_ = delimiter;
   rows_ = records.empty() ? 0 : records.size() - 1;
@@ -20,7 +22,9 @@ std::size_t RecordPreview::rows() const { return rows_; }
 std::string RecordPreview::cell(std::size_t row, std::size_t column) const {
   RecordFields fields;
   fields.split(*records_, row + 1, delimiter_, column);
-  return fields.has(column) ? shown_field(fields[column], delimiter_) : std::string();
+  if (!fields.has(column)) return {};
+  const std::string shown = shown_field(fields[column], delimiter_);
+  return converted_ ? in_one_line(shown) : shown;
 }
 
 }  // namespace quenda

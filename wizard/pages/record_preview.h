@@ -12,7 +12,7 @@ namespace quenda {
 class RecordPreview : public RowSource {
  public:
   /// Shows the records after the header. The table has to outlive the preview's use.
-  void show(const RecordTable& records, char delimiter);
+  void show(const RecordTable& records, char delimiter, bool converted);
   [[nodiscard]] std::size_t rows() const override;
   [[nodiscard]] std::string cell(std::size_t row, std::size_t column) const override;
 
@@ -20,6 +20,7 @@ class RecordPreview : public RowSource {
   const RecordTable* records_ = nullptr;
   char delimiter_ = ';';
   std::size_t rows_ = 0;
+  bool converted_ = false;  // cells may have line breaks
 };
 
 }  // namespace quenda

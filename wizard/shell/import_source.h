@@ -3,7 +3,10 @@
 #include <memory>
 #include <string>
 
+#include "sources/file_facts.h"
+#include "sources/lost_characters.h"
 #include "sources/record_table.h"
+#include "sources/source_lines.h"
 #include "wizard/page_flow.h"
 
 namespace quenda {
@@ -16,6 +19,11 @@ struct ImportSource {
   bool IsISpyFile = false;
   bool IsOutlookSource = false;
   bool FileChecked = false;  // a delimited file was taken and waits for its cleaning
+  FileFacts facts;           // of the file taken last
+  bool converted = false;    // the records are those of an adapted file
+  bool made_table = false;   // of vCards or labels: records leave out what is empty at their end
+  SourceLines lines;         // where its records begin in the file
+  LostCharacters losses;     // what the adapting could not keep
 
   [[nodiscard]] Source kind() const {
     return IsOutlookSource ? Source::kOutlook : IsISpyFile ? Source::kIspy : Source::kFile;

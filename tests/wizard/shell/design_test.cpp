@@ -43,7 +43,8 @@ TEST_F(MainDesign, TheOrderOfTheControlsStaysSinceTheirIdsComeFromIt) {
             "txtStateCode labOVW txtOVW labOVWhint "
             "labImport*3 chkImport*11 txtImport*11 chkAdr*14 chkFlipName chkFlipAdress "
             "labPreview lstImport "
-            "labEdited labCodes cmdCompose");
+            "labEdited labCodes cmdCompose "
+            "labFacts chkConvert labTable cmdSuggest");
 }
 
 TEST_F(MainDesign, WhatTheTabKeyReachesHasANameOfItsOwnOnItsPage) {
