@@ -92,6 +92,9 @@ class fMain : public WizardShell,
   void show_page_state();
   /// Suffixes, order and addresses of a suggestion whose columns have been chosen.
   void adopt(const ColumnSuggestion& suggestion);
+  /// The same of a choice that was remembered for the header of the file.
+  void adopt(const HeaderChoice& choice);
+  void remember_header();
   [[nodiscard]] Composition composition() const;
   [[nodiscard]] CleanNumber number_cleaner();
   /// Reads the book and merges the entries into it, up to what is to be written.

@@ -70,7 +70,32 @@ void fMain::SaveOptions(bool delimited_file) {
     AddressPage::save(app_.settings);
     save_header_options(app_.ini, app_.settings);
     SaveSelections();
+    remember_header();
   }).or_go_on();
+}
+
+void fMain::remember_header() {
+  const ImportSettings& settings = app_.settings;
+  const ColumnChoice columns = ColumnPage::choice();
+  save_header_choice(
+      app_.ini, header(),
+      {.columns = {columns.names, columns.numbers, columns.addresses[0], columns.addresses[1]},
+       .name_flip = settings.name_flip,
+       .address_flip = settings.address_flip,
+       .add_check = settings.add_check,
+       .suffixes = settings.name_ext});
+}
+
+void fMain::adopt(const HeaderChoice& choice) {
+  ImportSettings& settings = app_.settings;
+  settings.name_flip = choice.name_flip;
+  settings.address_flip = choice.address_flip;
+  settings.add_check = choice.add_check;
+  settings.name_ext = choice.suffixes;
+  wizard.loading = true;
+  NamePage::load(settings);
+  AddressPage::load(settings);
+  wizard.loading = false;
 }
 
 }  // namespace quenda

@@ -43,6 +43,7 @@ void fMain::connect() {
   on_compose = [this] { compose_again(); };
   cmdCancel.on_click = [this] { cmdCancel_Click(); };
   on_suggestion = [this](const ColumnSuggestion& suggestion) { adopt(suggestion); };
+  on_remembered = [this](const HeaderChoice& choice) { adopt(choice); };
   on_unload = [this] { Form_Unload(); };
   on_got_focus = [this] { Form_GotFocus(); };
   txtDDE.on_change = [this] { app_.machine.host_link.set_text(txtDDE.text()); };

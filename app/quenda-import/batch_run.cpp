@@ -15,6 +15,7 @@
 #include "book/pages/fImportMsg.h"
 #include "platform/files.h"
 #include "settings/app.h"
+#include "sources/delimited_text.h"
 #include "sources/file_facts.h"
 #include "sources/file_findings.h"
 #include "sources/table_facts.h"
@@ -285,7 +286,9 @@ void BatchRun::check_file() {
   skip_faults({[&] { there = machine_.files.has_file(options_.file); }});
   if (!there) refuse(concat(named, " ist keine Datei, die gelesen werden kann."));
   if (!*there) refuse(concat("Die Datei ", named, " gibt es nicht."));
-  if (machine_.files.size(options_.file) == 0) refuse(concat("Die Datei ", named, " ist leer."));
+  // A log nobody has called yet is read like any other.
+  const bool nothing = machine_.files.size(options_.file) == 0;
+  if (nothing && !is_ispy_log(options_.file)) refuse(concat("Die Datei ", named, " ist leer."));
 }
 
 void BatchRun::warn(const std::vector<Finding>& findings) {

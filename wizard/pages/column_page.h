@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <functional>
 #include <string>
@@ -9,6 +10,7 @@
 #include "platform/controls/list_view.h"
 #include "platform/controls/lists.h"
 #include "platform/controls/simple_controls.h"
+#include "settings/header_memory.h"
 #include "settings/import_settings.h"
 #include "sources/column_suggestion.h"
 #include "wizard/composition.h"
@@ -51,6 +53,8 @@ class ColumnPage : public WizardPage {
   bool take_suggestion();
   /// Told of a suggestion that was taken: what it says about suffixes and addresses.
   std::function<void(const ColumnSuggestion& suggestion)> on_suggestion;
+  /// Told of the choice made before for this header: what it says about the pages after this one.
+  std::function<void(const HeaderChoice& choice)> on_remembered;
   /// The column names of the file.
   [[nodiscard]] const std::vector<std::string>& header() const { return header_; }
 
@@ -58,9 +62,12 @@ class ColumnPage : public WizardPage {
   void design();
   void connect();
   void fill_header_lists(const std::vector<std::string>& header);
-  void select_saved_columns(const std::vector<std::string>& header);
+  /// False when the user has to choose, since the columns of the last import do not fit.
+  bool select_saved_columns(const std::vector<std::string>& header);
+  bool select_remembered(const std::vector<std::string>& header);
+  void select_columns(const std::array<std::vector<std::size_t>, kHeaderKinds>& columns);
   void show_table_facts();
-  void offer_suggestion();
+  void offer_suggestion(bool fits);
   void show_below_lists();
   [[nodiscard]] const ListBox& list(std::size_t kind) const {
     return lstHeader(static_cast<int>(kind));

@@ -81,8 +81,7 @@ void ColumnPage::ImpHeader() {
     header_shown_ = true;
     header_ = header;
     show_table_facts();
-    select_saved_columns(header);
-    offer_suggestion();
+    offer_suggestion(select_saved_columns(header));
   }).or_go_on();
 }
 
@@ -100,7 +99,7 @@ void ColumnPage::fill_header_lists(const std::vector<std::string>& header) {
       concat(app_.text("Import_Label_PreviewData"), " (", std::to_string(preview_.rows()), ")"));
 }
 
-void ColumnPage::select_saved_columns(const std::vector<std::string>& header) {
+bool ColumnPage::select_saved_columns(const std::vector<std::string>& header) {
   const MainTexts& texts = shell_.texts;
   std::vector<std::string> stored;
   stored.reserve(header.size());
@@ -112,12 +111,31 @@ void ColumnPage::select_saved_columns(const std::vector<std::string>& header) {
   }
   const std::vector<std::string> areas = areas_to_check(
       match.unmatched, {texts["String_Name"], texts["String_Number"], texts["String_Address"]});
-  if (areas.empty()) return;
+  if (areas.empty() || select_remembered(header)) return true;
   std::string message =
       concat(texts["Import_Msg_SelectionFail1"], kCrLf, texts["Import_Msg_SelectionFail2"], kCrLf,
              texts["Import_Msg_SelectionFail3"]);
   for (const std::string& area : areas) message.append(kCrLf).append(area);
   app_.message_box(message, MessageStyle::kInformation);
+  return false;
+}
+
+bool ColumnPage::select_remembered(const std::vector<std::string>& header) {
+  const auto choice = load_header_choice(app_.ini, header);
+  if (!choice) return false;
+  select_columns(choice->columns);
+  if (on_remembered) on_remembered(*choice);
+  return true;
+}
+
+void ColumnPage::select_columns(const std::array<std::vector<std::size_t>, kHeaderKinds>& columns) {
+  for (std::size_t kind = 0; kind < kHeaderKinds; ++kind) {
+    ListBox& list = lstHeader(static_cast<int>(kind));
+    for (const int position : list.selected_positions()) list.set_selected(position, false);
+    for (const std::size_t column : columns.at(kind)) {
+      list.set_selected(static_cast<int>(column), true);
+    }
+  }
 }
 
 void ColumnPage::show_table_facts() {
@@ -135,8 +153,9 @@ void ColumnPage::show_table_facts() {
   labTable.set_caption(text);
 }
 
-void ColumnPage::offer_suggestion() {
-  const bool remembered = list(kNames).selected_count() > 0 || list(kNumbers).selected_count() > 0;
+void ColumnPage::offer_suggestion(bool fits) {
+  const bool chosen = list(kNames).selected_count() > 0 || list(kNumbers).selected_count() > 0;
+  const bool remembered = fits && chosen;
   const std::string_view name = remembered ? std::string_view() : known_export_name(header_);
   suggestion_offered_ = !name.empty();
   if (suggestion_offered_) {
@@ -151,16 +170,8 @@ bool ColumnPage::take_suggestion() {
     const auto suggestion =
         suggest_columns(header_, shell_.source.ImportRows, shell_.source.Delimiter.front());
     if (!suggestion) return;
-    const std::array<const std::vector<std::size_t>*, kHeaderKinds> columns = {
-        &suggestion->names, &suggestion->numbers, &suggestion->addresses[0],
-        &suggestion->addresses[1]};
-    for (std::size_t kind = 0; kind < kHeaderKinds; ++kind) {
-      ListBox& list = lstHeader(static_cast<int>(kind));
-      for (const int position : list.selected_positions()) list.set_selected(position, false);
-      for (const std::size_t column : *columns.at(kind)) {
-        list.set_selected(static_cast<int>(column), true);
-      }
-    }
+    select_columns({suggestion->names, suggestion->numbers, suggestion->addresses[0],
+                    suggestion->addresses[1]});
     if (on_suggestion) on_suggestion(*suggestion);
     suggestion_offered_ = false;
     show_below_lists();

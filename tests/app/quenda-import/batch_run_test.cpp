@@ -202,5 +202,16 @@ TEST_F(BatchRunTest, AnISpyLogNeedsNeitherColumnsNorCodes) {
   EXPECT_EQ(book(), "Erika;0301234567;0;0;0;0;;;[vcd()vcd]\r\n");
 }
 
+TEST_F(BatchRunTest, AnEmptyISpyLogIsALogWithoutCallers) {
+  options_.file = "C:\\ispy.log";
+  options_.columns = {};
+  machine_.files.put(options_.file, "");
+  EXPECT_EQ(run(), kExitDone);
+  EXPECT_EQ(out_.str(), "nodata\n");
+  options_.dry_run = true;
+  EXPECT_EQ(run(), kExitDone);
+  EXPECT_EQ(out_.str(), "");
+}
+
 }  // namespace
 }  // namespace quenda

@@ -1,0 +1,123 @@
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "tests/shared/wizard_fixture.h"
+#include "text/literal_1252.h"
+
+// What the wizard offers for files that it could not read as they are, and for known ones.
+namespace quenda {
+namespace {
+
+constexpr std::string_view kUtf8 =
+    "Anzeigename;Nachname;Vorname;Telefon privat;Mobiltelefon;Stra\xC3\x9F"
+    "e privat;PLZ privat\n"
+    ";M\xC3\xBCller;Eva;030 5550301 / 030 5550302;0171 5550303;Ring 2;10115\n";
+constexpr std::string_view kPlain = "Name;Telefon\r\nMeier, Hans;030 5550304\r\n";
+
+class FileAdaptation : public WizardTest {
+ protected:
+  [[nodiscard]] std::string settings() const {
+    return std::string(machine.files.content(kSettingsPath));
+  }
+};
+
+TEST_F(FileAdaptation, ATickAndASuggestionBringAKnownFileIn) {
+  start();
+  take_file(kUtf8);
+  EXPECT_NE(form->labFacts.caption().find("UTF-8"), std::string::npos);
+  ASSERT_TRUE(form->chkConvert.visible());
+  EXPECT_FALSE(form->chkConvert.ticked()) << "nothing is adapted by itself";
+  form->chkConvert.take_user_click();
+  EXPECT_EQ(form->labFacts.caption(), "Die Datei wird beim Einlesen angepasst (UTF-8, LF).");
+
+  forward();
+  ASSERT_TRUE(form->cmdSuggest.visible());
+  EXPECT_FALSE(form->cmdFor.enabled()) << "nothing is chosen by itself";
+  form->cmdSuggest.take_user_click();
+  EXPECT_FALSE(form->cmdSuggest.visible());
+  forward();
+  EXPECT_EQ(form->txtIndex(0).text(), "(privat)");
+  EXPECT_FALSE(form->cmdSuggest.visible() || form->labTable.visible()) << "not of this page";
+  forward();
+  forward();
+  const std::string name(u8"Müller Eva "_de);
+  EXPECT_EQ(rows(), (Texts{name + "(privat)|0305550301|Ring 2 10115",
+                           name + "(privat)|0305550302|Ring 2 10115",
+                           name + "(mobil)|01715550303|Ring 2 10115"}));
+  finish();
+  EXPECT_NE(settings().find("Convert=1\r\n"), std::string::npos);
+
+  start();
+  EXPECT_FALSE(form->chkConvert.visible());
+  take_file(kPlain);
+  EXPECT_TRUE(form->chkConvert.visible()) << "a remembered tick is never at work unseen";
+  form->chkConvert.take_user_click();
+  EXPECT_TRUE(form->chkConvert.visible()) << "it may be ticked again";
+  take_file(kPlain);
+  EXPECT_FALSE(form->chkConvert.visible());
+}
+
+TEST_F(FileAdaptation, WithoutTheTickNothingIsRememberedOfIt) {
+  go_to(Page::kEntries, kPlain, {{"Name"}, {"Telefon"}});
+  EXPECT_FALSE(form->chkConvert.visible() || form->labFacts.visible());
+  finish();
+  EXPECT_EQ(settings().find("Convert"), std::string::npos);
+}
+
+TEST_F(FileAdaptation, WithTheTickAWorkbookIsNotReadAsText) {
+  start();
+  take_file(kUtf8);
+  form->chkConvert.take_user_click();
+  take_file("PK\x03\x04...xl/workbook.xml;;;;");
+  EXPECT_FALSE(form->cmdFor.enabled());
+  EXPECT_NE(form->labFacts.caption().find("Arbeitsmappe"), std::string::npos);
+  ASSERT_TRUE(form->chkConvert.visible());
+  form->chkConvert.take_user_click();
+  EXPECT_TRUE(form->cmdFor.enabled()) << "as it always was";
+}
+
+TEST_F(FileAdaptation, SourcesTakenInTurnAreNotAskedAboutAgain) {
+  constexpr std::string_view kOther =
+      "Kunde;Ort;Straße;Rufnummer\r\nBäcker;Köln;Ring 3;030 5550305\r\n";
+  go_to(Page::kAddresses, kOther, {{"Kunde"}, {"Rufnummer"}, {"Straße", "Ort"}});
+  form->txtIndex(0).set_text("(Laden)");
+  form->cmbFlipAdress.take_user_index(1);
+  form->chk1(0).set_ticked(true);
+  forward();
+  const Texts entries = rows();
+  EXPECT_EQ(entries, (Texts{"Bäcker  (Laden)|0305550305|Ring 3 Köln"}));
+  finish();
+  for (int turn = 0; turn < 2; ++turn) {
+    start();
+    take_file(kPlain);
+    forward();
+    EXPECT_EQ(machine.dialogs.boxes.size(), turn == 0 ? 1U : 0U) << "asked about the first time";
+    machine.dialogs.boxes.clear();
+    if (turn == 0) {
+      select(0, {"Name"});
+      select(1, {"Telefon"});
+      forward();
+      form->txtIndex(0).set_text("");
+    } else {
+      forward();
+    }
+    forward();
+    forward();
+    EXPECT_EQ(rows(), (Texts{"Meier, Hans|0305550304|"}));
+    finish();
+
+    start();
+    take_file(kOther);
+    forward();
+    EXPECT_TRUE(machine.dialogs.boxes.empty());
+    forward();
+    forward();
+    forward();
+    EXPECT_EQ(rows(), entries);
+    finish();
+  }
+}
+
+}  // namespace
+}  // namespace quenda
