@@ -36,7 +36,8 @@ TailTexts book_texts(const MainTexts& texts) {
   return {.unchanged = texts["Import_Msg_BookUnchanged"],
           .longer = texts["Import_Msg_BookLonger"],
           .damaged = texts["Import_Msg_BookDamaged"],
-          .rest = texts["Import_Msg_BookRestAtEnd"]};
+          .rest = texts["Import_Msg_BookRestAtEnd"],
+          .large = texts["Import_Msg_BookTooLarge"]};
 }
 
 }  // namespace
@@ -91,6 +92,10 @@ MergeRun::End fMain::merge_into_book(MergeRun& run, const AskAboutDouble& ask) {
   BusyWork busy(*this);
   book_line_end = LineEnd::kCrLf;
   if (app_.machine.files.has_file(app_.paths.book_file())) {
+    if (app_.machine.files.size(app_.paths.book_file()) > kLargestFile) {
+      app_.message_box(texts["Import_Msg_BookTooLarge"], MessageStyle::kExclamation);
+      return MergeRun::End::kFailed;
+    }
     StatusBar.set_panel(2, texts["Import_Info_LoadBook"]);
     run.book = app_.machine.files.read(app_.paths.book_file());
     if (!book_readable(run.book)) return MergeRun::End::kFailed;

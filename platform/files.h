@@ -14,6 +14,7 @@ struct TailTexts {
   std::string_view longer;   // the old lines stand, %1 of them, and new ones behind them
   std::string_view damaged;  // from line %1 on, which begins with "%2"
   std::string_view rest;     // follows `damaged` when the lines lost there stand at the end
+  std::string_view large;    // more bytes than can be read again, so nothing was written
 };
 
 /// What becomes of the end of a file of lines that was read before.
@@ -73,8 +74,9 @@ class Files {
   /// Replaces everything from byte `keep` on, in place, and has the data on the disk when it
   /// returns. While this runs, other programs are kept from writing to the file. Nothing is done
   /// when the file no longer holds what was read (kChangedMeanwhile), or is gone (53). A file that
-  /// was not there is created. After a fault the old content stands again, or the fault's
-  /// addition says what could not be put back. Fault 5 when `keep` is beyond the old text.
+  /// was not there is created. Fault 7 for what would become too large to be read. After a fault
+  /// the old content stands again, or the fault's addition says what could not be put back. Fault 5
+  /// when `keep` is beyond the old text.
   [[nodiscard]] virtual ReplaceResult replace_tail(std::string_view path,
                                                    const TailChange& change) = 0;
   /// Keeps other runs of this program from the same until the result goes; waits for one that is at

@@ -245,6 +245,9 @@ class Replacement {
 
 ReplaceResult replace_tail_of(TailFile& file, const TailChange& change) {
   if (change.keep > change.old_text.size()) raise_fault(kFaultInvalidCall);
+  if (change.keep + size_of(change.pieces) > kLargestFile) {
+    throw RuntimeFault(kFaultOutOfMemory, change.texts.large);
+  }
   if (!holds(file, change.old_text)) return ReplaceResult::kChangedMeanwhile;
   Replacement replacement(file, change);
   try {

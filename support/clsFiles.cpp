@@ -44,6 +44,11 @@ void clsFiles::FileWrite_Log(std::string_view path, std::string_view text, std::
     long count = 0;
     const std::string log = fOpenFileToStream(path, count);
     files_.append(path, "");  // refuses a link, which writing anew would follow
+    // A log that cannot be read at the moment is not shortened.
+    if (log.empty()) {
+      MakeFile(path, entry, true);
+      return;
+    }
     MakeFile(path, concat(newest_lines(log, maximum), entry), false);
   }).or_go_on();
 }

@@ -43,6 +43,9 @@ inline constexpr std::array kFileReportKeys = {
                 u8"Die Datei enthält Kontakte als vCard: Sie müssen beim Einlesen angepasst "
                 u8"werden."_de},
     // What cannot be read.
+    LanguageKey{"Import_File_TooLarge",
+                u8"Die Datei ist größer als 2 GB: Teilen Sie sie, und lesen Sie die Teile "
+                u8"nacheinander ein."_de},
     LanguageKey{
         "Import_File_Workbook",
         u8"Die Datei ist eine Arbeitsmappe: Speichern Sie sie in der Tabellenkalkulation als "

@@ -83,6 +83,9 @@ inline constexpr std::array kLanguageKeys = {
     LanguageKey{"Import_Msg_BookDamaged",
                 u8"Das Telefonbuch ist ab Zeile %1 (\"%2\") beschädigt und davor unverändert."_de},
     LanguageKey{"Import_Msg_BookRestAtEnd", "Was dort fehlt, steht an seinem Ende."},
+    LanguageKey{"Import_Msg_BookTooLarge",
+                u8"Das Telefonbuch ist größer als 2 GB, oder der Import würde es so groß machen. "
+                u8"Es ist unverändert."_de},
     LanguageKey{"Import_Msg_DDENotConnect", "Es besteht keine DDE-Verbindung zu Quenda!"},
     LanguageKey{"Import_Msg_RefreshInfo",
                 "Nach dem Import ist es erforderlich das Telefonbuch durch \"Aktualisieren\" (F5) "

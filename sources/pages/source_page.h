@@ -64,7 +64,8 @@ class SourcePage : public WizardPage {
   void design();
   void connect();
   void choose_file(FilterSet filters);
-  void read_file(const std::string& path);
+  /// Whether all of it could be read.
+  bool read_file(const std::string& path);
   bool detect_delimiter();
   void show_facts();
   void build_converted();

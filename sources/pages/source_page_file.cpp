@@ -59,7 +59,8 @@ void SourcePage::txtImpFile_Change() {
     const bool adaptable = is_adaptable(source.facts) || chkConvert.ticked();
     chkConvert.set_visible(file_read_ && !source.IsISpyFile && adaptable);
     if (shell_.wizard.abort) throw EndProgram();
-    file_ready_ = source.IsISpyFile || delimiter_found;
+    // A log that could not be read is not one without callers.
+    file_ready_ = (source.IsISpyFile && file_read_) || delimiter_found;
     shell_.refresh_buttons();
   }).or_go_on();
 }
@@ -115,10 +116,11 @@ void SourcePage::chkConvert_Click() {
 }
 
 void SourcePage::FileImport() {
-  file_read_ = procedure(app_.errors, "fMain.FileImport", {}, [&] {
+  bool complete = true;
+  const bool done = procedure(app_.errors, "fMain.FileImport", {}, [&] {
     const std::string& path = txtImpFile.text();
     if (!app_.machine.files.exists(path)) return;
-    read_file(path);
+    complete = read_file(path);
     const bool is_log = is_ispy_log(path);
     shell_.source.IsISpyFile = is_log;
     if (is_log) {
@@ -129,15 +131,17 @@ void SourcePage::FileImport() {
     shell_.ObjectEnable(!is_log, cmbLimiter);
     shell_.StatusBar.set_panel(1, is_log ? "Importmode: ISpy" : "Importmode: CSV");
   });
+  file_read_ = done && complete;
 }
 
-void SourcePage::read_file(const std::string& path) {
+bool SourcePage::read_file(const std::string& path) {
   ImportSource& source = shell_.source;
   const Hourglass hourglass(shell_);
   // Only a large file is worth a look at what the user does meanwhile: keys other than "cancel"
   // are lost then, and a path may still be being typed.
   std::optional<BusyWork> busy;
-  if (app_.machine.files.size(path) > kLargeFile) busy.emplace(shell_);
+  const std::uint64_t size = app_.machine.files.size(path);
+  if (size > kLargeFile) busy.emplace(shell_);
   const auto pause = [&] {
     if (busy) shell_.answer_events();
   };
@@ -146,8 +150,15 @@ void SourcePage::read_file(const std::string& path) {
   // The text before is given up first: two files need not fit into memory together.
   source.ImportText = std::make_shared<std::string>();
   source.facts = {};
-  source.ImportText = std::make_shared<std::string>(
-      clsFiles(app_.errors, app_.machine.files, app_.machine.clock).fOpenFileToStream(path, count));
+  if (size > kLargestFile) {
+    app_.message_box(shell_.texts["Import_File_TooLarge"], MessageStyle::kExclamation);
+  } else {
+    source.ImportText =
+        std::make_shared<std::string>(clsFiles(app_.errors, app_.machine.files, app_.machine.clock)
+                                          .fOpenFileToStream(path, count));
+  }
+  // The reading reports what goes wrong, and gives an empty text then.
+  const bool complete = size == 0 || !source.ImportText->empty();
   pause();
   source.facts = look_at_file(*source.ImportText);
   // The records of a delimited file are built when its delimiter is settled.
@@ -155,6 +166,7 @@ void SourcePage::read_file(const std::string& path) {
   pause();
   shell_.StatusBar.set_panel(2, "");
   shell_.show_counts(static_cast<std::size_t>(count), shell_.texts["Import_Info_FileRead"]);
+  return complete;
 }
 
 bool SourcePage::CheckLimiter() {

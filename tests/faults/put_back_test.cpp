@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "book/unreadable_lines.h"
 #include "tests/shared/memory_tail.h"
@@ -62,7 +63,8 @@ const Scene kScenes[] = {
 constexpr TailTexts kTexts = {.unchanged = "unchanged",
                               .longer = "longer than %1",
                               .damaged = "damaged from %1 (%2)",
-                              .rest = "rest at end"};
+                              .rest = "rest at end",
+                              .large = "too large"};
 
 /// The message of the fault; nothing when there was none.
 std::optional<std::string> fault_of_replacing(TailFile& file, const Scene& scene) {
@@ -117,6 +119,25 @@ TEST(PutBack, WhatCannotBePutBackIsNamed) {
       }
     }
   }
+}
+
+TEST(PutBack, WhatCouldNotBeReadAgainIsNotWritten) {
+  // One megabyte, many times over.
+  const std::string block(1U << 20U, 'x');
+  std::vector<std::string_view> pieces(2047, block);
+  const std::string_view rest(block);
+  pieces.push_back(rest.substr(1 + kBefore.size()));
+  pieces.push_back("..");
+  MemoryTail file{std::string(kBefore)};
+  try {
+    static_cast<void>(replace_tail_of(
+        file, {.old_text = kBefore, .keep = kBefore.size(), .pieces = pieces, .texts = kTexts}));
+    ADD_FAILURE() << "one byte too many was written";
+  } catch (const RuntimeFault& fault) {
+    EXPECT_EQ(fault.number(), kFaultOutOfMemory);
+    EXPECT_EQ(fault.addition(), kTexts.large);
+  }
+  EXPECT_EQ(file.content(), kBefore);
 }
 
 }  // namespace

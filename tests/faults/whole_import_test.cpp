@@ -218,6 +218,37 @@ TEST_F(WholeImport, TellsAnEmptyFileFromOneThatIsNone) {
   EXPECT_THAT(errors_.str(), HasSubstr("ist keine Datei"));
 }
 
+TEST_F(WholeImport, ALogThatCannotBeReadIsNotOneWithoutCallers) {
+  options_.file = "C:\\ispy.log";
+  options_.columns = {};
+  machine_.files.put(options_.file, "2014-03-02 17:05:09 Erika Mustermann [#0301234567]\r\n");
+  machine_.files.refuse_reading(options_.file, kFaultInputOutput);
+  EXPECT_EQ(run(), kExitRefused);
+  EXPECT_EQ(out_.str(), "");
+}
+
+TEST_F(WholeImport, FilesAndBooksOver2GigabytesAreRefusedAtOnce) {
+  constexpr std::uint64_t kTooLarge = 1ULL << 31U;
+  machine_.files.put("C:\\ispy.log", "");
+  machine_.files.claim_size("C:\\ispy.log", kTooLarge);
+  machine_.files.put("C:\\other.csv", "");
+  machine_.files.claim_size("C:\\other.csv", kTooLarge);
+  for (const std::string& file : {std::string("C:\\ispy.log"), std::string("C:\\other.csv")}) {
+    options_.file = file;
+    EXPECT_EQ(run(), kExitRefused);
+    EXPECT_THAT(errors_.str(), HasSubstr("gr\xC3\xB6\xC3\x9F"
+                                         "er als 2 GB: Teilen Sie sie"));
+    EXPECT_EQ(errors_.str().find("Trennzeichen"), std::string::npos);
+  }
+  options_.file = kFile;
+  put_book(kOther);
+  machine_.files.claim_size(kBook, kTooLarge);
+  EXPECT_EQ(run(), kExitRefused);
+  EXPECT_THAT(errors_.str(), HasSubstr("Das Telefonbuch ist gr\xC3\xB6\xC3\x9F"
+                                       "er als 2 GB"));
+  EXPECT_EQ(book(), kOther);
+}
+
 TEST_F(WholeImport, MoreColumnsThanCanBeCountedAreRefused) {
   std::string header = "Name;Festnetz";
   std::string row = "Falk;0305550123";

@@ -77,7 +77,13 @@ bool FakeFiles::has_folder(std::string_view path) const {
   });
 }
 
+void FakeFiles::claim_size(std::string_view path, std::uint64_t bytes) {
+  claimed_sizes_[key_of(path)] = bytes;
+}
+
 std::uint64_t FakeFiles::size(std::string_view path) const {
+  const auto claimed = claimed_sizes_.find(key_of(path));
+  if (claimed != claimed_sizes_.end()) return claimed->second;
   const Entry* entry = find(path);
   return entry == nullptr ? 0 : entry->content.size();
 }

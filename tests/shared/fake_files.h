@@ -28,6 +28,8 @@ class FakeFiles final : public Files {
   void hold_lock(std::string_view path);
   /// The content, or the empty text for no file.
   [[nodiscard]] std::string content(std::string_view path) const;
+  /// The file says to have so many bytes.
+  void claim_size(std::string_view path, std::uint64_t bytes);
   /// How often a file was written, appended to or replaced in part.
   [[nodiscard]] int writes(std::string_view path) const;
 
@@ -60,6 +62,7 @@ class FakeFiles final : public Files {
 
   std::map<std::string, Entry> entries_;
   std::set<std::string> folders_;
+  std::map<std::string, std::uint64_t> claimed_sizes_;
   std::map<std::string, int> refused_writing_;
   std::map<std::string, int> refused_reading_;
   std::map<std::string, int> unclear_;

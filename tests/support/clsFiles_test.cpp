@@ -73,6 +73,14 @@ TEST(FileWriteLog, DatesItsEntryAndNeverTrimsWithoutMaximum) {
   EXPECT_EQ(f.files.content(kLog), lines(30) + "2014/03/02  17:05:09  entry\r\n");
 }
 
+TEST(FileWriteLog, LeavesALogThatCannotBeRead) {
+  Fixture f;
+  f.files.put(kLog, lines(20));
+  f.files.refuse_reading(kLog, kFaultInputOutput);
+  f.helper.FileWrite_Log(kLog, "entry", 5);
+  EXPECT_EQ(f.files.content(kLog), lines(20) + "2014/03/02  17:05:09  entry\r\n");
+}
+
 TEST(FileWriteLog, DropsTheOldestLinesDownToThreeQuarters) {
   Fixture f;
   const std::string entry = "2014/03/02  17:05:09  entry\r\n";

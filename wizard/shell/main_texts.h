@@ -12,7 +12,7 @@ namespace quenda {
 class modLanguage;
 
 /// Messages and status texts of the wizard.
-inline constexpr std::array<TextKey, 44> kMainTexts = {
+inline constexpr std::array<TextKey, 46> kMainTexts = {
     "Import_Info_DDEexit",
     "Import_Info_DDEbreak",
     "Import_Info_DDEactive",
@@ -36,6 +36,8 @@ inline constexpr std::array<TextKey, 44> kMainTexts = {
     "Import_Msg_BookLonger",
     "Import_Msg_BookDamaged",
     "Import_Msg_BookRestAtEnd",
+    "Import_Msg_BookTooLarge",
+    "Import_File_TooLarge",
     "Import_Msg_DDENotConnect",
     "Import_Msg_RefreshInfo",
     "Import_Info_ReadingFile",
