@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <ctime>
 
 #include "text/fault.h"
 
@@ -12,6 +13,9 @@ namespace quenda {
 namespace {
 
 constexpr mode_t kNewFileMode = 0666;
+// A second altogether.
+constexpr int kLeaseTries = 200;
+constexpr long kLeasePause = 5'000'000;  // nanoseconds
 
 bool folder_is_there(const std::string& path) {
   const auto slash = path.rfind('/');
@@ -85,10 +89,17 @@ void OpenFile::lock() {
   // Systems without locks go on without one.
   if (::flock(descriptor_, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) fail(EWOULDBLOCK);
 #ifdef F_SETLEASE
-  // Whoever opens the file from now on waits until it is closed here. There is no such lease while
-  // somebody has the file open, or for the file of another user. The news that somebody waits would
-  // be a signal, so nobody is named who gets it.
-  if (::fcntl(descriptor_, F_SETLEASE, F_WRLCK) == 0) ::fcntl(descriptor_, F_SETOWN, 0);
+  // Whoever opens the file from now on waits until it is closed here. There is no such lease for
+  // the file of another user, or while somebody has the file open: who does may be about to write,
+  // so they get some time. The news that somebody waits would be a signal, so nobody is named who
+  // gets it.
+  int leased = ::fcntl(descriptor_, F_SETLEASE, F_WRLCK);
+  for (int tries = 0; leased != 0 && errno == EAGAIN && tries < kLeaseTries; ++tries) {
+    const timespec pause{0, kLeasePause};
+    ::nanosleep(&pause, nullptr);
+    leased = ::fcntl(descriptor_, F_SETLEASE, F_WRLCK);
+  }
+  if (leased == 0) ::fcntl(descriptor_, F_SETOWN, 0);
 #endif
   if (::fstat(descriptor_, &status_) != 0) fail(errno);
 }

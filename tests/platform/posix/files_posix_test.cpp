@@ -5,6 +5,7 @@
 #include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <csignal>
@@ -72,6 +73,32 @@ TEST(PosixFiles, ABookThatAnotherProgramHoldsIsInUse) {
   close(other);
   EXPECT_EQ(files.read(folder.path("book")), "old");
   EXPECT_EQ(fault_of_replacing(files, folder.path("book"), 0, "new"), 0);
+}
+
+TEST(PosixFiles, AProgramThatHasTheBookOpenMayFinishItsLine) {
+  const TempFolder folder;
+  PosixFiles files;
+  const std::string path = folder.path("book");
+  files.write(path, "old\n");
+  int opened[2];
+  ASSERT_EQ(pipe(opened), 0);
+  const pid_t other = fork();
+  if (other == 0) {
+    const int book = open((folder.path() / "book").c_str(), O_WRONLY | O_APPEND);
+    const bool told = write(opened[1], "x", 1) == 1;
+    usleep(100'000);
+    _exit(told && write(book, "theirs\n", 7) == 7 ? 0 : 1);
+  }
+  char byte = 0;
+  ASSERT_EQ(read(opened[0], &byte, 1), 1);
+  constexpr std::string_view kTail = "ours\n";
+  const ReplaceResult result =
+      files.replace_tail(path, {.old_text = "old\n", .keep = 4, .pieces = {&kTail, 1}});
+  int status = 0;
+  ASSERT_EQ(waitpid(other, &status, 0), other);
+  EXPECT_EQ(status, 0);
+  EXPECT_EQ(result, ReplaceResult::kChangedMeanwhile);
+  EXPECT_EQ(files.read(path), "old\ntheirs\n");
 }
 
 TEST(PosixFiles, WhatIsNoFileIsNeitherCreatedNorWaitedFor) {
