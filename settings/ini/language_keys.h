@@ -83,6 +83,9 @@ inline constexpr std::array kLanguageKeys = {
     LanguageKey{"Import_Msg_BookDamaged",
                 u8"Das Telefonbuch ist ab Zeile %1 (\"%2\") beschädigt und davor unverändert."_de},
     LanguageKey{"Import_Msg_BookRestAtEnd", "Was dort fehlt, steht an seinem Ende."},
+    LanguageKey{"Import_Msg_HelpShipped",
+                u8"Die Hilfeseite lässt sich nicht öffnen. Soll das mitgelieferte Handbuch "
+                u8"geöffnet werden?"_de},
     LanguageKey{"Import_Msg_BookTooLarge",
                 u8"Das Telefonbuch ist größer als 2 GB, oder der Import würde es so groß machen. "
                 u8"Es ist unverändert."_de},

@@ -192,6 +192,22 @@ TEST_F(Start, HelpOpensThePageOfTheImportAndWaitsWhileWorkIsDone) {
   EXPECT_EQ(machine.system.opened.size(), 2U);
 }
 
+TEST_F(Start, WithoutABrowserTheShippedHandbookIsOffered) {
+  machine.system.shell_result = 31;
+  start();
+  form->on_help();
+  EXPECT_THAT(machine.dialogs.boxes, testing::IsEmpty()) << "nothing was installed with the tool";
+
+  machine.files.put("C:\\Quenda\\import-hilfe\\handbuch.html", "<html>");
+  machine.dialogs.answers = {MessageAnswer::kNo, MessageAnswer::kYes};
+  form->on_help();
+  EXPECT_THAT(machine.system.opened, testing::SizeIs(2));
+  form->on_help();
+  EXPECT_THAT(machine.system.opened, testing::SizeIs(4));
+  EXPECT_EQ(machine.system.opened.back(), "Open C:\\Quenda\\import-hilfe\\handbuch.html");
+  EXPECT_THAT(machine.dialogs.boxes, testing::SizeIs(2));
+}
+
 TEST_F(Start, EachDialogOpensTheSamePageByItsButtonAndByF1) {
   start();
   const auto press_help = [](auto&& dialog) {
