@@ -120,9 +120,11 @@ BatchRun::BatchRun(const BatchOptions& options, const BatchMachine& machine,
     say(concat(procedure, ": Fehler ", std::to_string(fault.number()), " ", fault.description(),
                parameters.empty() ? "" : " - ", parameters, told_.empty() ? "" : ". ", told_));
   };
-  // The log that the wizard's box names is not written; what happened stands here.
+  // The log that the wizard's box names is not written; what happened stands here. A book that
+  // others have changed is merged into anew without anybody pressing "Übernehmen".
   dialogs_.known = [this](std::string_view text) {
-    return text == told_ || text.find(clsErrorHandling::FileLogError()) != text.npos;
+    return text == told_ || text == main_.texts["Import_Msg_BookChanged"] ||
+           text.find(clsErrorHandling::FileLogError()) != text.npos;
   };
   events_.on_modal = [this](Form& form, Form& /*owner*/) { answer(form); };
   if (console.progress && !options.quiet) {

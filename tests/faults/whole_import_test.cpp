@@ -126,6 +126,8 @@ TEST_F(WholeImport, MergesIntoWhatAnotherProgramHasWrittenMeanwhile) {
                 "Neu 3;04055513;0;0;0;0;;;[vcd()vcd]\r\n" +
                 kFalk + kMayr);
 
+  EXPECT_EQ(errors_.str().find("liest es neu"), std::string::npos) << "nobody presses a button";
+
   changes = -10;
   put_book(kOther);
   EXPECT_EQ(run(), kExitRefused);
