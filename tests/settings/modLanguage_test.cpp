@@ -39,6 +39,9 @@ TEST(LanguageInit, TakesTheSettingOrTheGivenName) {
   f.files.put("D:\\data\\Quenda.ini", "[General]\r\nLanguage=\r\n");
   f.language.LanguageInit("");
   EXPECT_EQ(f.language.language(), "fr") << "an empty setting keeps the language";
+  f.files.put("D:\\data\\Quenda.ini", "[General]\r\nLanguage=..\\..\\x\r\n");
+  f.language.LanguageInit("");
+  EXPECT_EQ(f.language.language(), "fr") << "so does one that leads to another folder";
 }
 
 TEST(LoadLangKey, FallsBackToGermanAndPutsBreaksIn) {
