@@ -112,6 +112,7 @@ class fMain : public WizardShell,
   App& app_;
   bool book_written_ = false;
   std::unique_ptr<MergeRun> last_merge_;
+  std::size_t composed_records_ = 0;  // of a file, by the last composition
   FlatTable entries_{kEntryColumns};  // being collected; the final list takes them over
 };
 

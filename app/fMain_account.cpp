@@ -48,7 +48,7 @@ std::size_t fMain::walk_source(const SourceLines& lines, const OnSourceNumber& o
       break;
   }
   return walk_file(source.ImportRows, lines, source.Delimiter.front(), composition(), clean,
-                   chkNameLen.ticked(), source.ImportRows.size(), on_number);
+                   chkNameLen.ticked(), composed_records_, on_number);
 }
 
 std::size_t fMain::account(const std::function<void(const ReportRow&)>& on_row) {
@@ -66,6 +66,7 @@ std::size_t fMain::account(const std::function<void(const ReportRow&)>& on_row) 
   return account_for(
       {.walk = [&](const OnSourceNumber& tell) { return walk_source(lines, tell); },
        .list = list,
+       .composed = !composition_failed(),
        .verdict = verdict,
        .line_of_row = line_of_row,
        .name_in_book = [&](std::size_t entry) { return run->list->contact(entry).name; }},

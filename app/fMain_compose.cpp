@@ -56,11 +56,13 @@ bool fMain::Scramble() {
     StatusBar.set_panel(2, texts["Import_Info_DataSetClean"]);
     lstImpFinal.clear();
     entries_.clear();
+    composed_records_ = 0;
     EntryComposer composer(composition(), source.Delimiter.front(), number_cleaner());
     const std::size_t count = source.ImportRows.size();
     entries_.reserve(count, source.ImportRows.bytes());
     for (std::size_t record = 0; record < count; ++record) {
       composer.compose(source.ImportRows, record, entries_);
+      composed_records_ = record + 1;
       step(record + 1, count);
     }
     StatusBar.set_panel(2, texts["Import_Info_EraseMultible"]);

@@ -76,7 +76,9 @@ std::size_t account_for(const AccountInput& input,
     } else {
       const auto earlier = first_lines.find_or_add(number.entry, number.line);
       const auto listed = earlier ? std::nullopt : list_rows.of(number.origin);
-      if (listed) {
+      if (!earlier && !input.composed) {
+        row.fate = Fate::kUnread;
+      } else if (listed) {
         take_list_row(row, input, *listed);
       } else if (earlier) {
         row.fate = Fate::kRepeated;

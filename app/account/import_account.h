@@ -18,6 +18,8 @@ struct AccountInput {
   std::function<std::size_t(const OnSourceNumber&)> walk;
   /// The final list as it stands: what the user removed is missing, what he edited is as edited.
   const FlatTable& list;
+  /// Whether the list was made of the whole source. If not, its numbers were not read to the end.
+  bool composed = true;
   /// What the merge makes, or made, of a row of the list.
   std::function<MergeAccount::Verdict(std::size_t row)> verdict;
   /// Line of the source of a row of the list.

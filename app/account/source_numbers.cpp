@@ -4,6 +4,7 @@
 #include <string>
 
 #include "book/entry_list.h"
+#include "sources/cell_adaptation.h"
 #include "sources/delimited_text.h"
 #include "sources/ispy_log.h"
 #include "sources/kept_breaks.h"
@@ -60,6 +61,55 @@ std::optional<Fate> fate_before_merge(std::string_view number, bool numeric, std
 /// Whether the header counts as a record with this number: only where it would give an entry.
 bool header_counts(const std::optional<Fate>& fate) { return !fate || *fate == Fate::kSplit; }
 
+/// A cell of the table as the file has it: what the cleaning did to a quoted one is taken back.
+std::string cell_of_file(std::string_view field, char delimiter, bool adapted) {
+  const std::string shown = shown_field(field, delimiter);
+  return adapted ? with_line_breaks(shown) : shown;
+}
+
+/// The numbers of records that nothing was composed of. They are looked at without composing, since
+/// that is what failed.
+class UnreadRecords {
+ public:
+  UnreadRecords(const RecordTable& records, char delimiter, const Composition& composition)
+      : records_(records), delimiter_(delimiter), composition_(composition) {
+    for (const std::size_t column : composition.columns.numbers) last_ = std::max(last_, column);
+  }
+
+  /// `number` has the place of the record; each of its numbers is told with the rest.
+  void tell(std::size_t at, SourceNumber number, const OnSourceNumber& on_number) {
+    const std::vector<std::size_t>& columns = composition_.columns.numbers;
+    fields_.split(records_, at, delimiter_, last_);
+    number.fate = Fate::kUnread;
+    bool any = false;
+    for (std::size_t row = 0; row < std::min(columns.size(), kNumberRows); ++row) {
+      if (!fields_.has(columns[row])) continue;
+      const std::string cell = replace_all(fields_[columns[row]], "\"", "");
+      if (cell.empty()) continue;
+      const std::string raw = cell_of_file(fields_[columns[row]], delimiter_, composition_.adapt);
+      number.raw = raw;
+      number.row = static_cast<int>(row) + 1;
+      number.origin = entry_origin(at, row + 1);
+      std::size_t numbers = composition_.adapt ? numbers_in_cell(cell, delimiter_).size() : 1;
+      for (; numbers > 0; --numbers) {
+        any = true;
+        on_number(number);
+      }
+    }
+    if (any) return;
+    number.origin = entry_origin(at, 0);
+    number.fate = Fate::kNoNumber;
+    on_number(number);
+  }
+
+ private:
+  const RecordTable& records_;
+  char delimiter_;
+  const Composition& composition_;
+  std::size_t last_ = 0;
+  RecordFields fields_;
+};
+
 bool only_delimiters(std::string_view record, char delimiter) {
   return record.find_first_not_of(delimiter) == record.npos;
 }
@@ -78,13 +128,10 @@ std::size_t walk_file(const RecordTable& records, const SourceLines& source_line
   std::size_t at = 0;
   std::string raw;
   composer.on_number = [&](const NumberSeen& seen) {
-    // As the file has it: what the cleaning did to a quoted cell is taken back.
-    const bool quoted = seen.raw.find('"') != seen.raw.npos;
-    if (quoted) raw = shown_field(seen.raw, delimiter);
-    const bool kept = composition.adapt;
-    if (kept) raw = with_line_breaks(shown_field(seen.raw, delimiter));
+    const bool changed = composition.adapt || seen.raw.find('"') != seen.raw.npos;
+    if (changed) raw = cell_of_file(seen.raw, delimiter, composition.adapt);
     SourceNumber number =
-        shown.make(quoted || kept ? raw : seen.raw, seen.number, seen.name, seen.address);
+        shown.make(changed ? raw : seen.raw, seen.number, seen.name, seen.address);
     number.fate = fate_before_merge(seen.number, seen.numeric, seen.name, suppress_short_names);
     if (at == 0 && !header_counts(number.fate)) return;
     any = true;
@@ -108,6 +155,14 @@ std::size_t walk_file(const RecordTable& records, const SourceLines& source_line
     number.origin = entry_origin(at, 0);
     number.fate = Fate::kNoNumber;
     on_number(number);
+  }
+  UnreadRecords unread(records, delimiter, composition);
+  for (; at < records.size(); ++at) {
+    if (at == 0 || only_delimiters(records[at], delimiter)) continue;
+    SourceNumber number = shown.make("", "", "", "");
+    number.line = source_lines.line_of(at);
+    number.record = ++count;
+    unread.tell(at, number, on_number);
   }
   return count;
 }

@@ -36,7 +36,8 @@ struct SourceNumber {
 using OnSourceNumber = std::function<void(const SourceNumber&)>;
 
 /// A delimited file after its cleaning. Returns the count of records behind the header; records of
-/// nothing but delimiters do not count. `until` ends the walk before that record.
+/// nothing but delimiters do not count. Nothing was composed of the records from `until` on: their
+/// numbers are unread.
 std::size_t walk_file(const RecordTable& records, const SourceLines& source_lines, char delimiter,
                       const Composition& composition, const CleanNumber& clean,
                       bool suppress_short_names, std::size_t until,

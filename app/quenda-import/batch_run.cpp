@@ -82,7 +82,7 @@ class BatchRun {
   const BatchConsole& console_;
   int status_ = kExitRefused;
   std::string told_;       // what the last fault meant for the book
-  bool composed_ = false;  // the final list shows the whole source
+  bool composed_ = false;  // or tried to, as far as that went
   ReportFile report_;
 
   ProgressLine progress_;
@@ -160,7 +160,7 @@ void BatchRun::run() {
       choose_addresses();
     }
     go_on(Page::kEntries);
-    composed_ = !main_.composition_failed();
+    composed_ = true;
     write_or_show();
   } catch (const EndProgram&) {
     // The forms end the program in the end, and whenever they have to.
@@ -203,7 +203,7 @@ void BatchRun::give_account() {
   head.dry_run = options_.dry_run;
   if (composed_) {
     // A run that was refused half way is told as what it would have done.
-    if (link_.result().empty()) main_.look_ahead();
+    if (link_.result().empty() && !main_.composition_failed()) main_.look_ahead();
     head.records = main_.account([this](const ReportRow& row) { report_.add(row); });
   }
   head.result = account_result();

@@ -150,6 +150,24 @@ TEST_F(BatchRunTest, RefusalsNameTheReasonAndWriteNothing) {
   }
 }
 
+TEST_F(BatchRunTest, ACompositionThatEndsEarlyLeavesTheNumbersBehindItUnread) {
+  // The padding of short records ends at one with too many fields, so the composing ends at the
+  // next one that lacks a chosen column.
+  take_file(concat("Name;Ort;Tel\r\nFalk;Berlin;030 5550123\r\nFalk;Berlin;030 5550123\r\nX",
+                   std::string(40000, ';'), "\r\nMayr;Wien\r\nOtto;Graz;\"0431|555017\"\r\n"));
+  options_.columns = {};
+  options_.columns[kNames] = {"Name"};
+  options_.columns[kNumbers] = {"Tel"};
+  options_.report = "C:\\report.csv";
+  EXPECT_EQ(run(), kExitRefused);
+  const std::string report = machine_.files.content("C:\\report.csv");
+  EXPECT_THAT(report, HasSubstr("\r\n2;1;1;Falk;0305550123;030 5550123;;ungelesen;"));
+  EXPECT_THAT(report, HasSubstr("\r\n3;2;1;Falk;0305550123;030 5550123;;wiederholt;"));
+  EXPECT_THAT(report, HasSubstr("\r\n4;3;0;"));
+  EXPECT_THAT(report, HasSubstr("\r\n5;4;0;"));
+  EXPECT_THAT(report, HasSubstr("\r\n6;5;1;;;\"0431;555017\";;ungelesen;"));
+}
+
 TEST_F(BatchRunTest, FaultsAreReportedWithTheirProcedure) {
   take_file(kTwoContacts);
   machine_.files.refuse_reading(kFile, kFaultPermissionDenied);
