@@ -1,10 +1,12 @@
 #include "app/quenda-import/batch_run.h"
 
+#include <array>
 #include <istream>
 #include <optional>
 #include <ostream>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "app/fMain.h"
@@ -74,6 +76,7 @@ class BatchRun {
   /// Tells what became of every number of the source, where that is asked for.
   void give_account();
   [[nodiscard]] std::string account_result() const;
+  [[nodiscard]] std::vector<std::pair<std::string, std::string>> options_that_held() const;
   /// Presses "Weiter"; the page that comes has to be the given one.
   void go_on(Page page);
 
@@ -194,6 +197,23 @@ std::string BatchRun::account_result() const {
   return run->end == MergeRun::End::kToBeWritten ? "data" : "nodata";
 }
 
+std::vector<std::pair<std::string, std::string>> BatchRun::options_that_held() const {
+  const auto yes_no = [](bool yes) { return std::string(yes ? "yes" : "no"); };
+  constexpr std::array kExisting = {"ask", "new", "keep"};
+  std::vector<std::pair<std::string, std::string>> held;
+  if (!options_.outlook) held.emplace_back("convert", yes_no(main_.source.converted));
+  if (options_.auto_columns) held.emplace_back("columns", "auto");
+  for (std::size_t mode = 0; mode < kExisting.size(); ++mode) {
+    if (main_.optAsk(static_cast<int>(mode)).chosen()) {
+      held.emplace_back("existing", kExisting.at(mode));
+    }
+  }
+  held.emplace_back("min-name", yes_no(main_.chkNameLen.ticked()));
+  held.emplace_back("country", main_.txtStateCode.text());
+  held.emplace_back("area", main_.txtOVW.text());
+  return held;
+}
+
 void BatchRun::give_account() {
   if (!main_.wizard.account_wanted) return;
   ReportHead& head = report_.head;
@@ -201,6 +221,7 @@ void BatchRun::give_account() {
   head.file = options_.file;
   head.source = options_.outlook ? "outlook" : main_.source.IsISpyFile ? "ispy" : "file";
   head.dry_run = options_.dry_run;
+  head.options = options_that_held();
   if (composed_) {
     // A run that was refused half way is told as what it would have done.
     if (link_.result().empty() && !main_.composition_failed()) main_.look_ahead();
@@ -322,8 +343,12 @@ void BatchRun::choose_columns() {
     if (!main_.take_suggestion()) {
       refuse(u8"Die Kopfzeile der Datei ist von keinem bekannten Export (--columns auto)."_de);
     }
-    warn(unchosen_findings(unchosen_numbers(main_.header(), source.ImportRows, delimiter,
-                                            main_.ColumnPage::choice().numbers)));
+    const std::vector<UnchosenNumbers> unchosen = unchosen_numbers(
+        main_.header(), source.ImportRows, delimiter, main_.ColumnPage::choice().numbers);
+    warn(unchosen_findings(unchosen));
+    for (const UnchosenNumbers& column : unchosen) {
+      report_.head.unchosen.emplace_back(column.heading, column.count);
+    }
   }
   for (std::size_t kind = 0; kind < kHeaderKinds; ++kind) select_columns(kind);
   if (!main_.cmdFor.enabled()) refuse_columns();

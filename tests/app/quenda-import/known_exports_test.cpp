@@ -129,6 +129,11 @@ TEST_F(KnownExportsTest, ArriveWithNamesNumbersAndAddresses) {
   list_of_sample("outlook_de.csv");
   EXPECT_THAT(errors_.str(),
               HasSubstr("Warnung: 1 Nummern in 1 weiteren Spalten: Weiteres Telefon\n"));
+  options_.report = "C:\\report.json";
+  list_of_sample("outlook_de.csv");
+  EXPECT_THAT(machine_.files.content("C:\\report.json"),
+              testing::AllOf(HasSubstr("\"unchosen\":{\"Weiteres Telefon\":1}"),
+                             HasSubstr("\"convert\":\"yes\"")));
 }
 
 TEST_F(KnownExportsTest, TheSettingAdaptsWhereTheOptionSaysNothing) {
