@@ -17,8 +17,9 @@ constexpr char kQuote = '"';
 constexpr std::size_t kStepBytes = 64UL * 1024;
 constexpr std::size_t kPauseBytes = 1024UL * 1024;
 
-/// Builds the records inside the buffer that holds the text: what is written never overtakes what
-/// is read. Only quotes and line feeds need a look; what lies between them is moved as a whole.
+/// Builds the records inside the buffer that holds the text. Only quotes and line feeds need a look,
+/// and only a lone line feed goes: up to the first one everything stays where it is, and behind it
+/// what is written never overtakes what is read.
 class RecordBuilder {
  public:
   /// `begins`, where one is given, gets the places in the text as it was where the records after
@@ -27,7 +28,6 @@ class RecordBuilder {
       : text_(text),
         delimiter_(delimiter),
         marks_(text, kQuote, '\n'),
-        inside_quotes_(delimiter),
         begins_(begins) {}
 
   std::vector<std::size_t> build(const OnStep& on_step) {
@@ -61,21 +61,6 @@ class RecordBuilder {
   }
 
  private:
-  /// What becomes of the characters inside quotes.
-  class QuotedCharacters {
-   public:
-    explicit QuotedCharacters(char delimiter) {
-      for (std::size_t i = 0; i < of_.size(); ++i) of_[i] = static_cast<char>(i);
-      of_[index('\r')] = of_[index('\n')] = ' ';
-      of_[index(delimiter)] = '|';
-    }
-    char operator[](char c) const { return of_[index(c)]; }
-
-   private:
-    static std::size_t index(char c) { return static_cast<unsigned char>(c); }
-    std::array<char, 256> of_{};
-  };
-
   void put(char c) { text_[written_++] = c; }
 
   /// Moves what lies before a place, as it is.
@@ -86,15 +71,19 @@ class RecordBuilder {
     read_ = place;
   }
 
-  /// Moves what lies before a place inside quotes.
+  /// Moves what lies before a place inside quotes, where line breaks become blanks and delimiters
+  /// "|".
   void change_until(std::size_t place) {
-    // Plain pointers: through the text the compiler would load its address anew for each byte.
-    const char* from = text_.data() + read_;
-    const char* const end = text_.data() + place;
-    char* to = text_.data() + written_;
-    while (from != end) *to++ = inside_quotes_[*from++];
-    written_ += place - read_;
-    read_ = place;
+    // Plain values: through the members the compiler would load them anew for each byte.
+    char* at = text_.data() + written_;
+    const char delimiter = delimiter_;
+    move_until(place);
+    char* const end = text_.data() + written_;
+    for (; at != end; ++at) {
+      const char c = *at;
+      const char within_line = c == '\r' || c == '\n' ? ' ' : c;
+      *at = c == delimiter ? '|' : within_line;
+    }
   }
 
   /// Takes what lies before the next quote or line feed outside quotes, and the mark itself.
@@ -176,7 +165,7 @@ class RecordBuilder {
   /// A line feed ends a record with the CR before it; a lone one is dropped.
   void end_line() {
     if (written_ == starts_.back() || text_[written_ - 1] != '\r') return;
-    --written_;
+    put('\n');
     starts_.push_back(written_);
     if (begins_ != nullptr) begins_->push_back(read_);
     quoted_field_ = false;
@@ -190,13 +179,12 @@ class RecordBuilder {
     } else {
       text_.clear();
     }
-    starts_.push_back(text_.size());
+    starts_.push_back(text_.size() + kCrLf.size());
   }
 
   std::string& text_;
   char delimiter_;
   PlaceFinder marks_;
-  QuotedCharacters inside_quotes_;
   std::size_t read_ = 0;
   std::size_t written_ = 0;
   bool in_quotes_ = false;
@@ -277,7 +265,7 @@ RecordTable split_lines(std::shared_ptr<const std::string> text) {
   }
   if (starts.size() == 1) return {};
   starts.push_back(all.size() + kCrLf.size());
-  return {std::move(text), std::move(starts), kCrLf.size()};
+  return {std::move(text), std::move(starts)};
 }
 
 void remove_doubled_quotes(std::string& text, const std::function<void()>& pause) {
@@ -304,7 +292,7 @@ void remove_doubled_quotes(std::string& text, const std::function<void()>& pause
 RecordTable build_records(std::string text, char delimiter, const OnStep& on_step) {
   auto records = std::make_shared<std::string>(std::move(text));
   std::vector<std::size_t> starts = RecordBuilder(*records, delimiter).build(on_step);
-  return {std::move(records), std::move(starts), 0};
+  return {std::move(records), std::move(starts)};
 }
 
 SourceLines lines_of_records(std::string text, char delimiter, std::size_t records) {

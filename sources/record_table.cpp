@@ -11,14 +11,13 @@
 
 namespace quenda {
 
-RecordTable::RecordTable(std::shared_ptr<const std::string> text, std::vector<std::size_t> starts,
-                         std::size_t gap)
-    : text_(std::move(text)), starts_(std::move(starts)), gap_(gap) {}
+RecordTable::RecordTable(std::shared_ptr<const std::string> text, std::vector<std::size_t> starts)
+    : text_(std::move(text)), starts_(std::move(starts)) {}
 
 std::string_view RecordTable::operator[](std::size_t record) const {
   if (record >= size()) raise_fault(kFaultIndexRange);
   const std::size_t start = starts_[record];
-  return std::string_view(*text_).substr(start, starts_[record + 1] - gap_ - start);
+  return std::string_view(*text_).substr(start, starts_[record + 1] - kCrLf.size() - start);
 }
 
 void RecordTable::pad(std::size_t delimiters, std::size_t until) {

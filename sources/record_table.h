@@ -14,14 +14,13 @@ namespace quenda {
 class RecordTable {
  public:
   RecordTable() = default;
-  /// Records that lie one after another in `text`, `gap` bytes apart; `starts` has one more entry
-  /// than there are records, as if another record followed the last.
-  RecordTable(std::shared_ptr<const std::string> text, std::vector<std::size_t> starts,
-              std::size_t gap);
+  /// Records that lie in `text` one CR LF apart; `starts` has one more entry than there are records,
+  /// as if another record followed the last.
+  RecordTable(std::shared_ptr<const std::string> text, std::vector<std::size_t> starts);
 
   [[nodiscard]] std::size_t size() const { return starts_.empty() ? 0 : starts_.size() - 1; }
   [[nodiscard]] bool empty() const { return size() == 0; }
-  /// Bytes of all records together.
+  /// Bytes of all records and the line breaks between them.
   [[nodiscard]] std::size_t bytes() const { return starts_.empty() ? 0 : starts_.back(); }
   /// The record as it stands in the text, without what padding added. Fault 9 beyond the end.
   [[nodiscard]] std::string_view operator[](std::size_t record) const;
@@ -39,7 +38,6 @@ class RecordTable {
  private:
   std::shared_ptr<const std::string> text_;
   std::vector<std::size_t> starts_;
-  std::size_t gap_ = 0;
   std::size_t padding_ = 0;
   std::size_t padded_until_ = 0;
 };
