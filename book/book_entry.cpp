@@ -19,7 +19,7 @@ constexpr std::size_t kFields = 8;
 
 std::array<std::string_view, kFields> split_fields(std::string_view line) {
   std::array<std::string_view, kFields> fields;
-  PlaceFinder separators(line, ';', ';');
+  PlaceFinder separators(line, ';');
   std::size_t start = 0;
   for (std::string_view& field : fields) {
     if (start > line.size()) raise_fault(kFaultIndexRange);

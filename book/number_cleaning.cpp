@@ -1,5 +1,8 @@
 #include "book/number_cleaning.h"
 
+#include <array>
+#include <cstdint>
+
 #include "text/text.h"
 
 namespace quenda {
@@ -8,8 +11,20 @@ namespace {
 constexpr std::size_t kLongestLocalNumber = 8;
 constexpr std::size_t kShortestCode = 3;
 
-/// The characters that numbers are written with and that no number keeps.
-constexpr CharacterSet kPunctuation(" -()/\\,.[]\"\"+=?*#");
+/// What becomes of a character of a number.
+enum class Cleaning : std::uint8_t { kDropped, kKept, kDecided };
+
+constexpr std::array<Cleaning, 256> make_cleaning_table() {
+  std::array<Cleaning, 256> table{};
+  table.fill(Cleaning::kKept);
+  for (const char c : std::string_view(" -)/\\,.[]\"=?*#")) {
+    table[static_cast<unsigned char>(c)] = Cleaning::kDropped;
+  }
+  for (const char c : {'+', '('}) table[static_cast<unsigned char>(c)] = Cleaning::kDecided;
+  return table;
+}
+
+constexpr auto kCleaning = make_cleaning_table();
 
 /// Takes every occurrence of a part out.
 void remove_all(std::string& text, std::string_view part) {
@@ -26,12 +41,16 @@ void clean_number(std::string_view number, std::string_view own_country_code,
   char* to = cleaned.data() + 1;  // behind room for a leading "0"
   for (std::size_t i = 0; i < number.size(); ++i) {
     const char c = number[i];
-    if (!kPunctuation.contains(c)) {
-      *to++ = c;
-    } else if (c == '+') {
+    // Each one is put there, and the next one over it where it does not stay: digits and
+    // punctuation follow each other too irregularly for a branch.
+    const Cleaning cleaning = kCleaning[static_cast<unsigned char>(c)];
+    *to = c;
+    to += cleaning == Cleaning::kKept ? 1 : 0;
+    if (cleaning != Cleaning::kDecided) continue;
+    if (c == '+') {
       *to++ = '0';
       *to++ = '0';
-    } else if (c == '(' && i + 1 < number.size()) {
+    } else if (i + 1 < number.size()) {
       // "(0" goes as a whole. A "+" counts as "00", of which the second "0" stays.
       const char next = number[i + 1];
       if (next == '0' || next == '+') ++i;

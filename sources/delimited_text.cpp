@@ -17,18 +17,15 @@ constexpr char kQuote = '"';
 constexpr std::size_t kStepBytes = 64UL * 1024;
 constexpr std::size_t kPauseBytes = 1024UL * 1024;
 
-/// Builds the records inside the buffer that holds the text. Only quotes and line feeds need a look,
-/// and only a lone line feed goes: up to the first one everything stays where it is, and behind it
-/// what is written never overtakes what is read.
+/// Builds the records inside the buffer that holds the text. Only quotes and line feeds need a
+/// look, and only a lone line feed goes: up to the first one everything stays where it is, and
+/// behind it what is written never overtakes what is read.
 class RecordBuilder {
  public:
   /// `begins`, where one is given, gets the places in the text as it was where the records after
   /// the first begin.
   RecordBuilder(std::string& text, char delimiter, std::vector<std::size_t>* begins = nullptr)
-      : text_(text),
-        delimiter_(delimiter),
-        marks_(text, kQuote, '\n'),
-        begins_(begins) {}
+      : text_(text), delimiter_(delimiter), marks_(text, kQuote, '\n'), begins_(begins) {}
 
   std::vector<std::size_t> build(const OnStep& on_step) {
     const std::size_t size = text_.size();
@@ -184,7 +181,7 @@ class RecordBuilder {
 
   std::string& text_;
   char delimiter_;
-  PlaceFinder marks_;
+  PlaceFinder<2> marks_;
   std::size_t read_ = 0;
   std::size_t written_ = 0;
   bool in_quotes_ = false;

@@ -38,20 +38,29 @@ void RecordFields::split(const RecordTable& table, std::size_t record, char deli
   fields_.clear();
   padded_ = table.padded_delimiters(record);
   const std::string_view text = table[record];
-  PlaceFinder delimiters(text, delimiter, delimiter);
+  PlaceFinder marks(text, delimiter, '"', '\r', '\n');
+  std::size_t start = 0;
+  RecordField field;
   bool more = true;
-  for (std::size_t start = 0; more && fields_.size() <= last;) {
-    const std::size_t end = delimiters.next();
-    more = end < text.size();
-    fields_.push_back(text.substr(start, end - start));
-    start = end + 1;
+  while (more && fields_.size() <= last) {
+    const std::size_t mark = marks.next();
+    more = mark < text.size();
+    if (more && text[mark] != delimiter) {
+      (text[mark] == '"' ? field.quotes : field.breaks) = true;
+      continue;
+    }
+    field.text = {text.data() + start, mark - start};
+    fields_.push_back(field);
+    start = mark + 1;
+    field = {};
   }
   has_delimiter_ = more || fields_.size() > 1 || padded_ > 0;
 }
 
-std::string_view RecordFields::operator[](std::size_t position) const {
+const RecordField& RecordFields::operator[](std::size_t position) const {
+  static const RecordField kPadding;
   if (!has(position)) raise_fault(kFaultIndexRange);
-  return position < fields_.size() ? fields_[position] : std::string_view();
+  return position < fields_.size() ? fields_[position] : kPadding;
 }
 
 }  // namespace quenda

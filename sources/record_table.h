@@ -14,8 +14,8 @@ namespace quenda {
 class RecordTable {
  public:
   RecordTable() = default;
-  /// Records that lie in `text` one CR LF apart; `starts` has one more entry than there are records,
-  /// as if another record followed the last.
+  /// Records that lie in `text` one CR LF apart; `starts` has one more entry than there are
+  /// records, as if another record followed the last.
   RecordTable(std::shared_ptr<const std::string> text, std::vector<std::size_t> starts);
 
   [[nodiscard]] std::size_t size() const { return starts_.empty() ? 0 : starts_.size() - 1; }
@@ -42,13 +42,22 @@ class RecordTable {
   std::size_t padded_until_ = 0;
 };
 
+/// A field as it stands in its record.
+struct RecordField {
+  std::string_view text;
+  bool quotes = false;  // it has some
+  bool breaks = false;  // it has line breaks, or halves of them
+
+  [[nodiscard]] bool plain() const { return !quotes && !breaks; }
+};
+
 /// The fields of one record, split as far as asked for.
 class RecordFields {
  public:
   /// Splits the record up to the field at position `last`.
   void split(const RecordTable& table, std::size_t record, char delimiter, std::size_t last);
   /// The field at a position from 0; fault 9 when the record has no such field.
-  [[nodiscard]] std::string_view operator[](std::size_t position) const;
+  [[nodiscard]] const RecordField& operator[](std::size_t position) const;
   [[nodiscard]] bool has(std::size_t position) const {
     return position < fields_.size() || position <= padded_;
   }
@@ -56,7 +65,7 @@ class RecordFields {
   [[nodiscard]] bool has_delimiter() const { return has_delimiter_; }
 
  private:
-  std::vector<std::string_view> fields_;
+  std::vector<RecordField> fields_;
   std::size_t padded_ = 0;
   bool has_delimiter_ = false;
 };

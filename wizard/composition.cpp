@@ -11,6 +11,25 @@
 #include "text/text.h"
 
 namespace quenda {
+namespace {
+
+/// Adds a field as the cell of an entry has it: without quotes, with a blank for a line break.
+void append_cell(std::string& out, const RecordField& field) {
+  if (field.breaks) {
+    append_cell(out, {without_line_breaks(field.text), field.quotes});
+    return;
+  }
+  std::string_view text = field.text;
+  if (field.quotes) {
+    for (auto at = text.find('"'); at != text.npos; at = text.find('"')) {
+      out += text.substr(0, at);
+      text.remove_prefix(at + 1);
+    }
+  }
+  out += text;
+}
+
+}  // namespace
 
 std::string compose_name(std::string_view first, std::string_view second, bool flip) {
   return replace_all(concat(flip ? second : first, " ", flip ? first : second), "\"", "");
@@ -61,27 +80,10 @@ EntryComposer::EntryComposer(Composition composition, char delimiter, CleanNumbe
   }
 }
 
-void EntryComposer::append_cell(std::string& out, std::string_view field) const {
-  if (has_breaks_ && field.find_first_of("\r\n") != field.npos) {
-    append_cell(out, without_line_breaks(field));
-    return;
-  }
-  if (has_quotes_) {
-    for (auto at = field.find('"'); at != field.npos; at = field.find('"')) {
-      out += field.substr(0, at);
-      field.remove_prefix(at + 1);
-    }
-  }
-  out += field;
-}
-
 void EntryComposer::compose(const RecordTable& records, std::size_t record, FlatTable& entries) {
   name_.clear();
   fields_.split(records, record, delimiter_, last_column_);
   if (!fields_.has_delimiter()) return;
-  const std::string_view text = records[record];
-  has_quotes_ = text.find('"') != text.npos;
-  has_breaks_ = text.find('\r') != text.npos || text.find('\n') != text.npos;
   compose_name();
   const std::size_t rows = std::min(composition_.columns.numbers.size(), kNumberRows);
   for (std::size_t row = 0; row < rows; ++row) compose_numbers(record, row, entries);
@@ -90,7 +92,7 @@ void EntryComposer::compose(const RecordTable& records, std::size_t record, Flat
 void EntryComposer::compose_name() {
   const ColumnChoice& columns = composition_.columns;
   const auto name_part = [&](std::size_t part) {
-    return part < columns.names.size() ? fields_[columns.names[part]] : std::string_view();
+    return part < columns.names.size() ? fields_[columns.names[part]] : RecordField();
   };
   append_cell(name_, name_part(composition_.flip_name ? 1 : 0));
   name_ += ' ';
@@ -111,14 +113,19 @@ void EntryComposer::compose_name() {
 }
 
 void EntryComposer::compose_numbers(std::size_t record, std::size_t row, FlatTable& entries) {
-  number_.clear();
-  append_cell(number_, fields_[composition_.columns.numbers[row]]);
-  if (number_.empty()) return;
+  const RecordField& field = fields_[composition_.columns.numbers[row]];
+  std::string_view cell = field.text;
+  if (!field.plain()) {
+    number_.clear();
+    append_cell(number_, field);
+    cell = number_;
+  }
+  if (cell.empty()) return;
   if (!composition_.adapt) {
-    clean_(number_, cleaned_);
+    clean_(cell, cleaned_);
     return add_entry(record, row, cleaned_, entries);
   }
-  for (const std::string& number : numbers_in_cell(number_, delimiter_)) {
+  for (const std::string& number : numbers_in_cell(cell, delimiter_)) {
     clean_(number, cleaned_);
     add_entry(record, row, cleaned_, entries);
   }
@@ -132,11 +139,12 @@ void EntryComposer::add_entry(std::size_t record, std::size_t row, std::string_v
   const bool numeric = is_numeric(number);
   if (!numeric && !on_number) return;
   const std::size_t name_size = name_.size();
+  const std::string& suffix = composition_.suffixes[row];
   // A suffix alone is no name.
-  if (!nameless_) name_.append(" ").append(composition_.suffixes[row]);
+  if (!suffix.empty() && !nameless_) name_.append(" ").append(suffix);
   const std::string_view name = trim(name_);
   if (on_number) {
-    const std::string_view raw = fields_[composition_.columns.numbers[row]];
+    const std::string_view raw = fields_[composition_.columns.numbers[row]].text;
     on_number({row, raw, number, name, address, numeric});
   }
   if (numeric) entries.add_row(std::array{name, number, address}, entry_origin(record, row + 1));
@@ -147,7 +155,7 @@ std::string_view EntryComposer::address_of(std::size_t row) {
   const Binding binding = composition_.bindings[row];
   if (binding == Binding::kNone) return {};
   const auto& positions = composition_.columns.addresses[binding == Binding::kAddress2 ? 1 : 0];
-  std::array<std::string_view, kAddressParts> parts;
+  std::array<RecordField, kAddressParts> parts;
   for (std::size_t i = 0; i < std::min(positions.size(), parts.size()); ++i) {
     parts[i] = fields_[positions[i]];
   }

@@ -93,16 +93,12 @@ class EntryComposer {
   void compose_numbers(std::size_t record, std::size_t row, FlatTable& entries);
   void add_entry(std::size_t record, std::size_t row, std::string_view number, FlatTable& entries);
   [[nodiscard]] std::string_view address_of(std::size_t row);
-  /// Adds a field as the cell of an entry has it: without quotes, with a blank for a line break.
-  void append_cell(std::string& out, std::string_view field) const;
 
   Composition composition_;
   char delimiter_;
   CleanNumber clean_;
   std::size_t last_column_ = 0;
   RecordFields fields_;
-  bool has_quotes_ = false;  // the record that is being composed
-  bool has_breaks_ = false;
   std::string name_;
   std::string number_;
   std::string cleaned_;

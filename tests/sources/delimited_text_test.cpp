@@ -127,8 +127,8 @@ TEST(PadRecords, FillsShortRecordsAndLeavesLongOnes) {
   EXPECT_EQ(table.padded_text(2, ';'), "1;2;3;4");
   RecordFields fields;
   fields.split(table, 1, ';', 2);
-  EXPECT_EQ(fields[0], "1");
-  EXPECT_EQ(fields[2], "");
+  EXPECT_EQ(fields[0].text, "1");
+  EXPECT_EQ(fields[2].text, "");
   EXPECT_THROW(static_cast<void>(fields[3]), RuntimeFault);
 }
 

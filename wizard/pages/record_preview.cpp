@@ -23,7 +23,7 @@ std::string RecordPreview::cell(std::size_t row, std::size_t column) const {
   RecordFields fields;
   fields.split(*records_, row + 1, delimiter_, column);
   if (!fields.has(column)) return {};
-  const std::string shown = shown_field(fields[column], delimiter_);
+  const std::string shown = shown_field(fields[column].text, delimiter_);
   return converted_ ? in_one_line(shown) : shown;
 }
 
