@@ -26,19 +26,8 @@ constexpr std::array<Cleaning, 256> make_cleaning_table() {
 
 constexpr auto kCleaning = make_cleaning_table();
 
-/// Takes every occurrence of a part out.
-void remove_all(std::string& text, std::string_view part) {
-  for (auto at = text.find(part); at != text.npos; at = text.find(part, at)) {
-    text.erase(at, part.size());
-  }
-}
-
-}  // namespace
-
-void clean_number(std::string_view number, std::string_view own_country_code,
-                  std::string& cleaned) {
-  cleaned.resize(2 * number.size() + 1);
-  char* to = cleaned.data() + 1;  // behind room for a leading "0"
+/// Puts the number there with "00" for "+" and without punctuation; returns where it ends.
+char* put_without_punctuation(std::string_view number, char* to) {
   for (std::size_t i = 0; i < number.size(); ++i) {
     const char c = number[i];
     // Each one is put there, and the next one over it where it does not stay: digits and
@@ -57,19 +46,43 @@ void clean_number(std::string_view number, std::string_view own_country_code,
       if (next == '+') *to++ = '0';
     }
   }
-  cleaned.resize(static_cast<std::size_t>(to - cleaned.data()));
-  if (!own_country_code.empty() &&
-      std::string_view(cleaned).substr(1).starts_with(own_country_code)) {
-    cleaned.erase(0, 1);
-    remove_all(cleaned, own_country_code);
-    cleaned.insert(0, 1, '0');
+  return to;
+}
+
+/// Puts a text there without any occurrence of a part; returns where it ends. It may be the place
+/// where the text stands.
+char* put_without(std::string_view text, std::string_view part, char* to) {
+  while (!text.empty()) {
+    if (text.front() == part.front() && text.starts_with(part)) {
+      text.remove_prefix(part.size());
+    } else {
+      *to++ = text.front();
+      text.remove_prefix(1);
+    }
   }
-  const bool leading_zero = cleaned.size() > 1 && cleaned[1] == '0';
-  if (leading_zero) {
-    cleaned.erase(0, 1);
-  } else {
-    cleaned[0] = '0';
+  return to;
+}
+
+}  // namespace
+
+void clean_number(std::string_view number, std::string_view own_country_code,
+                  std::string& cleaned) {
+  // Most numbers are short: for them the text's memory is not cleared first, only to be
+  // overwritten.
+  std::array<char, 128> few;  // NOLINT(cppcoreguidelines-pro-type-member-init): cleared for nothing
+  std::string many;
+  const std::size_t size = 2 * number.size() + 1;
+  if (size > few.size()) many.resize(size);
+  char* const room = size > few.size() ? many.data() : few.data();
+  char* const first = room + 1;  // behind room for a leading "0"
+  char* end = put_without_punctuation(number, first);
+  const std::string_view all(first, static_cast<std::size_t>(end - first));
+  if (!own_country_code.empty() && all.starts_with(own_country_code)) {
+    end = put_without(all, own_country_code, first);
   }
+  *room = '0';
+  const char* const start = end > first && *first == '0' ? first : room;
+  cleaned.assign(start, static_cast<std::size_t>(end - start));
 }
 
 std::string clean_number(std::string_view number, std::string_view own_country_code) {

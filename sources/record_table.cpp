@@ -35,14 +35,15 @@ std::string RecordTable::padded_text(std::size_t record, char delimiter) const {
 
 void RecordFields::split(const RecordTable& table, std::size_t record, char delimiter,
                          std::size_t last) {
-  fields_.clear();
+  fields_.resize(std::max(fields_.size(), last + 1));
+  count_ = 0;
   padded_ = table.padded_delimiters(record);
   const std::string_view text = table[record];
   PlaceFinder marks(text, delimiter, '"', '\r', '\n');
   std::size_t start = 0;
   RecordField field;
   bool more = true;
-  while (more && fields_.size() <= last) {
+  while (more && count_ <= last) {
     const std::size_t mark = marks.next();
     more = mark < text.size();
     if (more && text[mark] != delimiter) {
@@ -50,17 +51,17 @@ void RecordFields::split(const RecordTable& table, std::size_t record, char deli
       continue;
     }
     field.text = {text.data() + start, mark - start};
-    fields_.push_back(field);
+    fields_[count_++] = field;
     start = mark + 1;
     field = {};
   }
-  has_delimiter_ = more || fields_.size() > 1 || padded_ > 0;
+  has_delimiter_ = more || count_ > 1 || padded_ > 0;
 }
 
 const RecordField& RecordFields::operator[](std::size_t position) const {
   static const RecordField kPadding;
   if (!has(position)) raise_fault(kFaultIndexRange);
-  return position < fields_.size() ? fields_[position] : kPadding;
+  return position < count_ ? fields_[position] : kPadding;
 }
 
 }  // namespace quenda

@@ -59,13 +59,14 @@ class RecordFields {
   /// The field at a position from 0; fault 9 when the record has no such field.
   [[nodiscard]] const RecordField& operator[](std::size_t position) const;
   [[nodiscard]] bool has(std::size_t position) const {
-    return position < fields_.size() || position <= padded_;
+    return position < count_ || position <= padded_;
   }
   /// Whether the record, padding included, contains the delimiter.
   [[nodiscard]] bool has_delimiter() const { return has_delimiter_; }
 
  private:
-  std::vector<RecordField> fields_;
+  std::vector<RecordField> fields_;  // more than the record has, where others had more
+  std::size_t count_ = 0;
   std::size_t padded_ = 0;
   bool has_delimiter_ = false;
 };

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <cstring>
 #include <string_view>
+#include <utility>
 
 #if defined(__SSE2__) || defined(_M_X64)
 #include <emmintrin.h>
@@ -23,7 +24,7 @@ class PlaceFinder {
  public:
   template <std::same_as<char>... Characters>
   explicit PlaceFinder(std::string_view text, Characters... characters)
-      : text_(text), characters_{characters...} {}
+      : text_(text), patterns_{pattern(characters)...} {}
 
   /// The next place of one of the characters; the size of the text when there is none left.
   std::size_t next() {
@@ -39,6 +40,14 @@ class PlaceFinder {
 
  private:
   static constexpr std::size_t kBlock = 16;
+  /// A character in all places of a block.
+  using Pattern = std::array<char, kBlock>;
+
+  static Pattern pattern(char character) {
+    Pattern result{};
+    result.fill(character);
+    return result;
+  }
 
   /// One bit for each of the sixteen bytes from a place on that is one of the characters.
   [[nodiscard]] std::uint32_t look_at(std::size_t start) const {
@@ -50,20 +59,26 @@ class PlaceFinder {
   }
 
 #ifdef QUENDA_SSE2
+  static __m128i load(const char* block) {
+    return _mm_loadu_si128(reinterpret_cast<const __m128i*>(block));
+  }
   [[nodiscard]] std::uint32_t matches(const char* block) const {
-    const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(block));
-    __m128i hits = _mm_setzero_si128();
-    for (const char c : characters_) {
-      hits = _mm_or_si128(hits, _mm_cmpeq_epi8(bytes, _mm_set1_epi8(c)));
+    const __m128i bytes = load(block);
+    // Not a loop, so that the compiler keeps the patterns in registers.
+    const auto hits = [&]<std::size_t... I>(std::index_sequence<I...>) {
+      __m128i any = _mm_setzero_si128();
+      ((any = _mm_or_si128(any, _mm_cmpeq_epi8(bytes, load(patterns_[I].data())))), ...);
+      return any;
     }
+    (std::make_index_sequence<kCharacters>());
     return static_cast<std::uint32_t>(_mm_movemask_epi8(hits));
   }
 #else
   [[nodiscard]] std::uint32_t matches(const char* block) const {
     std::uint32_t bits = 0;
     for (std::size_t i = 0; i < kBlock; ++i) {
-      for (const char c : characters_) {
-        if (block[i] == c) bits |= 1U << i;
+      for (const Pattern& pattern : patterns_) {
+        if (block[i] == pattern[i]) bits |= 1U << i;
       }
     }
     return bits;
@@ -71,7 +86,7 @@ class PlaceFinder {
 #endif
 
   std::string_view text_;
-  std::array<char, kCharacters> characters_;
+  std::array<Pattern, kCharacters> patterns_;
   std::size_t block_ = 0;    // where the block to be looked at next begins
   std::uint32_t found_ = 0;  // places of the block before it that have not been returned
 };
