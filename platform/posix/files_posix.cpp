@@ -116,13 +116,17 @@ std::string PosixFiles::read(std::string_view path) const {
   if (S_ISDIR(file.status().st_mode)) raise_fault(kFaultPathAccess);
   check_size(file.size());
   // One byte more than the size: the read that fills it short also finds the end. Pipes and files
-  // that grow meanwhile are read on until they end.
+  // that grow meanwhile are read on until they end. The text grows part by part, so that the zeros
+  // it is filled with at first are overwritten while they are still in the cache.
   constexpr std::size_t kMinimum = 4096;
+  constexpr std::size_t kPart = 256UL * 1024;
   std::string content;
   std::size_t filled = 0;
-  content.resize(std::max<std::size_t>(static_cast<std::size_t>(file.size()) + 1, kMinimum));
+  content.reserve(std::max<std::size_t>(static_cast<std::size_t>(file.size()) + 1, kMinimum));
   for (;;) {
-    if (filled == content.size()) content.resize(content.size() * 2);
+    if (filled == content.size()) {
+      content.resize(filled + std::clamp(content.capacity() - filled, kMinimum, kPart));
+    }
     const ssize_t done =
         ::read(file.descriptor(), content.data() + filled, content.size() - filled);
     if (done < 0 && errno == EINTR) continue;
