@@ -140,9 +140,10 @@ MergeRun::End fMain::write_book(MergeRun& run) {
 }
 
 bool fMain::book_readable(std::string_view book) {
-  book_line_end = line_end_of(book);
+  const LineBreaks breaks = count_line_breaks(book);
+  book_line_end = line_end_of(book, breaks);
   if (book_line_end == LineEnd::kLf) StatusBar.set_panel(3, texts["Import_Info_BookHasLf"]);
-  const std::size_t joined = line_of_joined_entries(book, book_line_end);
+  const std::size_t joined = line_of_joined_entries(book, book_line_end, breaks);
   if (joined == 0) return true;
   app_.message_box(concat(texts["Import_Msg_BookLineEnds"], kCrLf,
                           texts["Import_Msg_BookLineWithoutEnd"], " ", std::to_string(joined)),

@@ -89,8 +89,9 @@ void import(const std::string& contacts, const std::string& book, Times& times) 
   times.run("final list", [&] { rows = entry_rows(std::move(rows), true, kNoStep); });
   LineEnd end = LineEnd::kCrLf;
   times.run("line ends", [&] {
-    end = line_end_of(book);
-    (void)line_of_joined_entries(book, end);
+    const LineBreaks breaks = count_line_breaks(book);
+    end = line_end_of(book, breaks);
+    (void)line_of_joined_entries(book, end, breaks);
   });
   BookList list(book, end, rows);
   std::string_view line;

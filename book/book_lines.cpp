@@ -40,7 +40,8 @@ bool has_all_fields(std::string_view piece) {
 }
 
 std::size_t lines_before(std::string_view text) {
-  return count_of(text, '\r') + count_of(text, '\n') - count_line_ends(text);
+  const LineBreaks breaks = count_line_breaks(text);
+  return breaks.cr + breaks.lf - breaks.pairs;
 }
 
 /// Where in the line a second entry begins; npos for a line that holds one entry or none.
@@ -57,8 +58,8 @@ std::size_t second_entry(std::string_view line) {
 
 }  // namespace
 
-LineEnd line_end_of(std::string_view book) {
-  const bool turned = count_line_ends(book) == 0 && find_outside_cards(book, "\n") != book.npos;
+LineEnd line_end_of(std::string_view book, const LineBreaks& breaks) {
+  const bool turned = breaks.pairs == 0 && find_outside_cards(book, "\n") != book.npos;
   return turned ? LineEnd::kLf : LineEnd::kCrLf;
 }
 
@@ -71,11 +72,8 @@ bool BookLines::next(std::string_view& line) {
   return true;
 }
 
-std::size_t line_of_joined_entries(std::string_view book, LineEnd end) {
-  const std::size_t pairs = count_line_ends(book);
-  if (count_of(book, '\r') == pairs && (end == LineEnd::kLf || count_of(book, '\n') == pairs)) {
-    return 0;
-  }
+std::size_t line_of_joined_entries(std::string_view book, LineEnd end, const LineBreaks& breaks) {
+  if (end == LineEnd::kLf ? breaks.cr == breaks.pairs : breaks.only_pairs()) return 0;
   BookLines lines(book, end);
   for (std::string_view line; lines.next(line);) {
     const std::size_t second = second_entry(line);

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "text/fault.h"
+#include "text/line_breaks.h"
 #include "text/place_finder.h"
 #include "text/text.h"
 
@@ -25,7 +26,11 @@ class RecordBuilder {
   /// `begins`, where one is given, gets the places in the text as it was where the records after
   /// the first begin.
   RecordBuilder(std::string& text, char delimiter, std::vector<std::size_t>* begins = nullptr)
-      : text_(text), delimiter_(delimiter), marks_(text, kQuote, '\n'), begins_(begins) {}
+      : text_(text),
+        delimiter_(delimiter),
+        marks_(text, kQuote, '\n'),
+        inside_quotes_(delimiter),
+        begins_(begins) {}
 
   std::vector<std::size_t> build(const OnStep& on_step) {
     const std::size_t size = text_.size();
@@ -58,6 +63,21 @@ class RecordBuilder {
   }
 
  private:
+  /// What becomes of the characters inside quotes.
+  class QuotedCharacters {
+   public:
+    explicit QuotedCharacters(char delimiter) {
+      for (std::size_t i = 0; i < of_.size(); ++i) of_[i] = static_cast<char>(i);
+      of_[index('\r')] = of_[index('\n')] = ' ';
+      of_[index(delimiter)] = '|';
+    }
+    char operator[](char c) const { return of_[index(c)]; }
+
+   private:
+    static std::size_t index(char c) { return static_cast<unsigned char>(c); }
+    std::array<char, 256> of_{};
+  };
+
   void put(char c) { text_[written_++] = c; }
 
   /// Moves what lies before a place, as it is.
@@ -71,16 +91,11 @@ class RecordBuilder {
   /// Moves what lies before a place inside quotes, where line breaks become blanks and delimiters
   /// "|".
   void change_until(std::size_t place) {
-    // Plain values: through the members the compiler would load them anew for each byte.
+    // Plain pointers: through the text the compiler would load its address anew for each byte.
     char* at = text_.data() + written_;
-    const char delimiter = delimiter_;
     move_until(place);
     char* const end = text_.data() + written_;
-    for (; at != end; ++at) {
-      const char c = *at;
-      const char within_line = c == '\r' || c == '\n' ? ' ' : c;
-      *at = c == delimiter ? '|' : within_line;
-    }
+    for (; at != end; ++at) *at = inside_quotes_[*at];
   }
 
   /// Takes what lies before the next quote or line feed outside quotes, and the mark itself.
@@ -182,6 +197,7 @@ class RecordBuilder {
   std::string& text_;
   char delimiter_;
   PlaceFinder<2> marks_;
+  QuotedCharacters inside_quotes_;
   std::size_t read_ = 0;
   std::size_t written_ = 0;
   bool in_quotes_ = false;
@@ -293,10 +309,8 @@ RecordTable build_records(std::string text, char delimiter, const OnStep& on_ste
 }
 
 SourceLines lines_of_records(std::string text, char delimiter, std::size_t records) {
-  const std::size_t ends = count_line_ends(text);
-  const bool regular =
-      ends + 1 == records && count_of(text, '\n') == ends && count_of(text, '\r') == ends;
-  if (regular) return {};
+  const LineBreaks breaks = count_line_breaks(text);
+  if (breaks.pairs + 1 == records && breaks.only_pairs()) return {};
   remove_doubled_quotes(text);
   std::string built = text;
   std::vector<std::size_t> begins;

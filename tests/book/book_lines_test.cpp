@@ -46,7 +46,8 @@ TEST(BookLines, TwoEntriesInALineAreFound) {
       {a + "\r\n" + b + "[vcd(" + b + "\n" + b + ")vcd]\r\n", 0},
   };
   for (const auto& [book, line] : cases) {
-    EXPECT_EQ(line_of_joined_entries(book, line_end_of(book)), line) << book;
+    EXPECT_EQ(line_of_joined_entries(book, line_end_of(book), count_line_breaks(book)), line)
+        << book;
   }
 }
 

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
 #include <string_view>
 
 namespace quenda {
@@ -26,6 +27,13 @@ TEST(CleanNumber, IsInDiallingForm) {
       {"0800 PIZZA", "0049", "0800PIZZA"},
   };
   for (const Case& c : cases) EXPECT_EQ(clean_number(c.number, c.country), c.cleaned) << c.number;
+}
+
+TEST(CleanNumber, TakesNumbersOfAnyLength) {
+  for (std::size_t size = 60; size < 70; ++size) {
+    EXPECT_EQ(clean_number(std::string(size, '+'), ""), std::string(2 * size, '0'));
+    EXPECT_EQ(clean_number(std::string(size, '1'), ""), "0" + std::string(size, '1'));
+  }
 }
 
 TEST(AddAreaCode, CompletesShortLocalNumbersOnly) {
