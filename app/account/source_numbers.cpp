@@ -84,9 +84,10 @@ class UnreadRecords {
     bool any = false;
     for (std::size_t row = 0; row < std::min(columns.size(), kNumberRows); ++row) {
       if (!fields_.has(columns[row])) continue;
-      const std::string cell = replace_all(fields_[columns[row]], "\"", "");
+      const std::string cell = replace_all(fields_[columns[row]].text, "\"", "");
       if (cell.empty()) continue;
-      const std::string raw = cell_of_file(fields_[columns[row]], delimiter_, composition_.adapt);
+      const std::string raw =
+          cell_of_file(fields_[columns[row]].text, delimiter_, composition_.adapt);
       number.raw = raw;
       number.row = static_cast<int>(row) + 1;
       number.origin = entry_origin(at, row + 1);
