@@ -7,13 +7,18 @@
 #include <vector>
 
 #include "app/account/source_numbers.h"
+#include "app/backup/book_backup.h"
 #include "app/merge_run.h"
+#include "book/book_change.h"
 #include "book/book_lines.h"
 #include "book/entry_list.h"
 #include "book/import_report.h"
 #include "book/merge.h"
 #include "book/pages/entry_hints.h"
 #include "book/pages/entry_page.h"
+#include "book/pages/way_back.h"
+#include "platform/files.h"
+#include "settings/result_settings.h"
 #include "sources/pages/outlook_page.h"
 #include "sources/pages/source_page.h"
 #include "text/flat_table.h"
@@ -38,7 +43,8 @@ class fMain : public WizardShell,
               public AddressPage,
               public EntryPage,
               public OutlookPage,
-              public EntryHints {
+              public EntryHints,
+              public WayBack {
  public:
   explicit fMain(App& services);
   ~fMain() override;
@@ -72,14 +78,21 @@ class fMain : public WizardShell,
   [[nodiscard]] bool ListUpdate();
   void Add();
 
+  /// Takes the last import back that has copied the book, and says how far that went. False after a
+  /// fault, which the user has been told.
+  bool take_back_import();
+
   // What becomes of every number of the source.
   /// Merges as Add does and writes nothing; questions are found, not put. Whether the book could be
   /// read.
   bool look_ahead();
   /// Tells of every number of the source, by the merge that ran last. Returns the count of records.
   std::size_t account(const std::function<void(const ReportRow&)>& on_row);
+  /// Writes the report that the settings want about the merge that ran last.
+  void write_report();
   [[nodiscard]] const MergeRun* last_merge() const { return last_merge_.get(); }
 
+  ResultSettings result_settings;
   LineEnd book_line_end = LineEnd::kCrLf;  // of the book that was read last
 
  private:
@@ -101,16 +114,28 @@ class fMain : public WizardShell,
   MergeRun::End merge_into_book(MergeRun& run, const AskAboutDouble& ask);
   MergeRun::End write_book(MergeRun& run);
   MergeRun::End merge_and_write(MergeRun& run);
+  [[nodiscard]] TailTexts book_texts() const;
+  [[nodiscard]] BookBackup book_backup();
+  ReplaceResult replace_book(const MergeRun& run, const BookChange& change);
+  ReplaceResult back_up_and_replace(const MergeRun& run, const BookChange& change);
+  /// The button for the way back, where there is one.
+  void show_way_back();
+  void ask_and_take_back();
+  void tell_of(const BookBackup::Outcome& outcome, const std::string& folder);
   /// False when the book cannot be read without losing entries; the user has been told then.
   bool book_readable(std::string_view book);
   DoubleAnswer ask_about_double(std::string_view number, const std::string& existing,
                                 const std::string& fresh);
 
+  /// Whether the settings want a report that can be written; the user is told when it cannot.
+  [[nodiscard]] bool report_possible();
+  void tell_no_report();
   SourceLines source_lines();
   std::size_t walk_source(const SourceLines& lines, const OnSourceNumber& on_number);
 
   App& app_;
   bool book_written_ = false;
+  bool report_wanted_ = false;
   std::unique_ptr<MergeRun> last_merge_;
   std::size_t composed_records_ = 0;  // of a file, by the last composition
   FlatTable entries_{kEntryColumns};  // being collected; the final list takes them over

@@ -1,12 +1,16 @@
 #include <string_view>
 
 #include "app/account/import_account.h"
+#include "app/account/report_file.h"
 #include "app/fMain.h"
 #include "platform/files.h"
 #include "settings/app.h"
+#include "settings/result_text.h"
 #include "sources/delimited_text.h"
 #include "support/procedure.h"
 #include "text/entry_origin.h"
+#include "text/text.h"
+#include "wizard/shell/busy.h"
 
 namespace quenda {
 
@@ -71,6 +75,37 @@ std::size_t fMain::account(const std::function<void(const ReportRow&)>& on_row) 
        .line_of_row = line_of_row,
        .name_in_book = [&](std::size_t entry) { return run->list->contact(entry).name; }},
       on_row);
+}
+
+bool fMain::report_possible() {
+  const ReportFile report(result_settings.report);
+  if (!report.wanted() || report.on_terminal()) return false;
+  const std::string path = source.kind() == Source::kOutlook ? "" : txtImpFile.text();
+  const bool possible =
+      report.trouble(app_.machine.files, path, app_.paths.book_file()) == ReportTrouble::kNone;
+  if (!possible) tell_no_report();
+  return possible;
+}
+
+void fMain::tell_no_report() {
+  app_.message_box(
+      replace_all(result_text(app_, "Import_Msg_ReportFailed"), "%1", result_settings.report),
+      MessageStyle::kExclamation);
+}
+
+void fMain::write_report() {
+  const bool written = procedure(app_.errors, "fMain.write_report", {}, [&] {
+    const BusyWork busy(*this);
+    const bool outlook = source.kind() == Source::kOutlook;
+    ReportFile report(result_settings.report);
+    report.head.version = app_.version();
+    report.head.file = outlook ? "" : txtImpFile.text();
+    report.head.source = outlook ? "outlook" : source.IsISpyFile ? "ispy" : "file";
+    report.head.result = last_merge_->end == MergeRun::End::kWritten ? "data" : "nodata";
+    report.head.records = account([&](const ReportRow& row) { report.add(row); });
+    report.write(app_.machine.files);
+  });
+  if (!written) tell_no_report();
 }
 
 }  // namespace quenda

@@ -21,6 +21,8 @@ void fMain::LoadPageOptions() {
     EntryPage::load(app_.settings);
     SourcePage::load(app_.settings);
     OutlookPage::load(app_.settings);
+    result_settings = load_result_settings(app_.ini);
+    chkBackup.set_ticked(result_settings.backup);
   }).or_go_on();
 }
 
@@ -65,6 +67,7 @@ void fMain::SaveOptions(bool delimited_file) {
     SourcePage::save(app_.settings);
     OutlookPage::save(app_.settings);
     save_page_options(app_.ini, app_.settings);
+    save_backup(app_.ini, chkBackup.ticked());
     if (!delimited_file) return;
     NamePage::save(app_.settings);
     AddressPage::save(app_.settings);

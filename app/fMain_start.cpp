@@ -28,9 +28,11 @@ fMain::fMain(App& services)
       EntryPage(static_cast<WizardShell&>(*this)),
       OutlookPage(static_cast<WizardShell&>(*this), static_cast<SourcePage&>(*this)),
       EntryHints(static_cast<WizardShell&>(*this), static_cast<EntryPage&>(*this)),
+      WayBack(static_cast<WizardShell&>(*this)),
       app_(services) {
   for (Control* control : {static_cast<Control*>(&labFacts), static_cast<Control*>(&chkConvert),
-                           static_cast<Control*>(&labTable), static_cast<Control*>(&cmdSuggest)}) {
+                           static_cast<Control*>(&labTable), static_cast<Control*>(&cmdSuggest),
+                           static_cast<Control*>(&chkBackup), static_cast<Control*>(&cmdUndo)}) {
     move_to_end(*control);
   }
   connect();
@@ -41,6 +43,7 @@ fMain::~fMain() = default;
 void fMain::connect() {
   cmdFor.on_click = [this] { cmdFor_Click(); };
   on_compose = [this] { compose_again(); };
+  on_undo = [this] { ask_and_take_back(); };
   cmdCancel.on_click = [this] { cmdCancel_Click(); };
   on_suggestion = [this](const ColumnSuggestion& suggestion) { adopt(suggestion); };
   on_remembered = [this](const HeaderChoice& choice) { adopt(choice); };
@@ -66,6 +69,7 @@ void fMain::Form_Load() {
     ShowSite();
     refresh_buttons();
     open_choice(true);
+    show_way_back();
     cmbLimiter.set_items({"Semikolon", "Komma", "Tabulator"});
     txtStateCode.set_text(app_.settings.dialled_country_code());
     txtOVW.set_text(app_.settings.dialled_area_code());
@@ -144,6 +148,7 @@ void fMain::Language() {
     EntryPage::load_captions();
     OutlookPage::load_captions();
     EntryHints::load_captions();
+    WayBack::load_captions();
   }).or_go_on();
 }
 

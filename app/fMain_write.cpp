@@ -9,7 +9,6 @@
 #include "book/book_list.h"
 #include "book/pages/fImportMsg.h"
 #include "book/pages/modImport.h"
-#include "book/unreadable_lines.h"
 #include "platform/controls/events.h"
 #include "platform/files.h"
 #include "settings/app.h"
@@ -31,20 +30,12 @@ std::string line_for_report(std::string_view book, std::string_view line) {
                 line.substr(0, kMostCharacters), line.size() > kMostCharacters ? "..." : "");
 }
 
-/// What is said of the book when it could not be written.
-TailTexts book_texts(const MainTexts& texts) {
-  return {.unchanged = texts["Import_Msg_BookUnchanged"],
-          .longer = texts["Import_Msg_BookLonger"],
-          .damaged = texts["Import_Msg_BookDamaged"],
-          .rest = texts["Import_Msg_BookRestAtEnd"],
-          .large = texts["Import_Msg_BookTooLarge"]};
-}
-
 }  // namespace
 
 void fMain::Add() {
   last_merge_ = std::make_unique<MergeRun>();
   MergeRun& run = *last_merge_;
+  report_wanted_ = report_possible();
   const bool done = procedure_with_own_report(
       app_.errors, "fMain.Add", {}, [&] { run.end = merge_and_write(run); },
       [&](const RuntimeFault& fault, int statement) {
@@ -72,12 +63,21 @@ void fMain::Add() {
     app_.message_box(texts["Import_Msg_BookChanged"], MessageStyle::kExclamation);
     return;
   }
+  if (report_wanted_) write_report();
   if (!wizard.link_open) {
     app_.message_box(
         concat(texts["Import_Msg_DDENotConnect"], kCrLf, texts["Import_Msg_RefreshInfo"]),
         MessageStyle::kInformation);
   }
   unload();
+}
+
+TailTexts fMain::book_texts() const {
+  return {.unchanged = texts["Import_Msg_BookUnchanged"],
+          .longer = texts["Import_Msg_BookLonger"],
+          .damaged = texts["Import_Msg_BookDamaged"],
+          .rest = texts["Import_Msg_BookRestAtEnd"],
+          .large = texts["Import_Msg_BookTooLarge"]};
 }
 
 MergeRun::End fMain::merge_and_write(MergeRun& run) {
@@ -97,6 +97,7 @@ MergeRun::End fMain::merge_into_book(MergeRun& run, const AskAboutDouble& ask) {
       return MergeRun::End::kFailed;
     }
     StatusBar.set_panel(2, texts["Import_Info_LoadBook"]);
+    run.has_book = true;
     run.book = app_.machine.files.read(app_.paths.book_file());
     if (!book_readable(run.book)) return MergeRun::End::kFailed;
   }
@@ -107,7 +108,7 @@ MergeRun::End fMain::merge_into_book(MergeRun& run, const AskAboutDouble& ask) {
   StatusBar.set_panel(2, texts["Import_Info_FilterData"]);
   list.add_rows(busy.on_step());
   OnDecision on_decision;
-  if (wizard.account_wanted) {
+  if (wizard.account_wanted || report_wanted_ || chkBackup.ticked()) {
     run.account.emplace(list.in_book(), lstImpFinal.count(), run.questions);
     on_decision = [&run](const DoubleDecision& decision) { run.account->note(decision); };
   }
@@ -128,11 +129,7 @@ MergeRun::End fMain::write_book(MergeRun& run) {
   StatusBar.set_panel(2, texts["Import_Info_WriteBook"]);
   const BookChange change = compose_book(run.book, *run.list, busy.on_step());
   const ReplaceResult result =
-      app_.machine.files.replace_tail(app_.paths.book_file(), {.old_text = run.book,
-                                                               .keep = change.keep,
-                                                               .pieces = change.pieces,
-                                                               .texts = book_texts(texts),
-                                                               .spoil = &make_unreadable});
+      chkBackup.ticked() ? back_up_and_replace(run, change) : replace_book(run, change);
   if (result == ReplaceResult::kChangedMeanwhile) return MergeRun::End::kChangedMeanwhile;
   txtDDE.set_text("data");
   book_written_ = true;

@@ -21,6 +21,7 @@ struct MergeRun {
 
   End end = End::kFailed;
   MergeAccount::Questions questions = MergeAccount::Questions::kAnswered;
+  bool has_book = false;  // or it is made now
   std::string book;       // its text as it was read
   std::string_view line;  // the line that is being read, for the report of a fault
   std::optional<BookList> list;

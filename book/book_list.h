@@ -35,6 +35,8 @@ class BookList {
   [[nodiscard]] std::string_view number(std::size_t entry) const;
   [[nodiscard]] std::uint32_t hash_of_number(std::size_t entry) const { return hashes_[entry]; }
   [[nodiscard]] BookContact contact(std::size_t entry) const;
+  /// The line of an entry of the book, as it stands there.
+  [[nodiscard]] std::string_view line(std::size_t entry) const;
   /// The entry as it is written, with what it has taken over.
   [[nodiscard]] BookEntry entry(std::size_t entry) const;
 
@@ -65,7 +67,6 @@ class BookList {
   void compose_last() {
     if (marks_.back() == Mark::kPlain) marks_.back() = Mark::kComposed;
   }
-  [[nodiscard]] std::string_view line(std::size_t entry) const;
   [[nodiscard]] BookEntry own_entry(std::size_t entry) const;
   [[nodiscard]] std::size_t row(std::size_t entry) const { return entry - in_book_; }
   /// Whose `Tag` and `Count` an entry has; its own place for one that has inherited nothing.

@@ -20,6 +20,9 @@ constexpr const char* kExamples = R"text(Beispiele:
       --number Mobil --number "Telefon privat" --suffix "1=(mobil)" --dry-run
   Ein Anrufprotokoll von ISpy:
     quenda-import --suite . --file logs/ispy.log --existing keep
+  Das Telefonbuch vorher sichern, und danach doch alles wie davor:
+    quenda-import --suite . --file kontakte.csv --backup
+    quenda-import --suite . --undo
 
 Ende-Status: 0 eingelesen (letzte Zeile der Ausgabe: data oder nodata),
 1 abgelehnt oder gescheitert, 2 falscher Aufruf,
@@ -96,6 +99,10 @@ void declare(CLI::App& cli, Typed& typed, BatchOptions& options) {
   cli.add_option("--country", typed.country, "Eigene Landesvorwahl, z. B. 0049")
       ->option_text("VORWAHL");
   cli.add_option("--area", typed.area, "Eigene Ortsvorwahl, z. B. 030")->option_text("VORWAHL");
+  cli.add_flag("--backup", options.backup,
+               "Telefonbuch vorher in den Ordner backup kopieren, für --undo");
+  cli.add_flag("--undo", options.undo, "Letzten Import zurücknehmen, der gesichert hat")
+      ->excludes(file);
   cli.add_flag("--dry-run", options.dry_run, "Nur zeigen: Name, Nummer und Adresse mit TAB");
   cli.add_option("--report", typed.report,
                  "Bericht über jede Rufnummer: CSV, bei der Endung .json JSON; - für die Ausgabe")
@@ -140,6 +147,16 @@ void check_column_counts(const Typed& typed) {
   }
 }
 
+/// Taking an import back has nothing to do with another one.
+void check_undo_alone(const CLI::App& cli) {
+  for (const CLI::Option* option : cli.get_options()) {
+    const std::string name = option->get_name();
+    if (option->count() == 0 || name == "--undo" || name == "--suite" || name == "--quiet")
+      continue;
+    throw Stop{kExitWrongUsage, concat("--undo geht nicht mit ", name, ".")};
+  }
+}
+
 /// Names of files and columns. What Windows-1252 lacks cannot be found, which is no wrong usage.
 void take_names(const Typed& typed, BatchOptions& options) {
   options.suite = converted(typed.suite, kExitRefused);
@@ -153,7 +170,9 @@ void take_names(const Typed& typed, BatchOptions& options) {
 
 void take(const CLI::App& cli, const Typed& typed, BatchOptions& options) {
   const auto given = [&](const char* name) { return cli.count(name) > 0; };
-  if (!given("--file") && !options.outlook) {
+  if (options.undo) {
+    check_undo_alone(cli);
+  } else if (!given("--file") && !options.outlook) {
     throw Stop{kExitWrongUsage, "Es fehlt --file oder --outlook."};
   }
   check_column_counts(typed);

@@ -27,6 +27,8 @@ struct BatchOptions {
   std::optional<bool> min_name;
   std::optional<std::string> country;
   std::optional<std::string> area;
+  bool backup = false;  // copies the book first; off leaves it to the settings
+  bool undo = false;    // takes the last import back instead of importing
   bool dry_run = false;
   std::optional<std::string> report;  // path of the report, "-" for stdout
   bool strict = false;                // a lost number makes the run end with a status of its own

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <istream>
+#include <memory>
 #include <optional>
 #include <ostream>
 #include <string>
@@ -9,10 +10,10 @@
 #include <utility>
 #include <vector>
 
+#include "app/account/report_file.h"
 #include "app/fMain.h"
 #include "app/quenda-import/console_services.h"
 #include "app/quenda-import/printable.h"
-#include "app/quenda-import/report_file.h"
 #include "book/entry_list.h"
 #include "book/pages/fImportMsg.h"
 #include "platform/files.h"
@@ -67,10 +68,16 @@ class BatchRun {
   /// Names entries whose text would be taken for a contact card when the book is read.
   void warn_about_cards();
   void write_or_show();
+  /// Takes the last import back and ends the run.
+  [[noreturn]] void undo();
+  /// Nobody else of this kind is at the book as long as this lives.
+  [[nodiscard]] std::unique_ptr<FileLock> lock_book();
   /// Merges the entries into the book, anew when it changes meanwhile.
   void write();
   void answer(Form& form);
   void answer_double(fImportMsg& dialog);
+  /// The report that the settings want where no option does.
+  void take_report_of_settings();
   /// Says why the report cannot be written where it is wanted, and ends the run.
   void check_report(std::string_view book);
   /// Tells what became of every number of the source, where that is asked for.
@@ -146,7 +153,10 @@ void BatchRun::run() {
     if (const std::string& file = app_.ini.unreadable(); !file.empty()) {
       refuse(concat("Ohne die Einstellungen in \"", file, "\" wird nichts eingelesen."));
     }
+    if (options_.undo) undo();
+    take_report_of_settings();
     check_report(app_.paths.book_file());
+    if (options_.backup) main_.chkBackup.set_ticked(true);
     if (options_.existing) main_.optAsk(*options_.existing).choose();
     if (options_.convert) main_.chkConvert.set_ticked(*options_.convert);
     if (options_.min_name) main_.chkNameLen.set_ticked(*options_.min_name);
@@ -178,12 +188,28 @@ void BatchRun::run() {
   check_output();
 }
 
+void BatchRun::take_report_of_settings() {
+  // The form would write it by itself, and of a run that came through only.
+  const std::string path = std::exchange(main_.result_settings.report, {});
+  if (options_.report || path.empty()) return;
+  report_ = ReportFile(path);
+  main_.wizard.account_wanted = true;
+}
+
 void BatchRun::check_report(std::string_view book) {
-  const std::string trouble = report_.trouble(machine_.files, options_.file, book);
-  if (trouble.empty()) return;
+  const ReportTrouble trouble = report_.trouble(machine_.files, options_.file, book);
+  if (trouble == ReportTrouble::kNone) return;
+  const std::string path = concat("\"", report_.path(), "\"");
   report_ = ReportFile("");
   main_.wizard.account_wanted = false;
-  refuse(trouble);
+  switch (trouble) {
+    case ReportTrouble::kIsSource:
+      refuse(concat(u8"Der Bericht würde die Quelle überschreiben: "_de, path));
+    case ReportTrouble::kIsBook:
+      refuse(concat(u8"Der Bericht würde das Telefonbuch überschreiben: "_de, path));
+    default:
+      refuse(concat("Der Bericht kann nicht geschrieben werden: ", path));
+  }
 }
 
 std::string BatchRun::account_result() const {
@@ -449,12 +475,21 @@ void BatchRun::warn_about_cards() {
   }
 }
 
+std::unique_ptr<FileLock> BatchRun::lock_book() {
+  auto lock = machine_.files.lock(app_.paths.book_file(), kSecondsForOthers * 1000);
+  if (lock) return lock;
+  refuse(concat("Seit ", std::to_string(kSecondsForOthers),
+                u8" Sekunden schreibt ein anderer Import in dieses Telefonbuch."_de));
+}
+
+void BatchRun::undo() {
+  const auto lock = lock_book();
+  if (main_.take_back_import() && link_.result().empty()) link_.set_text("nodata");
+  throw EndProgram();
+}
+
 void BatchRun::write() {
-  const auto lock = machine_.files.lock(app_.paths.book_file(), kSecondsForOthers * 1000);
-  if (!lock) {
-    refuse(concat("Seit ", std::to_string(kSecondsForOthers),
-                  u8" Sekunden schreibt ein anderer Import in dieses Telefonbuch."_de));
-  }
+  const auto lock = lock_book();
   // The last page stays usable when another program has changed the book meanwhile.
   for (int merged = 0; merged < kMostMerges && main_.cmdFor.enabled(); ++merged) {
     main_.cmdFor.take_user_click();

@@ -13,6 +13,8 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 
+constexpr std::string_view kUndo = u8"Letzten Import zurücknehmen"_de;
+
 class Book : public WizardTest {
  protected:
   Book() : path_(wide(suite_.path("data\\Quendabook.txt"))) { suite_.remember_columns(); }
@@ -72,6 +74,29 @@ TEST_F(Book, TheNextStartRemembersPlaceAndColumns) {
   forward(Page::kColumns);
   EXPECT_THAT(selected_in(main_.after("Spalten Name")), ElementsAre("Nachname", "Vorname"));
   EXPECT_THAT(selected_in(main_.after("Spalten Adresse 2")), IsEmpty());
+}
+
+TEST_F(Book, AnImportThatCopiedTheBookIsTakenBack) {
+  const std::string before = suite_.book();
+  start_by_phone_book();
+  EXPECT_FALSE(button(kUndo));
+  go_to(Page::kEntries);
+  click_button("Telefonbuch vorher sichern");
+  click_button(kApply);
+  expect_end();
+  ASSERT_NE(suite_.book(), before);
+
+  start_by_phone_book();
+  click_button(kUndo);
+  const Window question = dialog_over(main_);
+  EXPECT_THAT(message_of(question), HasSubstr("Soll der Import vom"));
+  confirm(question);
+  const Window told = dialog_over(main_);
+  EXPECT_THAT(message_of(told), HasSubstr("wieder wie davor"));
+  confirm(told);
+  EXPECT_EQ(suite_.book(), before);
+  EXPECT_TRUE(phone_book_->hears("data"));
+  EXPECT_TRUE(becomes([&] { return !button(kUndo); }));
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <set>
 #include <sstream>
 #include <string>
 #include <string_view>
@@ -20,6 +21,11 @@ using testing::HasSubstr;
 
 constexpr std::string_view kFile = "C:\\contacts.csv";
 constexpr std::string_view kBook = "D:\\Suite\\data\\Quendabook.txt";
+
+constexpr std::string_view kBackup = "D:\\Suite\\data\\backup\\";
+constexpr std::string_view kCopyList = "D:\\Suite\\data\\backup\\Quendabook.list";
+constexpr std::string_view kUndoRecord = "D:\\Suite\\data\\backup\\Quendabook.undo";
+constexpr std::string_view kCopy = "D:\\Suite\\data\\backup\\Quendabook 2014-03-02 17-05-09.txt";
 
 const std::string kFalk = "Falk;0305550123;0;0;0;0;;;[vcd()vcd]\r\n";
 const std::string kMayr = "Mayr;0431555017;0;0;0;0;;;[vcd()vcd]\r\n";
@@ -66,6 +72,28 @@ class WholeImport : public testing::Test {
     return run_batch(options_, {files_, machine_.clock, machine_.system, machine_.automation},
                      {out_, errors_, nullptr});
   }
+  int run_undo() {
+    const BatchOptions import = options_;
+    options_ = {};
+    options_.suite = import.suite;
+    options_.undo = true;
+    const int status = run();
+    options_ = import;
+    return status;
+  }
+  void forget_copies() {
+    const std::string list = machine_.files.content(kCopyList);
+    for (const std::string_view name : split(list, kCrLf)) {
+      machine_.files.remove(concat(kBackup, name));
+    }
+    for (const std::string_view path : {kCopyList, kUndoRecord}) machine_.files.remove(path);
+  }
+  /// A copy that could not be read gives the entries back in other places.
+  static std::multiset<std::string> read_entries(std::string_view book) {
+    std::multiset<std::string> entries;
+    for (const std::string_view line : split(book, kCrLf)) entries.emplace(line);
+    return entries;
+  }
   [[nodiscard]] std::string book() const { return machine_.files.content(kBook); }
 
   FakeMachine machine_;
@@ -99,6 +127,68 @@ TEST_F(WholeImport, EndsWithTheOldBookOrTheNewOneAndSaysWhich) {
       }
     }
   }
+}
+
+TEST_F(WholeImport, WithACopyTheWayBackLeadsToTheOldBookWhateverFails) {
+  options_.backup = true;
+  for (const Scene& scene : kScenes) {
+    for (int n = 1;; ++n) {
+      SCOPED_TRACE(concat(scene.name, " ", std::to_string(n)));
+      put_book(scene.before);
+      forget_copies();
+      files_.fail(FileCall::kAny, n, kFaultDiskFull);
+      const int status = run();
+      const bool failed = files_.failed();
+      EXPECT_EQ(book(), status == kExitDone ? scene.after : scene.before);
+      EXPECT_EQ(out_.str(), status == kExitDone ? "data\n" : "");
+      files_.fail(FileCall::kAny, 0, 0);
+      EXPECT_EQ(run_undo(), kExitDone);
+      EXPECT_EQ(out_.str(), status == kExitDone ? "data\n" : "nodata\n");
+      EXPECT_EQ(book(), scene.before);
+      if (!failed) break;
+    }
+  }
+}
+
+TEST_F(WholeImport, AWayBackThatFailsLeavesTheBookAndCanBeTriedAgain) {
+  options_.backup = true;
+  const Scene& scene = kScenes[1];
+  for (int n = 1;; ++n) {
+    SCOPED_TRACE(n);
+    forget_copies();
+    put_book(scene.before);
+    ASSERT_EQ(run(), kExitDone);
+    files_.fail(FileCall::kAny, n, kFaultInputOutput);
+    const int status = run_undo();
+    const bool failed = files_.failed();
+    files_.fail(FileCall::kAny, 0, 0);
+    if (status != kExitDone || out_.str() == "nodata\n") {
+      EXPECT_EQ(book(), scene.after);
+      EXPECT_NE(errors_.str(), "");
+      EXPECT_EQ(run_undo(), kExitDone);
+      EXPECT_EQ(out_.str(), "data\n");
+    }
+    EXPECT_EQ(read_entries(book()), read_entries(scene.before));
+    if (!failed) break;
+  }
+}
+
+TEST_F(WholeImport, ABookThatChangesMeanwhileIsCopiedAnewAndLeavesNoOtherCopy) {
+  options_.backup = true;
+  put_book(kOther);
+  int changes = 1;
+  files_.before_replacing = [&] {
+    // The copy, the list and the record come first.
+    if (++changes == 5) machine_.files.put(kBook, kOther + kFalk);
+  };
+  EXPECT_EQ(run(), kExitDone);
+  EXPECT_EQ(book(), kOther + kFalk + kMayr);
+  files_.before_replacing = nullptr;
+  EXPECT_EQ(machine_.files.content(kCopy), kOther + kFalk);
+  EXPECT_FALSE(
+      machine_.files.exists("D:\\Suite\\data\\backup\\Quendabook 2014-03-02 17-05-09 (2).txt"));
+  EXPECT_EQ(run_undo(), kExitDone);
+  EXPECT_EQ(book(), kOther + kFalk);
 }
 
 TEST_F(WholeImport, AFailureWhileWritingSaysThatTheBookIsUnchanged) {

@@ -54,6 +54,15 @@ TEST(BatchOptions, EverythingGiven) {
   EXPECT_TRUE(options.dry_run && options.quiet);
 }
 
+TEST(BatchOptions, TakingBackNeedsTheSuiteOnly) {
+  const BatchCommand command = read_batch_command({"--suite", "/srv", "--undo", "--quiet"});
+  ASSERT_TRUE(command.options) << command.text;
+  EXPECT_TRUE(command.options->undo);
+  for (const char* other : {"--file=a.csv", "--backup", "--dry-run", "--report=-", "--outlook"}) {
+    EXPECT_EQ(read_batch_command({"--undo", other}).status, kExitWrongUsage) << other;
+  }
+}
+
 TEST(BatchOptions, TheVersionNeedsNothingElse) {
   const BatchCommand command = read_batch_command({"--version"});
   EXPECT_EQ(command.status, kExitDone);

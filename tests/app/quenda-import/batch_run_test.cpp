@@ -67,6 +67,22 @@ TEST_F(BatchRunTest, WritesTheBookAndLeavesTheSettingsAlone) {
   EXPECT_EQ(machine_.files.writes(kBook), 1);
 }
 
+TEST_F(BatchRunTest, TheSettingsMayWantAReportAndACopy) {
+  take_file(kTwoContacts);
+  machine_.files.put(kBook, "Zahn;0405550199;0;0;0;0;;;[vcd()vcd]\r\n");
+  machine_.files.put(kSettings, "[Import]\r\nBackup=1\r\nReport=D:\\Suite\\data\\report.json\r\n");
+  EXPECT_EQ(run(), kExitDone);
+  EXPECT_THAT(machine_.files.content("D:\\Suite\\data\\report.json"),
+              HasSubstr("\"result\":\"data\",\"fates\":{\"added\":2}"));
+  EXPECT_EQ(machine_.files.writes("D:\\Suite\\data\\report.json"), 2);  // head and rows
+  EXPECT_EQ(machine_.files.content("D:\\Suite\\data\\backup\\Quendabook 2014-03-02 17-05-09.txt"),
+            "Zahn;0405550199;0;0;0;0;;;[vcd()vcd]\r\n");
+  machine_.files.put(kSettings, "[Import]\r\nReport=D:\\Suite\\data\\Quendabook.txt\r\n");
+  EXPECT_EQ(run(), kExitRefused);
+  EXPECT_THAT(errors_.str(), HasSubstr("Telefonbuch \xC3\xBC"
+                                       "berschreiben"));
+}
+
 TEST_F(BatchRunTest, OptionsDriveTheControls) {
   take_file(kTwoContacts);
   options_.columns = {{{"Vorname", "Name"}, {"Mobil", "Festnetz"}, {"Straße", "Ort"}, {}}};

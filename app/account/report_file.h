@@ -11,6 +11,9 @@ namespace quenda {
 
 class Files;
 
+/// Why a report cannot be written where it is wanted.
+enum class ReportTrouble { kNone, kIsSource, kIsBook, kNotWritable };
+
 /// Collects the report of a run and writes it at the end, in the format that its path tells.
 class ReportFile {
  public:
@@ -20,10 +23,11 @@ class ReportFile {
   [[nodiscard]] bool wanted() const { return !path_.empty(); }
   [[nodiscard]] bool on_terminal() const { return path_ == "-"; }
 
-  /// Why the report could not be written there; empty when it could. To be asked before anything
-  /// else is written. An older report is left alone.
-  [[nodiscard]] std::string trouble(const Files& files, std::string_view source,
-                                    std::string_view book) const;
+  [[nodiscard]] const std::string& path() const { return path_; }
+
+  /// To be asked before anything else is written. An older report is left alone.
+  [[nodiscard]] ReportTrouble trouble(const Files& files, std::string_view source,
+                                      std::string_view book) const;
 
   /// Adds a number. Counts its fate.
   void add(const ReportRow& row);
