@@ -237,6 +237,7 @@ std::vector<std::pair<std::string, std::string>> BatchRun::options_that_held() c
   held.emplace_back("min-name", yes_no(main_.chkNameLen.ticked()));
   held.emplace_back("country", main_.txtStateCode.text());
   held.emplace_back("area", main_.txtOVW.text());
+  if (main_.chkBackup.ticked()) held.emplace_back("backup", "yes");
   return held;
 }
 
