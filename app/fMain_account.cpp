@@ -96,11 +96,11 @@ void fMain::tell_no_report() {
 void fMain::write_report() {
   const bool written = procedure(app_.errors, "fMain.write_report", {}, [&] {
     const BusyWork busy(*this);
-    const bool outlook = source.kind() == Source::kOutlook;
+    const bool from_outlook = source.kind() == Source::kOutlook;
     ReportFile report(result_settings.report);
     report.head.version = app_.version();
-    report.head.file = outlook ? "" : txtImpFile.text();
-    report.head.source = outlook ? "outlook" : source.IsISpyFile ? "ispy" : "file";
+    report.head.file = from_outlook ? "" : txtImpFile.text();
+    report.head.source = from_outlook ? "outlook" : source.IsISpyFile ? "ispy" : "file";
     report.head.result = last_merge_->end == MergeRun::End::kWritten ? "data" : "nodata";
     report.head.records = account([&](const ReportRow& row) { report.add(row); });
     report.write(app_.machine.files);
