@@ -191,7 +191,7 @@ TEST_F(ReportOfSettings, IsWrittenAfterTheBook) {
   import_contacts("C:\\Quenda\\data\\report.csv");
   const std::string report = machine.files.content("C:\\Quenda\\data\\report.csv");
   EXPECT_THAT(report, HasSubstr("2;1;1;Huber;0897654321;0897654321;;neu;"));
-  EXPECT_THAT(report, HasSubstr("3;2;1;Kurz;12;12;;kurz;"));
+  EXPECT_THAT(report, HasSubstr("3;2;1;Kurz;012;12;;kurz;"));
   EXPECT_THAT(machine.files.content(kSettingsPath),
               HasSubstr("Report=C:\\Quenda\\data\\report.csv"));
 }
