@@ -14,13 +14,12 @@ constexpr std::string_view kBackup = "Backup";
 
 ResultSettings load_result_settings(modAPI_INI& ini) {
   ResultSettings settings;
-  skip_faults({[&] {
-                 settings.backup = ini.GetSettBool(kSection, kBackup, false, kImportSettingsFile);
-               },
-               [&] {
-                 settings.report =
-                     ini.GetSettStr(kSection, "Report", "", kImportSettingsFile, false, false);
-               }});
+  skip_faults(
+      {[&] { settings.backup = ini.GetSettBool(kSection, kBackup, false, kImportSettingsFile); },
+       [&] {
+         settings.report =
+             ini.GetSettStr(kSection, "Report", "", kImportSettingsFile, false, false);
+       }});
   return settings;
 }
 
