@@ -9,7 +9,7 @@
 namespace quenda {
 namespace {
 
-constexpr std::chrono::milliseconds kFarewell{500};
+constexpr std::chrono::milliseconds kFarewell{300};
 
 }  // namespace
 
