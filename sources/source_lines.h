@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <string_view>
 #include <vector>
 
 namespace quenda {
@@ -42,5 +43,8 @@ class SourceLines {
 
   std::vector<Step> steps_;
 };
+
+/// The lines of records of a text, of which all after the first begin at these places.
+[[nodiscard]] SourceLines lines_at(std::string_view text, const std::vector<std::size_t>& begins);
 
 }  // namespace quenda
