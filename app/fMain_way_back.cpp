@@ -69,18 +69,8 @@ ReplaceResult fMain::back_up_and_replace(const MergeRun& run, const BookChange& 
     text.add_merged(*run.list, *run.account);
     return std::move(text).finish();
   });
-  try {
-    const ReplaceResult result = replace_book(run, change);
-    if (result == ReplaceResult::kReplaced) {
-      backup.keep_generations(app_.settings.backup_count);
-    } else {
-      backup.cancel();
-    }
-    return result;
-  } catch (const RuntimeFault& fault) {
-    const std::string more = backup.cancel_or_point_out(run.book);
-    throw RuntimeFault(fault.number(), concat(fault.addition(), more));
-  }
+  return backup.carry_out(run.book, app_.settings.backup_count,
+                          [&] { return replace_book(run, change); });
 }
 
 void fMain::show_way_back() { cmdUndo.set_visible(book_backup().has_import()); }

@@ -77,6 +77,21 @@ void BookBackup::begin(const LocalTime& now, std::string_view book, bool has_boo
   }
 }
 
+ReplaceResult BookBackup::carry_out(std::string_view book, int generations,
+                                    const std::function<ReplaceResult()>& write) {
+  try {
+    const ReplaceResult result = write();
+    if (result == ReplaceResult::kReplaced) {
+      keep_generations(generations);
+    } else {
+      cancel();
+    }
+    return result;
+  } catch (const RuntimeFault& fault) {
+    throw RuntimeFault(fault.number(), concat(fault.addition(), cancel_or_point_out(book)));
+  }
+}
+
 void BookBackup::put_back(const std::string& path, const std::string& old_text) {
   const std::string now = text_of(path);
   if (now == old_text) return;

@@ -39,13 +39,11 @@ class BookBackup {
   /// everything as it was.
   void begin(const LocalTime& now, std::string_view book, bool has_book,
              const std::function<std::string(const std::string& copy)>& record_for);
-  /// The book has been written: the oldest copies go.
-  void keep_generations(int generations);
-  /// The book has not been written: all is again as before `begin`. Never fails.
-  void cancel();
-  /// The same after a write that failed, where the book holds what it held; or else the copy is
-  /// what the user needs now: the result says where it lies.
-  [[nodiscard]] std::string cancel_or_point_out(std::string_view book);
+  /// After `begin`: has the book written, which holds `book` still. When it has been, the oldest
+  /// copies beyond `generations` go; when it has not, all is again as before `begin`. A fault of
+  /// `write` that leaves the book damaged gets a sentence that says where the copy lies.
+  ReplaceResult carry_out(std::string_view book, int generations,
+                          const std::function<ReplaceResult()>& write);
 
   struct Outcome {
     enum class End {
@@ -74,6 +72,10 @@ class BookBackup {
   /// The book without the import.
   [[nodiscard]] Outcome without_import(const UndoRecord& record, const std::string& book,
                                        std::string& text) const;
+  void keep_generations(int generations);
+  void cancel();  // never fails
+  /// Cancels where the book holds what it held; or else tells where the copy lies.
+  [[nodiscard]] std::string cancel_or_point_out(std::string_view book);
   [[nodiscard]] bool write_book(std::string_view old_text, std::string_view text);
 
   Files& files_;

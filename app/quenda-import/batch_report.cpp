@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include "app/quenda-import/batch_session.h"
+#include "app/quenda-import/batch_steps.h"
 #include "support/procedure.h"
 #include "text/literal_1252.h"
 #include "text/text.h"

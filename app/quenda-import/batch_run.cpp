@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "app/quenda-import/batch_session.h"
+#include "app/quenda-import/batch_steps.h"
 #include "app/quenda-import/printable.h"
 #include "book/entry_list.h"
 #include "text/fault.h"

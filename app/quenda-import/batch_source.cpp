@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "app/quenda-import/batch_session.h"
+#include "app/quenda-import/batch_steps.h"
 #include "platform/files.h"
 #include "sources/delimited_text.h"
 #include "sources/file_facts.h"
