@@ -1,7 +1,7 @@
 // Measures whole runs of the console tool, in turns with a bare program that only reads the same
 // files and writes as many bytes (the floor), and with other programs for the same job, so that all
-// see the same state of the machine. All have to write the same book. Prints medians with the spread.
-// Usage: quenda-bench-whole TOOL REFERENCES FOLDER CONTACTS RUNS SHAPE; see bench/run.
+// see the same state of the machine. All have to write the same book. Prints medians with the
+// spread. Usage: quenda-bench-whole TOOL REFERENCES FOLDER CONTACTS RUNS SHAPE; see bench/run.
 #include <fcntl.h>
 #include <unistd.h>
 
