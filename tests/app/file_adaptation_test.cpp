@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <string_view>
 
 #include "tests/shared/wizard_fixture.h"
 #include "text/literal_1252.h"
@@ -41,7 +42,8 @@ TEST_F(FileAdaptation, ATickAndASuggestionBringAKnownFileIn) {
   EXPECT_FALSE(form->cmdSuggest.visible() || form->labTable.visible()) << "not of this page";
   forward();
   forward();
-  const std::string name(u8"Müller Eva "_de);
+  constexpr std::string_view kName = u8"Müller Eva "_de;
+  const std::string name(kName);
   EXPECT_EQ(rows(), (Texts{name + "(privat)|0305550301|Ring 2 10115",
                            name + "(privat)|0305550302|Ring 2 10115",
                            name + "(mobil)|01715550303|Ring 2 10115"}));
