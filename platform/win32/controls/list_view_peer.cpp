@@ -182,7 +182,14 @@ class NativeListView : public PeerOf<ListView> {
                      (scrolls ? GetSystemMetricsForDpi(SM_CXVSCROLL, dpi) : 0) -
                      2 * GetSystemMetricsForDpi(SM_CXEDGE, dpi);
     if (sum == 0 || sum >= room) return widths;
-    for (int& width : widths) width = MulDiv(width, room, sum);
+    // Edges, not widths, are rounded: a sum that is a pixel too large brings a scroll bar.
+    int designed = 0;
+    int edge = 0;
+    for (int& width : widths) {
+      designed += width;
+      width = MulDiv(designed, room, sum) - edge;
+      edge += width;
+    }
     return widths;
   }
 

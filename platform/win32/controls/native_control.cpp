@@ -1,5 +1,6 @@
 #include "platform/win32/controls/native_control.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "platform/win32/controls/named_object.h"
@@ -17,6 +18,14 @@ constexpr Aspect kShown[] = {Aspect::kPlace, Aspect::kCaption, Aspect::kText,   
                              Aspect::kRows,  Aspect::kItems,   Aspect::kIndex,   Aspect::kSelection,
                              Aspect::kValue, Aspect::kColour,  Aspect::kEnabled, Aspect::kVisible};
 
+/// A frame as wide as its window with the borders ends where the window's inside does.
+Pixels inside(Pixels at, const Control& control, HWND parent) {
+  RECT area{};
+  if (control.kind() != ControlKind::kFrame || GetClientRect(parent, &area) == 0) return at;
+  if (at.left < area.right) at.width = std::min(at.width, static_cast<int>(area.right) - at.left);
+  return at;
+}
+
 }  // namespace
 
 NativeControl::~NativeControl() {
@@ -33,7 +42,8 @@ void NativeControl::create(HWND parent, int id, bool begins_group) {
   const DWORD shown = control_.visible() ? WS_VISIBLE : 0;
   const DWORD locked = is_live() ? 0 : WS_DISABLED;
   const DWORD group = begins_group ? WS_GROUP : 0;
-  placed_ = laid_out(control_, form_.place().dpi(), form_.place().growth());
+  placed_ =
+      inside(laid_out(control_, form_.place().dpi(), form_.place().growth()), control_, parent);
   // Text and state go in here: to change them afterwards would cost as much as the window itself.
   window_ = CreateWindowExW(made.extended, made.window_class, wide(made.text).c_str(),
                             WS_CHILD | made.style | tab_stop | group | shown | locked, placed_.left,
@@ -125,7 +135,8 @@ bool NativeControl::is_live() const {
 }
 
 void NativeControl::place() {
-  const Pixels to = laid_out(control_, form_.place().dpi(), form_.place().growth());
+  const Pixels to = inside(laid_out(control_, form_.place().dpi(), form_.place().growth()),
+                           control_, GetParent(window_));
   if (to == placed_) return;
   placed_ = to;
   SetWindowPos(window_, nullptr, to.left, to.top, to.width, to.height,
