@@ -103,8 +103,7 @@ class fMain : public WizardShell,
   MergeRun::End merge_and_write(MergeRun& run);
   /// False when the book cannot be read without losing entries; the user has been told then.
   bool book_readable(std::string_view book);
-  DoubleAnswer ask_about_double(std::string_view number, const std::string& existing,
-                                const std::string& fresh);
+  DoubleAnswer ask_about_double(const DoubleQuestion& question);
 
   SourceLines source_lines();
   std::size_t walk_source(const SourceLines& lines, const OnSourceNumber& on_number);

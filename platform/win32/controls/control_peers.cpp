@@ -4,6 +4,7 @@
 #include <string>
 
 #include "platform/controls/simple_controls.h"
+#include "platform/win32/controls/label_parts.h"
 #include "platform/win32/controls/list_peers.h"
 #include "platform/win32/controls/list_view_peer.h"
 #include "platform/win32/controls/panel_window.h"
@@ -32,6 +33,14 @@ class NativeLabel : public PeerOf<Label> {
   }
   void show(Aspect aspect) override {
     if (aspect == Aspect::kCaption) set_window_text(form().captions().of(typed()));
+  }
+  bool on_message(UINT message, WPARAM& /*wparam*/, LPARAM /*lparam*/, LRESULT& result) override {
+    if (message != WM_PAINT || typed().parts().empty()) return false;
+    const Fonts& fonts = form().place().fonts();
+    draw_parts(window(), typed().parts(), fonts.plain.get(), fonts.bold.get(),
+               system_color_behind(typed()));
+    result = 0;
+    return true;
   }
 };
 

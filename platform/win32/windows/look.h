@@ -15,6 +15,7 @@ int text_scale(int dpi);
 struct Fonts {
   Fonts(int dpi, int scale);
   Font plain;
+  Font bold;
   Font heading;
 };
 

@@ -1,0 +1,45 @@
+#include "platform/win32/controls/label_parts.h"
+
+#include "platform/win32/handles.h"
+#include "platform/win32/text_win32.h"
+
+namespace quenda {
+namespace {
+
+constexpr UINT kWrapped = DT_NOPREFIX | DT_WORDBREAK | DT_EDITCONTROL | DT_END_ELLIPSIS;
+constexpr std::wstring_view kSign = L"\x2260 ";  // not equal
+
+void draw(HDC dc, std::wstring_view text, RECT area) {
+  DrawTextW(dc, text.data(), static_cast<int>(text.size()), &area, kWrapped);
+}
+
+}  // namespace
+
+void draw_parts(HWND window, const std::vector<Label::Part>& parts, HFONT plain, HFONT bold,
+                int background) {
+  PAINTSTRUCT paint{};
+  const HDC dc = BeginPaint(window, &paint);
+  RECT area{};
+  GetClientRect(window, &area);
+  FillRect(dc, &area, GetSysColorBrush(background));
+  SetBkMode(dc, TRANSPARENT);
+  SetTextColor(dc, GetSysColor(COLOR_BTNTEXT));
+  SIZE sign{};
+  {
+    const Selected font(dc, bold);
+    GetTextExtentPoint32W(dc, kSign.data(), static_cast<int>(kSign.size()), &sign);
+  }
+  const LONG height = area.bottom / static_cast<LONG>(parts.size());
+  RECT at{area.left, area.top, area.right, area.top + height};
+  for (const Label::Part& part : parts) {
+    const Selected font(dc, part.marked ? bold : plain);
+    if (part.marked) draw(dc, kSign, at);
+    RECT text = at;
+    text.left += sign.cx;
+    draw(dc, wide(part.text), text);
+    OffsetRect(&at, 0, height);
+  }
+  EndPaint(window, &paint);
+}
+
+}  // namespace quenda
