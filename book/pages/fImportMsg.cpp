@@ -1,5 +1,7 @@
 #include "book/pages/fImportMsg.h"
 
+#include <initializer_list>
+
 #include "settings/app.h"
 #include "support/procedure.h"
 #include "text/text.h"
@@ -64,7 +66,9 @@ fImportMsg::fImportMsg(App& app) : Form("fImportMsg"), app_(app) {
 void fImportMsg::design() {
   apply_design(*this, kDesign);
   set_place({0, 0, 8520, 4020});
-  for (Label* shown : {&labMsgNumber, &labMsgIn, &labMsgNew}) shown->set_shows_data(true);
+  for (Label* shown : std::initializer_list<Label*>{&labMsgNumber, &labMsgIn, &labMsgNew}) {
+    shown->set_shows_data(true);
+  }
   optAsk(0).choose();
   default_button = &cmdMsg(0);
 }
@@ -104,8 +108,8 @@ void fImportMsg::compare(const DoubleQuestion& question) {
     const bool other_name = !equal_ignoring_case(old.name, fresh.name);
     const bool other_address = !equal_ignoring_case(old.address, fresh.address);
     const auto parts = [&](const BookContact& contact) {
-      return std::vector<Label::Part>{{std::string(contact.name), other_name},
-                                      {std::string(contact.address), other_address}};
+      return std::vector<PartsLabel::Part>{{std::string(contact.name), other_name},
+                                           {std::string(contact.address), other_address}};
     };
     labMsgIn.set_parts(parts(old));
     labMsgNew.set_parts(parts(fresh));

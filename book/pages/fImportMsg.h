@@ -6,6 +6,7 @@
 #include "book/merge.h"
 #include "platform/controls/control_array.h"
 #include "platform/controls/form.h"
+#include "platform/controls/parts_label.h"
 #include "platform/controls/simple_controls.h"
 
 namespace quenda {
@@ -36,9 +37,9 @@ class fImportMsg : public Form {
   Label labMsgNumber{*this, "labMsgNumber"};
   Label labCount{*this, "labCount"};
   Label labIn{*this, "labIn"};
-  Label labMsgIn{*this, "labMsgIn"};
+  PartsLabel labMsgIn{*this, "labMsgIn"};
   Label labNew{*this, "labNew"};
-  Label labMsgNew{*this, "labMsgNew"};
+  PartsLabel labMsgNew{*this, "labMsgNew"};
   Label labName{*this, "labName"};
   Label labAdress{*this, "labAdress"};
   Label labAnswer{*this, "labAnswer"};

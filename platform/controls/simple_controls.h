@@ -5,8 +5,6 @@
 #include <functional>
 #include <string>
 #include <string_view>
-#include <utility>
-#include <vector>
 
 #include "platform/controls/control.h"
 
@@ -23,23 +21,8 @@ class Label : public Control {
   [[nodiscard]] bool shows_data() const { return shows_data_; }
   void set_shows_data(bool shows_data) { shows_data_ = shows_data; }
 
-  /// One of several texts that share the height of a label.
-  struct Part {
-    std::string text;
-    bool marked = false;  // shown in weight and with a sign
-    friend bool operator==(const Part&, const Part&) = default;
-  };
-  /// What is drawn in place of the caption, one below the other; empty for the caption itself,
-  /// which stays what other programs read.
-  [[nodiscard]] const std::vector<Part>& parts() const { return parts_; }
-  void set_parts(std::vector<Part> parts) {
-    parts_ = std::move(parts);
-    refresh(Aspect::kColour);
-  }
-
  private:
   bool shows_data_ = false;
-  std::vector<Part> parts_;
 };
 
 /// A group of controls that move, show and take input together.

@@ -35,9 +35,9 @@ class NativeLabel : public PeerOf<Label> {
     if (aspect == Aspect::kCaption) set_window_text(form().captions().of(typed()));
   }
   bool on_message(UINT message, WPARAM& /*wparam*/, LPARAM /*lparam*/, LRESULT& result) override {
-    if (message != WM_PAINT || typed().parts().empty()) return false;
-    const Fonts& fonts = form().place().fonts();
-    draw_parts(window(), typed().parts(), fonts.plain.get(), fonts.bold.get(),
+    const auto* const label = dynamic_cast<const PartsLabel*>(&typed());
+    if (message != WM_PAINT || label == nullptr || label->parts().empty()) return false;
+    draw_parts(window(), label->parts(), form().place().fonts().plain.get(),
                system_color_behind(typed()));
     result = 0;
     return true;

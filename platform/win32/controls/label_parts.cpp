@@ -13,10 +13,18 @@ void draw(HDC dc, std::wstring_view text, RECT area) {
   DrawTextW(dc, text.data(), static_cast<int>(text.size()), &area, kWrapped);
 }
 
+Font bold_of(HFONT plain) {
+  LOGFONTW wanted{};
+  GetObjectW(plain, sizeof wanted, &wanted);
+  wanted.lfWeight = FW_BOLD;
+  return Font(CreateFontIndirectW(&wanted));
+}
+
 }  // namespace
 
-void draw_parts(HWND window, const std::vector<Label::Part>& parts, HFONT plain, HFONT bold,
+void draw_parts(HWND window, const std::vector<PartsLabel::Part>& parts, HFONT plain,
                 int background) {
+  const Font bold = bold_of(plain);
   PAINTSTRUCT paint{};
   const HDC dc = BeginPaint(window, &paint);
   RECT area{};
@@ -26,13 +34,13 @@ void draw_parts(HWND window, const std::vector<Label::Part>& parts, HFONT plain,
   SetTextColor(dc, GetSysColor(COLOR_BTNTEXT));
   SIZE sign{};
   {
-    const Selected font(dc, bold);
+    const Selected font(dc, bold.get());
     GetTextExtentPoint32W(dc, kSign.data(), static_cast<int>(kSign.size()), &sign);
   }
   const LONG height = area.bottom / static_cast<LONG>(parts.size());
   RECT at{area.left, area.top, area.right, area.top + height};
-  for (const Label::Part& part : parts) {
-    const Selected font(dc, part.marked ? bold : plain);
+  for (const PartsLabel::Part& part : parts) {
+    const Selected font(dc, part.marked ? bold.get() : plain);
     if (part.marked) draw(dc, kSign, at);
     RECT text = at;
     text.left += sign.cx;

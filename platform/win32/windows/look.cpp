@@ -43,9 +43,6 @@ Fonts::Fonts(int dpi, int scale) {
   const int there = std::max(scale_of(usual, dpi), kNormalScale);
   usual.lfHeight = MulDiv(usual.lfHeight, scale, there);
   plain.reset(CreateFontIndirectW(&usual));
-  LOGFONTW weighty = usual;
-  weighty.lfWeight = FW_BOLD;
-  bold.reset(CreateFontIndirectW(&weighty));
   LOGFONTW large = usual;
   large.lfHeight = large.lfHeight * 5 / 4;
   large.lfWeight = FW_BOLD;

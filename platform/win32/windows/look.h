@@ -15,7 +15,6 @@ int text_scale(int dpi);
 struct Fonts {
   Fonts(int dpi, int scale);
   Font plain;
-  Font bold;
   Font heading;
 };
 
