@@ -12,6 +12,7 @@ void fMain::LoadWindowPosition() {
     at.left = app_.settings.left;
     at.top = app_.settings.top;
     set_place(at);
+    splPreview.set_share(app_.settings.preview_border);
   }).or_go_on();
 }
 
@@ -48,6 +49,7 @@ void fMain::SaveWindowPosition() {
     skip_faults({[&] {
       app_.settings.left = place().left;
       app_.settings.top = place().top;
+      app_.settings.preview_border = splPreview.share();
       save_window_position(app_.ini, app_.settings);
     }});
   }).or_go_on();

@@ -32,7 +32,8 @@ fMain::fMain(App& services)
       app_(services) {
   for (Control* control : {static_cast<Control*>(&labFacts), static_cast<Control*>(&chkConvert),
                            static_cast<Control*>(&labTable), static_cast<Control*>(&cmdSuggest),
-                           static_cast<Control*>(&chkBackup), static_cast<Control*>(&cmdUndo)}) {
+                           static_cast<Control*>(&chkBackup), static_cast<Control*>(&cmdUndo),
+                           static_cast<Control*>(&splPreview)}) {
     move_to_end(*control);
   }
   connect();

@@ -85,6 +85,11 @@ constexpr std::array kSettings = {
 
     number(Group::kPosition, "ImportTop", 500, 0, 0, kField<&ImportSettings::top>),
     number(Group::kPosition, "ImportLeft", 500, 0, 0, kField<&ImportSettings::left>),
+    Setting{.group = Group::kPosition,
+            .key = "ImportPreviewBorder",
+            .number = kField<&ImportSettings::preview_border>,
+            .max = 1000,
+            .optional = true},
 
     number(Group::kPage, "Ask", 0, 0, 2, kField<&ImportSettings::ask>),
     number(Group::kPage, "Len", 1, 0, 1, kField<&ImportSettings::min_name_length>),

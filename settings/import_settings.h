@@ -34,6 +34,8 @@ struct ImportSettings {
   // Position of the main window in twips.
   std::int32_t top = 500;
   std::int32_t left = 500;
+  // How much of the page of columns lies above its preview, in thousandths; 0 as designed.
+  std::int32_t preview_border = 0;
 
   // The merge and the Outlook page.
   std::int32_t ask = 0;

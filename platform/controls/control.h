@@ -26,7 +26,7 @@ struct Place {
 /// What a control does along one axis when its parent is larger than designed: keep its distance
 /// from the start, from the end, or from both by growing; keep its share of the parent, as
 /// neighbours in a row do; or only move to where its share begins, as the label of such a
-/// neighbour.
+/// neighbour. Where a splitter parts the parent, the shares end and begin at it.
 enum class Anchor { kStart, kEnd, kBoth, kShare, kShareStart };
 
 /// What kind of native control shows a control.
@@ -41,6 +41,7 @@ enum class ControlKind {
   kComboList,
   kListView,
   kPicture,
+  kSplitter,
   kStatusBar,
   kTimer,
 };

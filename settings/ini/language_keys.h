@@ -159,6 +159,7 @@ inline constexpr std::array kLanguageKeys = {
     LanguageKey{"Import_Label_ColumnsNumbers", "Spalten Rufnummer"},
     LanguageKey{"Import_Label_ColumnsAddresses", "Spalten Adresse"},
     LanguageKey{"Import_Label_OverviewData", "Spalten der Datei"},
+    LanguageKey{"Import_Label_PreviewBorder", "Grenze zwischen Spalten und Vorschau"},
     // Names and suffixes.
     LanguageKey{"Import_Label_NameInfo", "Name im Telefonbuch"},
     LanguageKey{"Import_ChkBox_FlipNames", "Vor- und Nachname tauschen"},

@@ -112,6 +112,16 @@ TEST_F(Start, ClosingSavesThePositionAndTellsTheHost) {
             "[Dimensions]\r\nImportTop=900\r\nImportLeft=1200\r\n");
 }
 
+TEST_F(Start, ABorderThatTheUserHasMovedIsThereAgain) {
+  start();
+  form->splPreview.take_user_share(300);
+  EXPECT_THROW(form->unload(CloseReason::kCloseBox), EndProgram);
+  EXPECT_THAT(machine.files.content(kSettingsPath),
+              testing::HasSubstr("ImportPreviewBorder=300\r\n"));
+  start();
+  EXPECT_EQ(form->splPreview.share(), 300);
+}
+
 TEST_F(Start, AFaultThatNoProcedureCaughtEndsTheProgramInOrder) {
   app = std::make_unique<App>(machine.services);
   form = std::make_unique<fMain>(*app);

@@ -80,7 +80,16 @@ constexpr DesignRow<ColumnPage> kPreviewDesign[] = {
      .tab = 101,
      .across = Anchor::kBoth,
      .down = Anchor::kBoth},
+    {.control = control_at<&ColumnPage::splPreview>,
+     .place = {0, 2355, kPageWidth, 105},
+     .tab = 29,
+     .across = Anchor::kBoth,
+     .down = Anchor::kShareStart},
 };
+
+// Each side keeps its headings and three rows.
+constexpr int kLeastLists = 1050;
+constexpr int kLeastPreview = 1380;
 
 }  // namespace
 
@@ -95,6 +104,8 @@ void ColumnPage::design() {
   apply_design(*this, kPreviewDesign, &shell_.frmPages);
   labTable.set_visible(false);
   cmdSuggest.set_visible(false);
+  splPreview.set_visible(false);
+  splPreview.set_least(kLeastLists, kLeastPreview);
 }
 
 void ColumnPage::connect() {
@@ -107,6 +118,7 @@ void ColumnPage::connect() {
 void ColumnPage::load_captions() {
   quenda::load_captions(*this, kDesign, app_);
   quenda::load_captions(*this, kPreviewDesign, app_);
+  splPreview.set_spoken_name(app_.text("Import_Label_PreviewBorder"));
   cmdSuggest.set_caption(text_of(app_, Finding{"Import_Button_Suggestion", {""}}));
   for (const int address : {1, 2}) {
     Label& label = labHeader(address + 1);
@@ -118,9 +130,10 @@ void ColumnPage::page_shown(Page now) {
   const bool preview = now == Page::kColumns || now == Page::kNames;
   lstShow.set_visible(preview);
   labShow.set_visible(preview);
-  // Above it the lists of columns use their share of a larger window; the fields of the names
-  // cannot.
+  // The lists of columns above it use their share of the height, which the user can change; the
+  // fields of the names cannot.
   const bool shared = now == Page::kColumns;
+  splPreview.set_visible(shared);
   labShow.set_anchors(Anchor::kStart, shared ? Anchor::kShareStart : Anchor::kStart);
   lstShow.set_anchors(Anchor::kBoth, shared ? Anchor::kShare : Anchor::kBoth);
   show_below_lists();

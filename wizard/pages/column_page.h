@@ -10,6 +10,7 @@
 #include "platform/controls/list_view.h"
 #include "platform/controls/lists.h"
 #include "platform/controls/simple_controls.h"
+#include "platform/controls/splitter.h"
 #include "settings/header_memory.h"
 #include "settings/import_settings.h"
 #include "sources/column_suggestion.h"
@@ -48,6 +49,7 @@ class ColumnPage : public WizardPage {
   ListView lstShow{shell_, "lstShow"};
   Label labTable{shell_, "labTable"};
   Button cmdSuggest{shell_, "cmdSuggest"};
+  Splitter splPreview{shell_, "splPreview"};
 
   /// Chooses the columns of the known export that the file is; false for an unknown one.
   bool take_suggestion();

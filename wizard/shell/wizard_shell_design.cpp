@@ -10,8 +10,9 @@ constexpr int kPageWidth = 10440;
 constexpr int kPageHeight = 5400;
 
 constexpr Place kPage = {0, 0, kPageWidth, kPageHeight};
-// The preview stands below these pages.
+// The preview stands below these pages, and below the columns a border that the user can move.
 constexpr Place kUpperPage = {0, 0, kPageWidth, 2430};
+constexpr Place kColumnsPage = {0, 0, kPageWidth, 2355};
 constexpr Place kHelpLine = {180, 420, 10260, 420};
 
 constexpr DesignRow<WizardShell> kDesign[] = {
@@ -62,7 +63,7 @@ constexpr DesignRow<WizardShell> kDesign[] = {
      .across = Anchor::kBoth,
      .down = Anchor::kBoth},
     {.control = control_at<&WizardShell::frmImp, 1>,
-     .place = kUpperPage,
+     .place = kColumnsPage,
      .frame = control_at<&WizardShell::frmPages>,
      .across = Anchor::kBoth,
      .down = Anchor::kShare},

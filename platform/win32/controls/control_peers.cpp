@@ -8,6 +8,7 @@
 #include "platform/win32/controls/list_view_peer.h"
 #include "platform/win32/controls/panel_window.h"
 #include "platform/win32/controls/progress_peer.h"
+#include "platform/win32/controls/splitter_peer.h"
 #include "platform/win32/controls/text_box_peer.h"
 #include "platform/win32/text_win32.h"
 #include "platform/win32/windows/access_keys.h"
@@ -197,6 +198,8 @@ std::unique_ptr<NativeControl> make_native_control(FormWindow& form, Control& co
       return make_list_view(form, static_cast<ListView&>(control));
     case ControlKind::kPicture:
       return make_progress(form, static_cast<PictureBox&>(control));
+    case ControlKind::kSplitter:
+      return make_splitter(form, static_cast<Splitter&>(control));
     case ControlKind::kStatusBar:
       return std::make_unique<NativeStatusBar>(form, static_cast<StatusBar&>(control));
     case ControlKind::kTimer:

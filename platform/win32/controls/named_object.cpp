@@ -18,11 +18,16 @@ namespace {
 #pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
 #endif
 
-/// The system's object of a window in all but its name.
+bool is_whole_window(const VARIANT& child) {
+  return child.vt == VT_I4 && child.lVal == CHILDID_SELF;
+}
+
+/// The system's object of a window in all but its name, and where that is wanted its role and
+/// value.
 class NamedObject final : public IAccessible {
  public:
-  NamedObject(ComPtr<IAccessible> system, std::wstring name)
-      : system_(std::move(system)), name_(std::move(name)) {}
+  NamedObject(ComPtr<IAccessible> system, Spoken spoken)
+      : system_(std::move(system)), spoken_(std::move(spoken)) {}
 
   HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
     *object = nullptr;
@@ -39,9 +44,8 @@ class NamedObject final : public IAccessible {
   }
 
   HRESULT STDMETHODCALLTYPE get_accName(VARIANT child, BSTR* name) override {
-    if (child.vt != VT_I4 || child.lVal != CHILDID_SELF) return system_->get_accName(child, name);
-    *name = SysAllocStringLen(name_.data(), static_cast<UINT>(name_.size()));
-    return *name == nullptr ? E_OUTOFMEMORY : S_OK;
+    if (!is_whole_window(child)) return system_->get_accName(child, name);
+    return give(spoken_.name, name);
   }
 
   HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override {
@@ -69,13 +73,18 @@ class NamedObject final : public IAccessible {
     return system_->get_accChild(child, object);
   }
   HRESULT STDMETHODCALLTYPE get_accValue(VARIANT child, BSTR* value) override {
-    return system_->get_accValue(child, value);
+    if (!is_whole_window(child) || spoken_.value.empty())
+      return system_->get_accValue(child, value);
+    return give(spoken_.value, value);
   }
   HRESULT STDMETHODCALLTYPE get_accDescription(VARIANT child, BSTR* text) override {
     return system_->get_accDescription(child, text);
   }
   HRESULT STDMETHODCALLTYPE get_accRole(VARIANT child, VARIANT* role) override {
-    return system_->get_accRole(child, role);
+    if (!is_whole_window(child) || spoken_.role == 0) return system_->get_accRole(child, role);
+    role->vt = VT_I4;
+    role->lVal = spoken_.role;
+    return S_OK;
   }
   HRESULT STDMETHODCALLTYPE get_accState(VARIANT child, VARIANT* state) override {
     return system_->get_accState(child, state);
@@ -124,8 +133,14 @@ class NamedObject final : public IAccessible {
  private:
   ~NamedObject() = default;
 
+  static HRESULT give(const std::string& text, BSTR* result) {
+    const std::wstring given = wide(text);
+    *result = SysAllocStringLen(given.data(), static_cast<UINT>(given.size()));
+    return *result == nullptr ? E_OUTOFMEMORY : S_OK;
+  }
+
   ComPtr<IAccessible> system_;
-  std::wstring name_;
+  Spoken spoken_;
   std::atomic<ULONG> references_ = 1;
 };
 
@@ -135,12 +150,12 @@ class NamedObject final : public IAccessible {
 
 }  // namespace
 
-LRESULT answer_with_name(HWND window, WPARAM wparam, std::string_view name) {
+LRESULT answer_with(HWND window, WPARAM wparam, const Spoken& spoken) {
   ComPtr<IAccessible> system;
   if (FAILED(CreateStdAccessibleObject(window, OBJID_CLIENT, IID_IAccessible, system.out_void()))) {
     return 0;
   }
-  auto* const named = new NamedObject(std::move(system), wide(name));
+  auto* const named = new NamedObject(std::move(system), spoken);
   const LRESULT answer = LresultFromObject(IID_IAccessible, wparam, named);
   named->Release();
   return answer;

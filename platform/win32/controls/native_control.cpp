@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/win32/controls/named_object.h"
 #include "platform/win32/text_win32.h"
 #include "platform/win32/windows/form_window.h"
 #include "text/fault.h"
@@ -162,9 +161,10 @@ LRESULT CALLBACK NativeControl::procedure(HWND window, UINT message, WPARAM wpar
 
 LRESULT NativeControl::object_named(WPARAM wparam, LPARAM lparam) {
   // Whatever the reader asks for: the system has to know the name by then.
-  const std::string name = form_.names().name_to_answer(*this);
+  Spoken answer = spoken();
+  if (answer.role == 0) answer.name = form_.names().name_to_answer(*this);
   const bool wanted = static_cast<LONG>(lparam) == OBJID_CLIENT;
-  return wanted && !name.empty() ? answer_with_name(window_, wparam, name) : 0;
+  return wanted && !answer.name.empty() ? answer_with(window_, wparam, answer) : 0;
 }
 
 LRESULT NativeControl::handle(UINT message, WPARAM wparam, LPARAM lparam) noexcept {

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "platform/controls/control.h"
+#include "platform/win32/controls/named_object.h"
 #include "platform/win32/handles.h"
 #include "platform/win32/windows/layout.h"
 
@@ -58,6 +59,9 @@ class NativeControl : public ControlPeer {
   /// A notice of the window to its parent: the code of WM_COMMAND.
   virtual void on_command(UINT /*code*/) {}
   virtual LRESULT on_notify(NMHDR& /*notice*/) { return 0; }
+  /// What a screen reader is told of a control that the system does not know; none with a role for
+  /// the others.
+  [[nodiscard]] virtual Spoken spoken() const { return {}; }
 
  protected:
   struct WindowSpec {

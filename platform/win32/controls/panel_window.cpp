@@ -3,13 +3,15 @@
 namespace quenda {
 namespace {
 
-void register_class(const wchar_t* name, WNDPROC procedure, int extra) {
+void register_class(const wchar_t* name, WNDPROC procedure, int extra,
+                    const wchar_t* pointer = IDC_ARROW, UINT style = 0) {
   WNDCLASSEXW window_class{};
   window_class.cbSize = sizeof window_class;
+  window_class.style = style;
   window_class.lpfnWndProc = procedure;
   window_class.cbWndExtra = extra;
   window_class.hInstance = GetModuleHandleW(nullptr);
-  window_class.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+  window_class.hCursor = LoadCursorW(nullptr, pointer);
   window_class.hbrBackground = GetSysColorBrush(COLOR_3DFACE);
   window_class.lpszClassName = name;
   RegisterClassExW(&window_class);
@@ -22,6 +24,7 @@ void register_window_classes() {
   InitCommonControlsEx(&used);
   register_class(kPanelClass, &DefWindowProcW, 0);
   register_class(kPictureClass, &DefWindowProcW, 0);
+  register_class(kSplitterClass, &DefWindowProcW, 0, IDC_SIZENS, CS_DBLCLKS);
   register_class(kFormClass, &DefDlgProcW, DLGWINDOWEXTRA);
 }
 

@@ -8,6 +8,8 @@ namespace quenda {
 inline constexpr const wchar_t* kPanelClass = L"QuendaPanel";
 /// An area that a peer paints itself.
 inline constexpr const wchar_t* kPictureClass = L"QuendaPicture";
+/// A border that the mouse drags up and down.
+inline constexpr const wchar_t* kSplitterClass = L"QuendaSplitter";
 /// The window of a form.
 inline constexpr const wchar_t* kFormClass = L"QuendaForm";
 

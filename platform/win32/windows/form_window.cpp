@@ -7,6 +7,7 @@
 #include "platform/controls/simple_controls.h"
 #include "platform/win32/controls/control_peers.h"
 #include "platform/win32/controls/panel_window.h"
+#include "platform/win32/controls/splitter_peer.h"
 #include "platform/win32/text_win32.h"
 #include "platform/win32/windows/dropped_file.h"
 #include "text/fault.h"
@@ -195,7 +196,7 @@ bool FormWindow::translate(MSG& message) {
     });
     return true;
   }
-  if (focus_.drops(message)) return true;
+  if (focus_.drops(message) || lets_go_of_border(message)) return true;
   return IsDialogMessageW(window(), &message) != 0;
 }
 
@@ -208,12 +209,15 @@ void FormWindow::settle(bool idle) {
   show_changes();
 }
 
+void FormWindow::lay_out() {
+  for (const auto& control : controls_) control->refresh(Aspect::kPlace);
+}
+
 void FormWindow::follow_scale() {
   for (const auto& control : controls_) {
-    if (control->window() == nullptr) continue;
-    control->apply_font();
-    control->refresh(Aspect::kPlace);
+    if (control->window() != nullptr) control->apply_font();
   }
+  lay_out();
   if (ready_) icons_.show(window(), place_.screen_dpi());
   RedrawWindow(window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
@@ -313,7 +317,7 @@ INT_PTR FormWindow::on_message(UINT message, WPARAM wparam, LPARAM lparam) {
     case WM_SIZE:
       if (progress_) show_title();
       place_.on_size(window());
-      for (const auto& control : controls_) control->refresh(Aspect::kPlace);
+      lay_out();
       return TRUE;
     case WM_MOVE:
       place_.on_move(window());

@@ -43,6 +43,8 @@ class FormWindow : public ControlPeer, public LoopClient {
   void page_shown(NativeControl& frame);
   /// How far long work has come, in percent; none when it is over.
   void show_progress(std::optional<int> percent);
+  /// Has every control take the place that is its own now.
+  void lay_out();
   /// What is to be seen means something else now: a press that belongs to what was there before
   /// must not reach it.
   void content_changed();

@@ -21,40 +21,46 @@ int share(int growth, int position, int whole) {
   return scaled(growth, position, std::max(whole, 1));
 }
 
-/// One axis of a control: where it starts and how long it is, after its parent, `whole` as
-/// designed, has grown.
-std::pair<int, int> along(Anchor anchor, int start, int size, int growth, int whole) {
+/// One axis of a control: where it starts and how long it is, after its parent has grown. `gained`
+/// tells how much of the growth lies before a position.
+template <class Gained>
+std::pair<int, int> along(Anchor anchor, int start, int size, int growth, const Gained& gained) {
   switch (anchor) {
     case Anchor::kEnd:
       return {start + growth, size};
     case Anchor::kBoth:
       return {start, std::max(size + growth, 0)};
-    case Anchor::kShare: {
-      const int share_before = share(growth, start, whole);
-      return {start + share_before,
-              std::max(size + share(growth, start + size, whole) - share_before, 0)};
-    }
+    case Anchor::kShare:
+      return {start + gained(start), std::max(size + gained(start + size) - gained(start), 0)};
     case Anchor::kShareStart:
-      return {start + share(growth, start, whole), size};
+      return {start + gained(start), size};
     default:
       return {start, size};
   }
 }
 
-/// How much a control itself grows when its form does.
-Growth growth_of(const Control* control, Growth form) {
-  if (control == nullptr) return form;
-  const Growth parent = growth_of(control->parent(), form);
-  const Place& place = control->place();
-  const Place around = control->parent() == nullptr ? Place{} : control->parent()->place();
-  const auto gained = [](Anchor anchor, int start, int size, int growth, int whole) {
-    if (anchor == Anchor::kShare) {
-      return share(growth, start + size, whole) - share(growth, start, whole);
-    }
-    return anchor == Anchor::kBoth ? growth : 0;
-  };
-  return {gained(control->anchor_across(), place.left, place.width, parent.across, around.width),
-          gained(control->anchor_down(), place.top, place.height, parent.down, around.height)};
+Pixels designed(const Control& control, int dpi) {
+  const Place& place = control.place();
+  const int left = pixels_of(place.left, dpi);
+  const int top = pixels_of(place.top, dpi);
+  return {left, top, pixels_of(place.left + place.width, dpi) - left,
+          pixels_of(place.top + place.height, dpi) - top};
+}
+
+/// How much a parent, null for the form, grows when its form does.
+Growth growth_of(const Control* parent, int dpi, Growth form) {
+  if (parent == nullptr) return form;
+  const Pixels before = designed(*parent, dpi);
+  const Pixels now = laid_out(*parent, dpi, form);
+  return {now.width - before.width, now.height - before.height};
+}
+
+Pixels around(const Control& control, int dpi) {
+  return control.parent() == nullptr ? Pixels{} : designed(*control.parent(), dpi);
+}
+
+bool shares(const Control& control) {
+  return control.anchor_down() == Anchor::kShare || control.anchor_down() == Anchor::kShareStart;
 }
 
 int tab_position(const ControlHost& host, const Control& control) {
@@ -75,18 +81,31 @@ int pixels_of(int twips, int dpi) { return scaled(twips, dpi, kTwipsPerInch); }
 int twips_of(int pixels, int dpi) { return scaled(pixels, kTwipsPerInch, dpi); }
 
 Pixels laid_out(const Control& control, int dpi, Growth form) {
-  const Place& place = control.place();
-  const int left = pixels_of(place.left, dpi);
-  const int top = pixels_of(place.top, dpi);
-  const int width = pixels_of(place.left + place.width, dpi) - left;
-  const int height = pixels_of(place.top + place.height, dpi) - top;
-  const Growth growth = growth_of(control.parent(), form);
-  const Place around = control.parent() == nullptr ? Place{} : control.parent()->place();
+  const Pixels at = designed(control, dpi);
+  const Growth growth = growth_of(control.parent(), dpi, form);
+  const Pixels whole = around(control, dpi);
   const auto across =
-      along(control.anchor_across(), left, width, growth.across, pixels_of(around.width, dpi));
-  const auto down =
-      along(control.anchor_down(), top, height, growth.down, pixels_of(around.height, dpi));
+      along(control.anchor_across(), at.left, at.width, growth.across,
+            [&](int position) { return share(growth.across, position, whole.width); });
+  const Splitter* const splitter = shares(control) ? splitter_beside(control) : nullptr;
+  const auto down = along(control.anchor_down(), at.top, at.height, growth.down, [&](int position) {
+    if (splitter == nullptr) return share(growth.down, position, whole.height);
+    const int border = designed(*splitter, dpi).top;
+    if (position < border) return 0;
+    if (position >= whole.height) return growth.down;
+    return border_at(room_of(*splitter, dpi, form), splitter->share()) - border;
+  });
   return {across.first, down.first, across.second, down.second};
+}
+
+BorderRoom room_of(const Splitter& splitter, int dpi, Growth form) {
+  const int whole = around(splitter, dpi).height;
+  const int growth = growth_of(splitter.parent(), dpi, form).down;
+  const int border = designed(splitter, dpi).top;
+  return {.whole = whole + growth,
+          .usual = border + share(growth, border, whole),
+          .least_before = pixels_of(splitter.least_above(), dpi),
+          .least_after = pixels_of(splitter.least_below(), dpi)};
 }
 
 std::vector<Control*> in_tab_order(const ControlHost& host, const Control* parent) {

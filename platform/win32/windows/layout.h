@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "platform/controls/control.h"
+#include "platform/controls/splitter.h"
 
 // Where controls lie on the screen and in which order the keyboard visits them; plain arithmetic.
 namespace quenda {
@@ -28,6 +29,9 @@ int twips_of(int pixels, int dpi);
 /// Where a control lies in its parent. Edges, not sizes, are rounded, so that neighbours stay
 /// neighbours at every DPI. `form` is the growth of the form.
 Pixels laid_out(const Control& control, int dpi, Growth form);
+
+/// Where a splitter may lie in its parent, in pixels from the top.
+BorderRoom room_of(const Splitter& splitter, int dpi, Growth form);
 
 /// The controls of one parent (null for the form) in the order in which the Tab key visits them. A
 /// frame stands where the first of its controls does. Controls without a tab position keep their

@@ -1,5 +1,6 @@
 // Rules of controls that hold with and without a window.
 #include "platform/controls/progress_text.h"
+#include "platform/controls/splitter.h"
 #include "platform/controls/view_order.h"
 
 #include <gmock/gmock.h>
@@ -20,6 +21,36 @@ TEST(ProgressText, TellsTheTimeLeftOnceItCanBeKnown) {
   EXPECT_EQ(progress_text(37, 25'000), "37 % (0:43)");
   EXPECT_EQ(progress_text(10, 60'000), "10 % (9:01)");
   EXPECT_EQ(progress_text(100, 60'000), "100 %");
+}
+
+TEST(BorderTest, StaysWithinItsRoomAndFollowsTheWholeByItsShare) {
+  const BorderRoom small = {.whole = 360, .usual = 157, .least_before = 70, .least_after = 92};
+  const BorderRoom large = {.whole = 1000, .usual = 436, .least_before = 70, .least_after = 92};
+  EXPECT_EQ(border_at(small, 0), 157);
+  EXPECT_EQ(border_at(large, 0), 436);
+  const int share = share_of(small, 216, 0);
+  EXPECT_EQ(border_at(small, share), 216);
+  EXPECT_EQ(border_at(large, share), 600);
+  EXPECT_EQ(border_at(small, share_of(small, -50, 0)), 70);
+  EXPECT_EQ(border_at(small, share_of(small, 500, 0)), 268);
+  EXPECT_EQ(border_at(small, share_of(large, 70, 0)), 70) << "too little for the smaller one";
+  const BorderRoom none = {.whole = 100, .usual = 40, .least_before = 70, .least_after = 92};
+  EXPECT_EQ(border_at(none, 900), 40);
+  EXPECT_EQ(share_of(none, 10, 900), 900) << "kept for a larger window";
+}
+
+TEST(BorderTest, KeysMoveItByStepsAndToTheEnds) {
+  const BorderRoom room = {.whole = 1000, .usual = 436, .least_before = 70, .least_after = 92};
+  int share = 0;
+  const auto after = [&](BorderMove move) {
+    share = share_after(room, share, move, 10);
+    return border_at(room, share);
+  };
+  EXPECT_EQ(after(BorderMove::kOn), 446);
+  EXPECT_EQ(after(BorderMove::kFarBack), 396);
+  EXPECT_EQ(after(BorderMove::kToEnd), 908);
+  EXPECT_EQ(after(BorderMove::kFarOn), 908);
+  EXPECT_EQ(after(BorderMove::kToStart), 70);
 }
 
 class ViewOrderTest : public testing::Test {

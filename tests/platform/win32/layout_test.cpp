@@ -79,6 +79,30 @@ TEST_F(LayoutTest, WhatLiesInAFrameWithAShareGrowsByIt) {
   EXPECT_EQ(laid_out(right_, 96, {0, 100}), (Pixels{0, 80, 100, 20}));
 }
 
+TEST_F(LayoutTest, WhatASplitterPartsEndsAndBeginsAtIt) {
+  page_.set_place({0, 0, 1500, 1500});
+  page_.set_anchors(Anchor::kBoth, Anchor::kBoth);
+  Splitter border(form_, "border");
+  border.set_place({0, 600, 1500, 90});
+  border.set_anchors(Anchor::kBoth, Anchor::kShareStart);
+  left_.set_place({0, 150, 750, 450});
+  left_.set_anchors(Anchor::kStart, Anchor::kShare);
+  right_.set_place({0, 690, 750, 810});
+  right_.set_anchors(Anchor::kStart, Anchor::kShare);
+  for (Control* control : std::initializer_list<Control*>{&left_, &border, &right_}) {
+    control->set_parent(&page_);
+  }
+  const Growth growth{0, 100};
+  EXPECT_EQ(laid_out(left_, 96, growth), (Pixels{0, 10, 50, 70}));
+  EXPECT_EQ(laid_out(border, 96, growth), (Pixels{0, 80, 100, 6}));
+  EXPECT_EQ(laid_out(right_, 96, growth), (Pixels{0, 86, 50, 114}));
+  border.set_share(250);
+  EXPECT_EQ(laid_out(left_, 96, growth), (Pixels{0, 10, 50, 40}));
+  EXPECT_EQ(laid_out(border, 96, growth), (Pixels{0, 50, 100, 6}));
+  EXPECT_EQ(laid_out(right_, 96, growth), (Pixels{0, 56, 50, 144}));
+  EXPECT_EQ(laid_out(right_, 96, {}), (Pixels{0, 31, 50, 69})) << "in the smallest window, too";
+}
+
 TEST_F(LayoutTest, TabOrderPutsAFrameWhereItsFirstControlIsAndALabelBeforeItsField) {
   Label name{form_, "labName"};
   Button field{form_, "field"};

@@ -44,7 +44,7 @@ TEST_F(MainDesign, TheOrderOfTheControlsStaysSinceTheirIdsComeFromIt) {
             "labImport*3 chkImport*11 txtImport*11 chkAdr*14 chkFlipName chkFlipAdress "
             "labPreview lstImport "
             "labEdited labCodes cmdCompose "
-            "labFacts chkConvert labTable cmdSuggest chkBackup cmdUndo");
+            "labFacts chkConvert labTable cmdSuggest chkBackup cmdUndo splPreview");
 }
 
 TEST_F(MainDesign, WhatTheTabKeyReachesHasANameOfItsOwnOnItsPage) {
