@@ -58,17 +58,35 @@ class NativeFrame : public PeerOf<Frame> {
       RECT area{};
       GetClientRect(window(), &area);
       auto* const dc = from_lparam<HDC__>(static_cast<LPARAM>(wparam));
-      FillRect(dc, &area, GetSysColorBrush(system_color_behind(control())));
+      FillRect(dc, &area, brush_in(dc, form().colors()[tone_behind(control())]));
       result = 1;
+      return true;
+    }
+    if (message == WM_PAINT && form().dark() && !typed().caption().empty()) {
+      paint_by(&draw_group);
       return true;
     }
     return forward_to_parent(window(), message, wparam, lparam, result);
   }
 };
 
-class NativeButton : public PeerOf<Button> {
+/// A control of the system's button class, which asks before it draws itself.
+template <class T>
+class ButtonPeer : public PeerOf<T> {
  public:
-  using PeerOf::PeerOf;
+  using PeerOf<T>::PeerOf;
+  LRESULT on_notify(NMHDR& notice) override {
+    if (notice.code != NM_CUSTOMDRAW || !this->form().dark()) return CDRF_DODEFAULT;
+    const auto& drawn = *from_lparam<NMCUSTOMDRAW>(as_lparam(&notice));
+    if (drawn.dwDrawStage != CDDS_PREPAINT) return CDRF_DODEFAULT;
+    draw_button(this->pen(drawn.hdc), this->window());
+    return CDRF_SKIPDEFAULT;
+  }
+};
+
+class NativeButton : public ButtonPeer<Button> {
+ public:
+  using ButtonPeer::ButtonPeer;
   void on_command(UINT code) override {
     if (code == BN_CLICKED && !muted()) typed().take_user_click();
   }
@@ -90,9 +108,9 @@ class NativeButton : public PeerOf<Button> {
   std::string shown_;
 };
 
-class NativeCheckBox : public PeerOf<CheckBox> {
+class NativeCheckBox : public ButtonPeer<CheckBox> {
  public:
-  using PeerOf::PeerOf;
+  using ButtonPeer::ButtonPeer;
   void on_command(UINT code) override {
     if (code != BN_CLICKED || muted()) return;
     typed().take_user_click();
@@ -109,9 +127,9 @@ class NativeCheckBox : public PeerOf<CheckBox> {
   }
 };
 
-class NativeOptionButton : public PeerOf<OptionButton> {
+class NativeOptionButton : public ButtonPeer<OptionButton> {
  public:
-  using PeerOf::PeerOf;
+  using ButtonPeer::ButtonPeer;
   void on_command(UINT code) override {
     if (code != BN_CLICKED || muted()) return;
     typed().take_user_click();
@@ -156,6 +174,7 @@ class NativeStatusBar : public PeerOf<StatusBar> {
   }
   void show(Aspect aspect) override {
     if (aspect != Aspect::kText) return;
+    if (form().dark()) InvalidateRect(window(), nullptr, FALSE);
     for (int number = 1; number <= 3; ++number) {
       std::string& shown = shown_.at(static_cast<std::size_t>(number - 1));
       if (shown == typed().panel(number)) continue;
@@ -166,6 +185,12 @@ class NativeStatusBar : public PeerOf<StatusBar> {
         NotifyWinEvent(event, window(), OBJID_CLIENT, number);
       }
     }
+  }
+  bool on_message(UINT message, WPARAM& /*wparam*/, LPARAM /*lparam*/, LRESULT& result) override {
+    if (!form().dark() || (message != WM_PAINT && message != WM_ERASEBKGND)) return false;
+    if (message == WM_PAINT) paint_by(&draw_status);
+    result = 1;
+    return true;
   }
 
  private:

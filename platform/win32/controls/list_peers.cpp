@@ -4,6 +4,7 @@
 #include <string>
 
 #include "platform/win32/text_win32.h"
+#include "platform/win32/windows/dark_frame.h"
 #include "platform/win32/windows/form_window.h"
 
 namespace quenda {
@@ -18,6 +19,10 @@ class NativeListBox : public PeerOf<ListBox> {
   void on_command(UINT code) override {
     if (code == LBN_SELCHANGE && !muted()) take_selection();
   }
+  void apply_colors() override {
+    set_dark_scroll_bars(window(), form().dark());
+    NativeControl::apply_colors();
+  }
 
  protected:
   [[nodiscard]] WindowSpec spec() const override {
@@ -29,6 +34,10 @@ class NativeListBox : public PeerOf<ListBox> {
   void show(Aspect aspect) override {
     if (aspect == Aspect::kItems) show_items();
     if (aspect == Aspect::kItems || aspect == Aspect::kSelection) show_selection();
+  }
+
+  void prepare() override {
+    if (form().dark()) set_dark_scroll_bars(window(), true);
   }
 
   bool on_message(UINT message, WPARAM& /*wparam*/, LPARAM /*lparam*/,
@@ -110,6 +119,31 @@ class NativeComboList : public PeerOf<ComboList> {
     }
     if (aspect == Aspect::kItems || aspect == Aspect::kIndex) {
       send(CB_SETCURSEL, static_cast<WPARAM>(typed().list_index()));
+    }
+  }
+
+  bool on_message(UINT message, WPARAM& /*wparam*/, LPARAM /*lparam*/, LRESULT& result) override {
+    if (!form().dark()) return false;
+    switch (message) {
+      case WM_PAINT:
+        paint_by(&draw_combo);
+        return true;
+      case WM_ERASEBKGND:
+        result = 1;
+        return true;
+      case WM_MOUSEMOVE:
+      case WM_MOUSELEAVE:
+      case WM_SETFOCUS:
+      case WM_KILLFOCUS:
+      case WM_ENABLE:
+      case WM_CAPTURECHANGED:
+      case CB_SETCURSEL:
+      case CB_SHOWDROPDOWN:
+        // What the system draws at once is drawn over.
+        InvalidateRect(window(), nullptr, FALSE);
+        return false;
+      default:
+        return false;
     }
   }
 };

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/win32/text_win32.h"
+#include "platform/win32/windows/dark_frame.h"
 #include "platform/win32/windows/form_window.h"
 #include "text/text.h"
 
@@ -51,6 +52,17 @@ class NativeListView : public PeerOf<ListView> {
     refresh(Aspect::kColumns);
   }
 
+  void apply_colors() override {
+    const auto color = [&](Tone tone) {
+      return static_cast<LPARAM>(native(form().colors()[tone]));
+    };
+    send(LVM_SETBKCOLOR, 0, color(Tone::kField));
+    send(LVM_SETTEXTBKCOLOR, 0, color(Tone::kField));
+    send(LVM_SETTEXTCOLOR, 0, color(Tone::kFieldText));
+    set_dark_scroll_bars(window(), form().dark());
+    NativeControl::apply_colors();
+  }
+
  protected:
   [[nodiscard]] WindowSpec spec() const override {
     DWORD style = LVS_REPORT | LVS_OWNERDATA | LVS_SINGLESEL;
@@ -64,6 +76,7 @@ class NativeListView : public PeerOf<ListView> {
   void prepare() override {
     constexpr DWORD kStyles = LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER | LVS_EX_LABELTIP;
     send(LVM_SETEXTENDEDLISTVIEWSTYLE, kStyles, kStyles);
+    if (form().dark()) apply_colors();
   }
 
   void show(Aspect aspect) override {
@@ -89,6 +102,12 @@ class NativeListView : public PeerOf<ListView> {
   /// Enter belongs to a list that listens to keys, not to the form's default button.
   bool on_message(UINT message, WPARAM& /*wparam*/, LPARAM lparam, LRESULT& result) override {
     if (message == WM_SIZE && !shown_columns_.empty()) show_columns();
+    if (message == WM_NOTIFY && form().dark()) {
+      const auto& notice = *from_lparam<NMHDR>(lparam);
+      if (notice.code != NM_CUSTOMDRAW || notice.hwndFrom != header()) return false;
+      result = draw_heading(*from_lparam<NMCUSTOMDRAW>(lparam));
+      return true;
+    }
     const auto* const key = from_lparam<MSG>(lparam);
     if (message != WM_GETDLGCODE || key == nullptr || key->wParam != VK_RETURN) return false;
     if (!typed().on_key_down) return false;
@@ -143,9 +162,48 @@ class NativeListView : public PeerOf<ListView> {
     const auto column = static_cast<std::size_t>(drawn.iSubItem);
     if (column >= typed().columns().size()) return;
     const ColumnKind kind = typed().columns()[column].kind;
-    drawn.clrTextBk = column_color(kind);
-    const bool tinted = kind != ColumnKind::kNone && !high_contrast();
-    drawn.clrText = tinted ? RGB(0, 0, 0) : GetSysColor(COLOR_WINDOWTEXT);
+    const ColorScheme& colors = form().colors();
+    drawn.clrTextBk = native(colors[tone_of(kind)]);
+    drawn.clrText = native(colors[text_tone_of(kind)]);
+    const auto row = static_cast<WPARAM>(drawn.nmcd.dwItemSpec);
+    if (!form().dark() || send(LVM_GETITEMSTATE, row, LVIS_SELECTED) == 0) return;
+    // The system would take its own light colours for a selection without the focus.
+    const bool focus = GetFocus() == window();
+    if (!focus && (GetWindowLongPtrW(window(), GWL_STYLE) & LVS_SHOWSELALWAYS) == 0) return;
+    drawn.nmcd.uItemState &= ~static_cast<UINT>(CDIS_SELECTED);
+    drawn.clrTextBk = native(colors[focus ? Tone::kSelected : Tone::kRestingSelection]);
+    drawn.clrText = native(colors[focus ? Tone::kSelectedText : Tone::kFieldText]);
+  }
+
+  [[nodiscard]] HWND header() const { return from_lparam<HWND__>(send(LVM_GETHEADER)); }
+
+  /// A heading by itself, and what no heading covers.
+  [[nodiscard]] LRESULT draw_heading(const NMCUSTOMDRAW& drawn) const {
+    const DarkPen with = pen(drawn.hdc);
+    switch (drawn.dwDrawStage) {
+      case CDDS_PREPAINT:
+        return CDRF_NOTIFYITEMDRAW | CDRF_NOTIFYPOSTPAINT;
+      case CDDS_ITEMPREPAINT: {
+        const auto column = static_cast<std::size_t>(drawn.dwItemSpec);
+        const auto& key = typed().order().key();
+        const int sorted = !key || key->column != column ? 0 : key->descending ? 1 : -1;
+        const bool known = column < shown_columns_.size();
+        quenda::draw_heading(with, drawn.rc, known ? shown_columns_[column].heading : L"", sorted);
+        return CDRF_SKIPDEFAULT;
+      }
+      case CDDS_POSTPAINT: {
+        RECT rest{};
+        GetClientRect(header(), &rest);
+        RECT last{};
+        const LRESULT count = SendMessageW(header(), HDM_GETITEMCOUNT, 0, 0);
+        SendMessageW(header(), HDM_GETITEMRECT, static_cast<WPARAM>(count - 1), as_lparam(&last));
+        rest.left = last.right;
+        if (rest.left < rest.right) quenda::draw_heading(with, rest, L"", 0);
+        return CDRF_DODEFAULT;
+      }
+      default:
+        return CDRF_DODEFAULT;
+    }
   }
 
   /// The list is never asked which row is selected: it would look through all of them.
@@ -210,7 +268,7 @@ class NativeListView : public PeerOf<ListView> {
     std::vector<ShownColumn> wanted = wanted_columns();
     const auto& sorted_by = typed().order().key();
     if (wanted == shown_columns_ && sorted_by == shown_sorted_by_) return;
-    const auto header = from_lparam<HWND__>(send(LVM_GETHEADER));
+    const HWND header = this->header();
     const bool hidden = (GetWindowLongPtrW(window(), GWL_STYLE) & WS_VISIBLE) == 0;
     send(WM_SETREDRAW, FALSE);
     SendMessageW(header, WM_SETREDRAW, FALSE, 0);

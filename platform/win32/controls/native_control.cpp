@@ -147,6 +147,30 @@ void NativeControl::apply_font() {
   send(WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
 }
 
+void NativeControl::apply_colors() {
+  RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME);
+}
+
+DarkPen NativeControl::pen(HDC dc) const {
+  return {dc, form_.colors(), form_.place().fonts().plain.get(), form_.place().dpi()};
+}
+
+void NativeControl::paint_by(void (*draw)(const DarkPen& pen, HWND window)) const {
+  PAINTSTRUCT paint{};
+  const HDC screen = BeginPaint(window_, &paint);
+  if (screen == nullptr) return;
+  RECT area{};
+  GetClientRect(window_, &area);
+  const MemoryDc aside(CreateCompatibleDC(screen));
+  const Bitmap picture(CreateCompatibleBitmap(screen, area.right, area.bottom));
+  if (aside && picture) {
+    const Selected bitmap(aside.get(), picture.get());
+    draw(pen(aside.get()), window_);
+    BitBlt(screen, 0, 0, area.right, area.bottom, aside.get(), 0, 0, SRCCOPY);
+  }
+  EndPaint(window_, &paint);
+}
+
 void NativeControl::set_window_text(std::string_view text) const {
   const std::wstring shown = wide(text);
   if (window_text(window_) != shown) SetWindowTextW(window_, shown.c_str());
@@ -183,6 +207,9 @@ LRESULT NativeControl::handle(UINT message, WPARAM wparam, LPARAM lparam) noexce
       Answer{});
   if (answer.taken) return answer.result;
   const LRESULT result = CallWindowProcW(system_procedure_, window_, message, wparam, lparam);
+  if (message == WM_NCPAINT && form_.dark()) {
+    draw_border(form_.colors(), window_, form_.colors()[tone_behind(control_)]);
+  }
   if (message == WM_SETFOCUS) {
     form_.focus().took(*this);
     if (!muted_) loop.at_edge([&] { control_.take_user_focus(); });

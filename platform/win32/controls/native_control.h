@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "platform/controls/control.h"
+#include "platform/win32/controls/dark_paint.h"
 #include "platform/win32/controls/named_object.h"
 #include "platform/win32/handles.h"
 #include "platform/win32/windows/layout.h"
@@ -55,6 +56,8 @@ class NativeControl : public ControlPeer {
   virtual void place();
   /// The font, after the DPI or the user's settings changed.
   virtual void apply_font();
+  /// The colours, after the user's wish for dark windows changed.
+  virtual void apply_colors();
 
   /// A notice of the window to its parent: the code of WM_COMMAND.
   virtual void on_command(UINT /*code*/) {}
@@ -89,6 +92,10 @@ class NativeControl : public ControlPeer {
     return SendMessageW(window_, message, wparam, lparam);
   }
   void set_window_text(std::string_view text) const;
+  /// What pieces in the form's dark colours are drawn with.
+  [[nodiscard]] DarkPen pen(HDC dc) const;
+  /// Draws the whole window by a function of those.
+  void paint_by(void (*draw)(const DarkPen& pen, HWND window)) const;
 
  private:
   void show_common(Aspect aspect);

@@ -62,19 +62,19 @@ class NativeProgress : public PeerOf<PictureBox> {
     done.right = MulDiv(area.right, typed().percent(), 100);
     RECT open = area;
     open.left = done.right;
-    paint_part(aside.get(), done, area, COLOR_HIGHLIGHT, COLOR_HIGHLIGHTTEXT);
-    paint_part(aside.get(), open, area, COLOR_WINDOW, COLOR_WINDOWTEXT);
+    paint_part(aside.get(), done, area, Tone::kSelected, Tone::kSelectedText);
+    paint_part(aside.get(), open, area, Tone::kField, Tone::kFieldText);
     BitBlt(screen, 0, 0, area.right, area.bottom, aside.get(), 0, 0, SRCCOPY);
   }
 
   /// One of the two parts of the bar; the text runs across both and changes its colour where they
   /// meet.
-  void paint_part(HDC dc, const RECT& part, RECT whole, int background, int text) const {
+  void paint_part(HDC dc, const RECT& part, RECT whole, Tone background, Tone text) const {
     const int saved = SaveDC(dc);
     IntersectClipRect(dc, part.left, part.top, part.right, part.bottom);
-    FillRect(dc, &part, GetSysColorBrush(background));
+    FillRect(dc, &part, brush_in(dc, form().colors()[background]));
     SetBkMode(dc, TRANSPARENT);
-    SetTextColor(dc, GetSysColor(text));
+    SetTextColor(dc, native(form().colors()[text]));
     const std::wstring shown = wide(percentage());
     DrawTextW(dc, shown.c_str(), static_cast<int>(shown.size()), &whole,
               DT_CENTER | DT_VCENTER | DT_SINGLELINE);

@@ -129,7 +129,7 @@ class NativeSplitter : public PeerOf<Splitter> {
     if (dc == nullptr) return;
     RECT area{};
     GetClientRect(window(), &area);
-    FillRect(dc, &area, GetSysColorBrush(COLOR_3DFACE));
+    FillRect(dc, &area, brush_in(dc, form().colors()[Tone::kFace]));
     const int dpi = form().place().dpi();
     const int width = pixels_of(kGripWidth, dpi);
     const int height = pixels_of(kGripHeight, dpi);
@@ -138,7 +138,7 @@ class NativeSplitter : public PeerOf<Splitter> {
     grip.top = (area.bottom - height) / 2;
     grip.right = grip.left + width;
     grip.bottom = grip.top + height;
-    FillRect(dc, &grip, GetSysColorBrush(COLOR_3DSHADOW));
+    FillRect(dc, &grip, brush_in(dc, form().colors()[Tone::kGrip]));
     InflateRect(&area, 0, -1);
     if (GetFocus() == window()) DrawFocusRect(dc, &area);
     EndPaint(window(), &paint);

@@ -1,15 +1,14 @@
 #include "platform/win32/windows/form_window.h"
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 #include "platform/controls/simple_controls.h"
 #include "platform/win32/controls/control_peers.h"
-#include "platform/win32/controls/panel_window.h"
 #include "platform/win32/controls/splitter_peer.h"
 #include "platform/win32/text_win32.h"
 #include "platform/win32/windows/dropped_file.h"
+#include "platform/win32/windows/form_frame.h"
 #include "text/fault.h"
 #include "text/text.h"
 
@@ -17,24 +16,6 @@ namespace quenda {
 namespace {
 
 constexpr int kFirstId = 100;
-
-/// A dialog without controls, as the system wants it described: the fixed part, then menu, class
-/// and title as UTF-16 texts.
-struct DialogTemplate {
-  DLGTEMPLATE fixed{};
-  std::array<wchar_t, 16> texts{};
-};
-
-DialogTemplate dialog_template(const Form& form, bool over_owner) {
-  DialogTemplate made;
-  made.fixed.style = WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN;
-  made.fixed.style |= over_owner ? WS_POPUP | DS_MODALFRAME : WS_OVERLAPPED | WS_MINIMIZEBOX;
-  if (form.resizable()) made.fixed.style |= WS_THICKFRAME | WS_MAXIMIZEBOX;
-  made.fixed.dwExtendedStyle = WS_EX_CONTROLPARENT;
-  const std::wstring_view name = kFormClass;
-  std::copy(name.begin(), name.end(), made.texts.begin() + 1);
-  return made;
-}
 
 /// Arrow keys go round among the options of one array.
 bool begins_group(const Control* before, const Control& control) {
@@ -46,11 +27,9 @@ bool begins_group(const Control* before, const Control& control) {
 
 FormWindow::FormWindow(MessageLoop& loop, Form& form, HWND owner)
     : loop_(loop), form_(form), owner_(owner), place_(form, owner), captions_(form), names_(form) {
-  register_window_classes();
-  const DialogTemplate made = dialog_template(form, owner != nullptr);
-  window_.reset(CreateDialogIndirectParamW(GetModuleHandleW(nullptr), &made.fixed, owner,
-                                           &FormWindow::procedure, as_lparam(this)));
+  window_ = make_form_window(form, owner, &FormWindow::procedure, as_lparam(this));
   if (!window_) raise_fault(kFaultOutOfMemory);
+  colors_.follow(window());
   place_.place(window());
   captions_.renew();
   create_controls(window(), nullptr);
@@ -134,6 +113,11 @@ NativeControl* FormWindow::peer_of(const Control& control) {
 NativeControl* FormWindow::peer_of(HWND window) const {
   NativeControl* const native = peer_of(GetDlgCtrlID(window));
   return native != nullptr && native->window() == window ? native : nullptr;
+}
+
+const Control* FormWindow::control_at(HWND window) const {
+  const NativeControl* const peer = peer_of(window);
+  return peer == nullptr ? nullptr : &peer->control();
 }
 
 NativeControl* FormWindow::peer_of(int id) const {
@@ -263,13 +247,11 @@ void FormWindow::on_command(UINT code, int id, HWND control) {
   }
 }
 
-INT_PTR FormWindow::color(WPARAM dc, HWND control) const {
-  const NativeControl* const native = peer_of(control);
-  if (native == nullptr) return FALSE;
-  const int color = system_color_behind(native->control());
-  auto* const surface = from_lparam<HDC__>(static_cast<LPARAM>(dc));
-  SetBkColor(surface, GetSysColor(color));
-  return as_lparam(GetSysColorBrush(color));
+void FormWindow::follow_colors() {
+  colors_.follow(window());
+  for (const auto& control : controls_) {
+    if (control->window() != nullptr) control->apply_colors();
+  }
 }
 
 INT_PTR FormWindow::answer(LRESULT result) const {
@@ -293,7 +275,8 @@ INT_PTR FormWindow::on_message(UINT message, WPARAM wparam, LPARAM lparam) {
     case WM_CTLCOLORLISTBOX:
     case WM_CTLCOLORBTN:
     case WM_CTLCOLORSTATIC:
-      return color(wparam, from_lparam<HWND__>(lparam));
+    case WM_CTLCOLORDLG:
+      return colors_.answer(message, wparam, control_at(from_lparam<HWND__>(lparam)));
     case WM_SETCURSOR:
       if (form_.pointer() != Pointer::kHourglass || LOWORD(lparam) != HTCLIENT) return FALSE;
       SetCursor(LoadCursorW(nullptr, IDC_WAIT));
@@ -330,7 +313,9 @@ INT_PTR FormWindow::on_message(UINT message, WPARAM wparam, LPARAM lparam) {
       follow_scale();
       return TRUE;
     case WM_SETTINGCHANGE:
+    case WM_SYSCOLORCHANGE:
       place_.on_settings(window());
+      follow_colors();
       follow_scale();
       return FALSE;
     case WM_DROPFILES:

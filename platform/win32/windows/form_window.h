@@ -8,6 +8,7 @@
 #include "platform/win32/controls/native_control.h"
 #include "platform/win32/handles.h"
 #include "platform/win32/windows/focus_keeper.h"
+#include "platform/win32/windows/form_colors.h"
 #include "platform/win32/windows/form_place.h"
 #include "platform/win32/windows/keyed_captions.h"
 #include "platform/win32/windows/message_loop.h"
@@ -37,6 +38,8 @@ class FormWindow : public ControlPeer, public LoopClient {
   [[nodiscard]] KeyedCaptions& captions() { return captions_; }
   [[nodiscard]] ReaderNames& names() { return names_; }
   [[nodiscard]] const FormPlace& place() const { return place_; }
+  [[nodiscard]] const ColorScheme& colors() const { return colors_.scheme(); }
+  [[nodiscard]] bool dark() const { return colors_.dark(); }
 
   /// A frame has come into view: its controls get their windows, if they have none yet, and the
   /// focus when the work at hand is done.
@@ -67,11 +70,13 @@ class FormWindow : public ControlPeer, public LoopClient {
   [[nodiscard]] NativeControl* peer_of(int id) const;
   /// That of a window; null for a window that is no control of this form.
   [[nodiscard]] NativeControl* peer_of(HWND window) const;
+  [[nodiscard]] const Control* control_at(HWND window) const;
 
   INT_PTR on_message(UINT message, WPARAM wparam, LPARAM lparam);
   INT_PTR answer(LRESULT result) const;
   void on_command(UINT code, int id, HWND control);
-  [[nodiscard]] INT_PTR color(WPARAM dc, HWND control) const;
+  /// The colours that the user wants now, in the frame and in every control.
+  void follow_colors();
   /// The form's caption. While the window is minimised the progress stands before it, since there
   /// is no other place to see it.
   void show_title() const;
@@ -85,6 +90,7 @@ class FormWindow : public ControlPeer, public LoopClient {
   Form& form_;
   HWND owner_;
   FormPlace place_;
+  FormColors colors_;
   WindowIcons icons_;
   KeyedCaptions captions_;
   ReaderNames names_;

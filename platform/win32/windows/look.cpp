@@ -1,6 +1,7 @@
 #include "platform/win32/windows/look.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <string_view>
 
@@ -26,6 +27,35 @@ int scale_of(const LOGFONTW& font, int dpi) {
   return MulDiv(std::abs(font.lfHeight), kNormalScale * kPixelsPerInch, kDesignedPixels * dpi);
 }
 
+bool high_contrast() {
+  HIGHCONTRASTW setting{};
+  setting.cbSize = sizeof setting;
+  return SystemParametersInfoW(SPI_GETHIGHCONTRAST, sizeof setting, &setting, 0) != 0 &&
+         (setting.dwFlags & HCF_HIGHCONTRASTON) != 0;
+}
+
+bool wants_dark() {
+  DWORD light = 1;
+  DWORD size = sizeof light;
+  RegGetValueW(HKEY_CURRENT_USER,
+               L"Software\\Microsoft\\Windows\\CurrentVersion\\Themes\\Personalize",
+               L"AppsUseLightTheme", RRF_RT_REG_DWORD, nullptr, &light, &size);
+  return light == 0;
+}
+
+SystemColors system_colors() {
+  constexpr std::array kIndexes = {COLOR_3DFACE,    COLOR_3DSHADOW,     COLOR_BTNTEXT,
+                                   COLOR_WINDOW,    COLOR_WINDOWTEXT,   COLOR_GRAYTEXT,
+                                   COLOR_HIGHLIGHT, COLOR_HIGHLIGHTTEXT};
+  SystemColors colors;
+  static_assert(colors.size() == kIndexes.size());
+  for (std::size_t i = 0; i < kIndexes.size(); ++i) {
+    const COLORREF color = GetSysColor(kIndexes[i]);
+    colors[i] = {GetRValue(color), GetGValue(color), GetBValue(color)};
+  }
+  return colors;
+}
+
 }  // namespace
 
 int text_scale(int dpi) {
@@ -49,36 +79,51 @@ Fonts::Fonts(int dpi, int scale) {
   heading.reset(CreateFontIndirectW(&large));
 }
 
-int system_color_behind(const Control& control) {
+ColorScheme wanted_colors() {
+  const SystemColors system = system_colors();
+  return color_scheme(look_mode(high_contrast(), wants_dark(), system), system);
+}
+
+COLORREF native(Color color) { return RGB(color.red, color.green, color.blue); }
+
+HBRUSH brush_in(HDC dc, Color color) {
+  SetDCBrushColor(dc, native(color));
+  return static_cast<HBRUSH>(GetStockObject(DC_BRUSH));
+}
+
+Tone tone_behind(const Control& control) {
   switch (control.kind()) {
     case ControlKind::kLabel:
     case ControlKind::kFrame:
     case ControlKind::kCheckBox:
     case ControlKind::kOptionButton:
       for (const Control* at = &control; at != nullptr; at = at->parent()) {
-        if (at->back_color() == BackColor::kWindow) return COLOR_WINDOW;
+        if (at->back_color() == BackColor::kWindow) return Tone::kField;
       }
-      return COLOR_3DFACE;
+      return Tone::kFace;
     default:
-      return control.takes_input() && control.back_color() == BackColor::kWindow ? COLOR_WINDOW
-                                                                                 : COLOR_3DFACE;
+      return control.takes_input() && control.back_color() == BackColor::kWindow ? Tone::kField
+                                                                                 : Tone::kFace;
   }
 }
 
-COLORREF column_color(ColumnKind kind) {
-  if (high_contrast()) return GetSysColor(COLOR_WINDOW);
+Tone tone_of(ColumnKind kind) {
   switch (kind) {
     case ColumnKind::kName:
-      return RGB(255, 247, 204);
+      return Tone::kName;
     case ColumnKind::kNumber:
-      return RGB(216, 240, 216);
+      return Tone::kNumber;
     case ColumnKind::kAddress1:
-      return RGB(214, 232, 250);
+      return Tone::kAddress1;
     case ColumnKind::kAddress2:
-      return RGB(240, 222, 246);
+      return Tone::kAddress2;
     default:
-      return GetSysColor(COLOR_WINDOW);
+      return Tone::kField;
   }
+}
+
+Tone text_tone_of(ColumnKind kind) {
+  return kind == ColumnKind::kNone ? Tone::kFieldText : Tone::kChosenText;
 }
 
 std::wstring_view column_mark(ColumnKind kind) {
@@ -94,13 +139,6 @@ std::wstring_view column_mark(ColumnKind kind) {
     default:
       return L"";
   }
-}
-
-bool high_contrast() {
-  HIGHCONTRASTW setting{};
-  setting.cbSize = sizeof setting;
-  return SystemParametersInfoW(SPI_GETHIGHCONTRAST, sizeof setting, &setting, 0) != 0 &&
-         (setting.dwFlags & HCF_HIGHCONTRASTON) != 0;
 }
 
 }  // namespace quenda

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/controls/color_scheme.h"
 #include "platform/controls/control.h"
 #include "platform/controls/list_view.h"
 #include "platform/win32/handles.h"
@@ -18,18 +19,22 @@ struct Fonts {
   Font heading;
 };
 
-/// The background behind a control, a system colour. A label or box without a colour of its own
-/// takes that of the frame it lies on; a field that takes no input is grey.
-int system_color_behind(const Control& control);
+/// As the user wants windows to look now.
+ColorScheme wanted_colors();
+COLORREF native(Color color);
+/// Of that colour, for the next piece of drawing in the surface.
+HBRUSH brush_in(HDC dc, Color color);
 
-/// The background of a preview column chosen for something; the window colour for the others, and
-/// for all while the user has asked for high contrast.
-COLORREF column_color(ColumnKind kind);
+/// What is behind a control. A label or box without a colour of its own takes that of the frame it
+/// lies on; a field that takes no input has that of the window.
+Tone tone_behind(const Control& control);
+
+/// The background of a preview column, and what stands on it.
+Tone tone_of(ColumnKind kind);
+Tone text_tone_of(ColumnKind kind);
 
 /// The mark before a chosen column's heading: the colour alone says nothing to a user who cannot
 /// see or tell it.
 std::wstring_view column_mark(ColumnKind kind);
-
-bool high_contrast();
 
 }  // namespace quenda
