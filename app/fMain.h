@@ -18,7 +18,6 @@
 #include "book/pages/entry_page.h"
 #include "book/pages/way_back.h"
 #include "platform/files.h"
-#include "settings/result_settings.h"
 #include "sources/pages/outlook_page.h"
 #include "sources/pages/source_page.h"
 #include "text/flat_table.h"
@@ -92,7 +91,6 @@ class fMain : public WizardShell,
   void write_report();
   [[nodiscard]] const MergeRun* last_merge() const { return last_merge_.get(); }
 
-  ResultSettings result_settings;
   LineEnd book_line_end = LineEnd::kCrLf;  // of the book that was read last
 
  private:

@@ -5,7 +5,6 @@
 #include "app/fMain.h"
 #include "platform/files.h"
 #include "settings/app.h"
-#include "settings/result_text.h"
 #include "sources/delimited_text.h"
 #include "support/procedure.h"
 #include "text/entry_origin.h"
@@ -78,7 +77,7 @@ std::size_t fMain::account(const std::function<void(const ReportRow&)>& on_row) 
 }
 
 bool fMain::report_possible() {
-  const ReportFile report(result_settings.report);
+  const ReportFile report(app_.settings.report);
   if (!report.wanted() || report.on_terminal()) return false;
   const std::string path = source.kind() == Source::kOutlook ? "" : txtImpFile.text();
   const bool possible =
@@ -88,16 +87,15 @@ bool fMain::report_possible() {
 }
 
 void fMain::tell_no_report() {
-  app_.message_box(
-      replace_all(result_text(app_, "Import_Msg_ReportFailed"), "%1", result_settings.report),
-      MessageStyle::kExclamation);
+  app_.message_box(replace_all(app_.text("Import_Msg_ReportFailed"), "%1", app_.settings.report),
+                   MessageStyle::kExclamation);
 }
 
 void fMain::write_report() {
   const bool written = procedure(app_.errors, "fMain.write_report", {}, [&] {
     const BusyWork busy(*this);
     const bool from_outlook = source.kind() == Source::kOutlook;
-    ReportFile report(result_settings.report);
+    ReportFile report(app_.settings.report);
     report.head.version = app_.version();
     report.head.file = from_outlook ? "" : txtImpFile.text();
     report.head.source = from_outlook ? "outlook" : source.IsISpyFile ? "ispy" : "file";

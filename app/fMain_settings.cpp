@@ -22,8 +22,7 @@ void fMain::LoadPageOptions() {
     EntryPage::load(app_.settings);
     SourcePage::load(app_.settings);
     OutlookPage::load(app_.settings);
-    result_settings = load_result_settings(app_.ini);
-    chkBackup.set_ticked(result_settings.backup);
+    chkBackup.set_ticked(app_.settings.backup == 1);
   }).or_go_on();
 }
 
@@ -68,8 +67,8 @@ void fMain::SaveOptions(bool delimited_file) {
     EntryPage::save(app_.settings);
     SourcePage::save(app_.settings);
     OutlookPage::save(app_.settings);
+    app_.settings.backup = chkBackup.ticked() ? 1 : 0;
     save_page_options(app_.ini, app_.settings);
-    save_backup(app_.ini, chkBackup.ticked());
     if (!delimited_file) return;
     NamePage::save(app_.settings);
     AddressPage::save(app_.settings);

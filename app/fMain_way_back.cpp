@@ -10,7 +10,6 @@
 #include "platform/clock.h"
 #include "platform/files.h"
 #include "settings/app.h"
-#include "settings/result_text.h"
 #include "sources/file_findings.h"
 #include "support/procedure.h"
 #include "text/date_text.h"
@@ -39,10 +38,10 @@ BookBackup fMain::book_backup() {
   return {app_.machine.files,
           app_.paths.book_file(),
           {.book = book_texts(),
-           .not_saved = result_text(app_, "Import_Msg_BackupFailed"),
-           .copy_is = result_text(app_, "Import_Msg_BackupIs"),
-           .record_damaged = result_text(app_, "Import_Msg_UndoDamaged"),
-           .keeps_changing = result_text(app_, "Import_Msg_UndoBookKeepsChanging")}};
+           .not_saved = app_.text("Import_Msg_BackupFailed"),
+           .copy_is = app_.text("Import_Msg_BackupIs"),
+           .record_damaged = app_.text("Import_Msg_UndoDamaged"),
+           .keeps_changing = app_.text("Import_Msg_UndoBookKeepsChanging")}};
 }
 
 ReplaceResult fMain::replace_book(const MergeRun& run, const BookChange& change) {
@@ -79,7 +78,7 @@ void fMain::ask_and_take_back() {
   BookBackup backup = book_backup();
   const std::string when = backup.import_time();
   if (!when.empty()) {
-    const std::string question = finding_text(result_text(app_, "Import_Msg_UndoQuestion"), {when});
+    const std::string question = finding_text(app_.text("Import_Msg_UndoQuestion"), {when});
     if (app_.message_box(question, MessageStyle::kQuestionYesNo) != MessageAnswer::kYes) return;
   }
   take_back_import();
@@ -116,22 +115,22 @@ void fMain::tell_of(const BookBackup::Outcome& outcome, const std::string& folde
   std::string text;
   switch (outcome.end) {
     case End::kNothing:
-      text = result_text(app_, "Import_Msg_UndoNothing");
+      text = app_.text("Import_Msg_UndoNothing");
       break;
     case End::kRestored:
-      text = finding_text(result_text(app_, "Import_Msg_UndoDone"), {outcome.when});
+      text = finding_text(app_.text("Import_Msg_UndoDone"), {outcome.when});
       break;
     case End::kPartly:
-      text = finding_text(result_text(app_, "Import_Msg_UndoPartly"),
+      text = finding_text(app_.text("Import_Msg_UndoPartly"),
                           {outcome.when, std::to_string(outcome.taken)});
       break;
     case End::kNothingLeft:
-      text = finding_text(result_text(app_, "Import_Msg_UndoNothingLeft"), {outcome.when, folder});
+      text = finding_text(app_.text("Import_Msg_UndoNothingLeft"), {outcome.when, folder});
       break;
   }
   if (outcome.end == End::kPartly && !outcome.untouched.empty()) {
-    text += concat(kCrLf, finding_text(result_text(app_, "Import_Msg_UndoUntouched"),
-                                       {names_of(outcome.untouched)}));
+    text += concat(
+        kCrLf, finding_text(app_.text("Import_Msg_UndoUntouched"), {names_of(outcome.untouched)}));
   }
   const bool changed = outcome.end == End::kRestored || outcome.end == End::kPartly;
   app_.message_box(

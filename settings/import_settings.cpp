@@ -34,6 +34,7 @@ struct Setting {
   std::string_view text_standard = {};
   bool keeps_text = false;    // the default is the text that the field has
   bool only_written = false;  // never read back
+  bool only_read = false;     // set by hand
   bool optional = false;      // not written as long as it has its default and is not in the file
 };
 
@@ -70,6 +71,9 @@ constexpr Setting text(Group group, std::string_view key, std::string_view stand
 constexpr Setting option(std::string_view key, std::int32_t& (*field)(ImportSettings&)) {
   return {.group = Group::kPage, .key = key, .number = field, .max = 1, .optional = true};
 }
+constexpr Setting set_by_hand(std::string_view key, std::string& (*field)(ImportSettings&)) {
+  return {.group = Group::kPage, .key = key, .text = field, .only_read = true};
+}
 constexpr Setting suffix(std::string_view key, std::string& (*field)(ImportSettings&)) {
   return {.group = Group::kHeader, .key = key, .text = field, .keeps_text = true};
 }
@@ -98,6 +102,8 @@ constexpr std::array kSettings = {
     text(Group::kPage, "OlNumber", "10010010000", kField<&ImportSettings::ol_number>),
     text(Group::kPage, "OlAdress", "10010000000000", kField<&ImportSettings::ol_adress>),
     option("Convert", kField<&ImportSettings::convert>),
+    option("Backup", kField<&ImportSettings::backup>),
+    set_by_hand("Report", kField<&ImportSettings::report>),
     outlook_suffix("OLNameExt1", kOutlookSuffix<0>),
     outlook_suffix("OLNameExt2", kOutlookSuffix<1>),
     outlook_suffix("OLNameExt3", kOutlookSuffix<2>),
@@ -160,7 +166,7 @@ void save(modAPI_INI& ini, const ImportSettings& settings, Group group) {
   ImportSettings copy = settings;
   const Home home = home_of(group);
   for (const Setting& entry : kSettings) {
-    if (entry.group != group) continue;
+    if (entry.group != group || entry.only_read) continue;
     const std::string value =
         entry.number != nullptr ? std::to_string(entry.number(copy)) : entry.text(copy);
     const bool standard = entry.optional && entry.number(copy) == entry.standard;

@@ -41,6 +41,8 @@ struct ImportSettings {
   std::int32_t ask = 0;
   std::int32_t min_name_length = 1;  // 1 keeps names below 3 characters out
   std::int32_t convert = 0;          // 1 adapts files of other encodings and kinds
+  std::int32_t backup = 0;           // 1 copies the book before it is written
+  std::string report;                // file that tells of every number; set by hand
   std::int32_t ol_name_flip = 0;
   std::int32_t ol_address_flip = 0;
   std::string ol_number = "10010010000";                 // one "1" or "0" per number box

@@ -16,7 +16,7 @@ namespace quenda {
 
 void BatchRun::take_report_of_settings() {
   // The form would write it by itself, and of a run that came through only.
-  const std::string path = std::exchange(main_.result_settings.report, {});
+  const std::string path = std::exchange(app_.settings.report, {});
   if (options_.report || path.empty()) return;
   report_ = ReportFile(path);
   main_.wizard.account_wanted = true;

@@ -1,7 +1,6 @@
 #include "book/pages/way_back.h"
 
 #include "settings/app.h"
-#include "settings/result_text.h"
 #include "support/procedure.h"
 #include "wizard/shell/design.h"
 
@@ -31,8 +30,8 @@ WayBack::WayBack(WizardShell& shell) : shell_(shell) {
 }
 
 void WayBack::load_captions() {
-  cmdUndo.set_caption(result_text(shell_.app, "Import_Button_Undo"));
-  chkBackup.set_caption(result_text(shell_.app, "Import_ChkBox_Backup"));
+  cmdUndo.set_caption(shell_.app.text("Import_Button_Undo"));
+  chkBackup.set_caption(shell_.app.text("Import_ChkBox_Backup"));
 }
 
 void WayBack::cmdUndo_Click() {

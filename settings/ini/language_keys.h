@@ -6,12 +6,14 @@
 
 #include "settings/ini/file_report_keys.h"
 #include "settings/ini/language_key.h"
+#include "settings/ini/result_keys.h"
 #include "text/literal_1252.h"
 
 namespace quenda {
 
-/// Every text that the program asks for, but those about the file to be read, which have a table of
-/// their own. "<CR>" stands for a line break, as in language files.
+/// Every text that the program asks for, but those about the file to be read and those about what
+/// becomes of an import, which have tables of their own. "<CR>" stands for a line break, as in
+/// language files.
 inline constexpr std::array kLanguageKeys = {
     // Shared by all programs of the suite.
     LanguageKey{"Message_BackupExists", "Es existiert eine Sicherungskopie!"},
@@ -223,8 +225,8 @@ inline constexpr std::array kLanguageKeys = {
 };
 
 /// All tables of texts.
-inline constexpr std::array<std::span<const LanguageKey>, 2> kLanguageTables = {kLanguageKeys,
-                                                                                kFileReportKeys};
+inline constexpr std::array<std::span<const LanguageKey>, 3> kLanguageTables = {
+    kLanguageKeys, kFileReportKeys, kResultKeys};
 
 namespace language_detail {
 /// The entry of a key; without key where there is none. A value, no pointer: g++ 12 takes the

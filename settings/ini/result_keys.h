@@ -1,8 +1,6 @@
 #pragma once
 
 #include <array>
-#include <cstddef>
-#include <string_view>
 
 #include "settings/ini/language_key.h"
 #include "text/literal_1252.h"
@@ -44,19 +42,6 @@ inline constexpr std::array kResultKeys = {
                 u8"kann: Das Telefonbuch ist, wie es davor war."_de},
     // The report.
     LanguageKey{"Import_Msg_ReportFailed", u8"Der Bericht kann nicht geschrieben werden: %1"_de},
-};
-
-/// A key of that table: one that it lacks does not compile.
-class ResultKey {
- public:
-  consteval ResultKey(const char* key) {
-    while (kResultKeys.at(index_).key != std::string_view(key)) ++index_;
-  }
-  [[nodiscard]] constexpr std::string_view key() const { return kResultKeys[index_].key; }
-  [[nodiscard]] constexpr std::string_view german() const { return kResultKeys[index_].german; }
-
- private:
-  std::size_t index_ = 0;
 };
 
 }  // namespace quenda

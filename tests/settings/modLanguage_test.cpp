@@ -13,7 +13,6 @@
 #include <string_view>
 
 #include "settings/ini/language_keys.h"
-#include "settings/ini/result_keys.h"
 #include "tests/shared/settings_service.h"
 #include "text/text.h"
 
@@ -102,8 +101,6 @@ Keys keys_in_sources() {
   return keys;
 }
 
-constexpr std::span<const LanguageKey> kTables[] = {kLanguageKeys, kFileReportKeys, kResultKeys};
-
 // A key that the table lacks would show nothing, one that nobody asks for would be translated in
 // vain.
 TEST(LanguageKeys, AreThoseThatTheProgramAsksForEachOnce) {
@@ -112,7 +109,7 @@ TEST(LanguageKeys, AreThoseThatTheProgramAsksForEachOnce) {
   // The words in the list of delimiters are fixed; language files have them all the same.
   asked.insert({"Import_String_Semicolon", "Import_String_Comma", "Import_String_Tabulator"});
   Keys known;
-  for (const auto table : kTables) {
+  for (const auto table : kLanguageTables) {
     for (const LanguageKey& entry : table) {
       EXPECT_TRUE(known.emplace(entry.key).second) << entry.key;
       EXPECT_FALSE(entry.german.empty()) << entry.key;
@@ -126,7 +123,7 @@ TEST(LanguageKeys, StandAllInTheEnglishFileAndNoOthers) {
   const std::string english{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
   const IniText texts(english);
   std::size_t keys = 0;
-  for (const auto table : kTables) {
+  for (const auto table : kLanguageTables) {
     keys += table.size();
     for (const LanguageKey& entry : table) {
       EXPECT_NE(texts.text("Data", entry.key, ""), "") << entry.key;
