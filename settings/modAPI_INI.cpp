@@ -35,8 +35,6 @@ const IniText& modAPI_INI::load(const std::string& path) {
   if (stamp != loaded->stamp) {
     loaded->stamp = stamp;
     loaded->text = IniText();
-    // Where a folder stands in place of the settings, the defaults count.
-    if (files_.has_folder(path)) return loaded->text;
     const bool done = procedure_with_own_report(
         errors_, "modAPI_INI.load", {path},
         [&] {
