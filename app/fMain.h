@@ -21,6 +21,7 @@
 #include "sources/pages/outlook_page.h"
 #include "sources/pages/source_page.h"
 #include "text/flat_table.h"
+#include "text/repeated_lines.h"
 #include "wizard/composition.h"
 #include "wizard/page_flow.h"
 #include "wizard/pages/address_page.h"
@@ -128,15 +129,17 @@ class fMain : public WizardShell,
   /// Whether the settings want a report that can be written; the user is told when it cannot.
   [[nodiscard]] bool report_possible();
   void tell_no_report();
-  SourceLines source_lines();
-  std::size_t walk_source(const SourceLines& lines, const OnSourceNumber& on_number);
+  /// In which lines of its file each record of the source begins.
+  void find_source_lines();
+  std::size_t walk_source(ListRows& listed, const OnSourceNumber& on_number);
 
   App& app_;
   bool book_written_ = false;
   bool report_wanted_ = false;
   std::unique_ptr<MergeRun> last_merge_;
-  std::size_t composed_records_ = 0;  // of a file, by the last composition
-  FlatTable entries_{kEntryColumns};  // being collected; the final list takes them over
+  std::size_t composed_records_ = 0;    // of a file, by the last composition
+  FlatTable entries_{kEntryColumns};    // being collected; the final list takes them over
+  std::vector<RepeatedLine> repeated_;  // among them
 };
 
 }  // namespace quenda

@@ -25,54 +25,64 @@ bool fMain::look_ahead() {
   return run.end != MergeRun::End::kFailed;
 }
 
-SourceLines fMain::source_lines() {
-  if (source.kind() == Source::kOutlook) return {};
-  if (source.kind() == Source::kIspy) return lines_of_log(*source.ImportText);
-  if (source.converted) return source.lines;
-  // The cleaning has changed the text, so the file is looked at once more. One that is gone by now
-  // leaves the lines as they would be without breaks inside of records.
-  SourceLines lines;
-  skip_faults({[&] {
-    lines = lines_of_records(app_.machine.files.read(txtImpFile.text()), source.Delimiter.front(),
-                             source.ImportRows.size());
-  }});
-  return lines;
+void fMain::find_source_lines() {
+  if (source.lines_found) return;
+  source.lines_found = true;
+  if (source.kind() == Source::kIspy) {
+    source.lines = lines_of_log(*source.ImportText);
+  } else if (source.kind() == Source::kFile) {
+    // The cleaning has changed the text, so the file is looked at once more. One that is gone by
+    // now leaves the lines as they would be without breaks inside of records.
+    skip_faults({[&] {
+      source.lines = lines_of_records(app_.machine.files.read(txtImpFile.text()),
+                                      source.Delimiter.front(), source.ImportRows.size());
+    }});
+  }
 }
 
-std::size_t fMain::walk_source(const SourceLines& lines, const OnSourceNumber& on_number) {
+std::size_t fMain::walk_source(ListRows& listed, const OnSourceNumber& on_number) {
   const CleanNumber clean = number_cleaner();
   switch (source.kind()) {
     case Source::kIspy:
-      return walk_call_log(source.ImportRows, lines, source.Delimiter, on_number);
+      return walk_call_log(source.ImportRows, source.lines, source.Delimiter, on_number);
     case Source::kOutlook:
       return walk_contacts(contacts(), OutlookPage::choice(), clean, chkNameLen.ticked(),
                            on_number);
     case Source::kFile:
       break;
   }
-  return walk_file(source.ImportRows, lines, source.Delimiter.front(), composition(), clean,
-                   chkNameLen.ticked(), composed_records_, on_number);
+  const Composition composed = composition();
+  return walk_file({.records = source.ImportRows,
+                    .lines = source.lines,
+                    .delimiter = source.Delimiter.front(),
+                    .composition = composed,
+                    .clean = clean,
+                    .suppress_short_names = chkNameLen.ticked(),
+                    .until = composed_records_},
+                   listed, on_number);
 }
 
 std::size_t fMain::account(const std::function<void(const ReportRow&)>& on_row) {
   const MergeRun* const run = last_merge_.get();
   const bool merged = run != nullptr && run->account && run->end != MergeRun::End::kFailed;
-  const FlatTable& list = lstImpFinal.table();
-  const SourceLines lines = source_lines();
+  find_source_lines();
+  // A composition that failed has left its repeats where they are.
+  if (composition_failed() && repeated_.empty()) repeated_ = remove_repeated_lines(entries_);
   const auto verdict = [&](std::size_t row) {
     return merged ? run->account->of(row) : MergeAccount::Verdict{Fate::kUnread, {}, {}};
   };
-  const auto line_of_row = [&](std::size_t row) -> std::uint64_t {
+  const auto line_of = [&](std::uint32_t origin) -> std::uint64_t {
     const bool has_lines = source.kind() != Source::kOutlook;
-    return has_lines ? lines.line_of(list.origin(row) >> kOriginRowBits) : 0;
+    return has_lines ? source.lines.line_of(origin >> kOriginRowBits) : 0;
   };
   return account_for(
-      {.walk = [&](const OnSourceNumber& tell) { return walk_source(lines, tell); },
-       .list = list,
+      {.walk = [&](ListRows& listed, const auto& tell) { return walk_source(listed, tell); },
+       .list = lstImpFinal.table(),
+       .repeated = repeated_,
        .composed = !composition_failed(),
        .verdict = verdict,
-       .line_of_row = line_of_row,
-       .name_in_book = [&](std::size_t entry) { return run->list->contact(entry).name; }},
+       .line_of = line_of,
+       .name_in_book = [&](std::size_t entry) { return run->list->name(entry); }},
       on_row);
 }
 
@@ -100,8 +110,8 @@ void fMain::write_report() {
     report.head.file = from_outlook ? "" : txtImpFile.text();
     report.head.source = from_outlook ? "outlook" : source.IsISpyFile ? "ispy" : "file";
     report.head.result = last_merge_->end == MergeRun::End::kWritten ? "data" : "nodata";
-    report.head.records = account([&](const ReportRow& row) { report.add(row); });
-    report.write(app_.machine.files);
+    report.head.records = account([&](const ReportRow& row) { report.count(row); });
+    report.write(app_.machine.files, [&](const auto& on_row) { account(on_row); });
   });
   if (!written) tell_no_report();
 }

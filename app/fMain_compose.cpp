@@ -5,7 +5,7 @@
 #include "book/number_cleaning.h"
 #include "settings/app.h"
 #include "support/procedure.h"
-#include "text/characters.h"
+#include "text/repeated_lines.h"
 #include "text/text.h"
 #include "wizard/composition.h"
 #include "wizard/shell/busy.h"
@@ -56,6 +56,7 @@ bool fMain::Scramble() {
     StatusBar.set_panel(2, texts["Import_Info_DataSetClean"]);
     lstImpFinal.clear();
     entries_.clear();
+    repeated_.clear();
     composed_records_ = 0;
     EntryComposer composer(composition(), source.Delimiter.front(), number_cleaner());
     const std::size_t count = source.ImportRows.size();
@@ -66,7 +67,7 @@ bool fMain::Scramble() {
       step(record + 1, count);
     }
     StatusBar.set_panel(2, texts["Import_Info_EraseMultible"]);
-    remove_repeated_lines(entries_, [this] { answer_events(); });
+    repeated_ = remove_repeated_lines(entries_, [this] { answer_events(); });
     listed = ListUpdate();
     StatusBar.set_panel(2, "");
   });

@@ -7,7 +7,7 @@
 #include "book/entry_list.h"
 #include "settings/app.h"
 #include "support/procedure.h"
-#include "text/characters.h"
+#include "text/repeated_lines.h"
 #include "wizard/shell/busy.h"
 
 namespace quenda {
@@ -18,6 +18,7 @@ bool fMain::PreviewEntries() {
     const BusyWork busy(*this);
     lstImpFinal.clear();
     entries_.clear();
+    repeated_.clear();
     const FlatTable& preview = lstImport.table();
     for (std::size_t row = 0; row < preview.rows(); ++row) {
       const std::string number = fCleanNumbers(preview.cell(row, kPreviewNumber));
@@ -27,7 +28,7 @@ bool fMain::PreviewEntries() {
           preview.origin(row));
       step(row + 1, preview.rows());
     }
-    remove_repeated_lines(entries_, [this] { answer_events(); });
+    repeated_ = remove_repeated_lines(entries_, [this] { answer_events(); });
     listed = ListUpdate();
   });
   return came_through && listed;

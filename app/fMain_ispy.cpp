@@ -9,9 +9,9 @@
 #include "settings/app.h"
 #include "sources/ispy_log.h"
 #include "support/procedure.h"
-#include "text/characters.h"
 #include "text/entry_origin.h"
 #include "text/entry_text.h"
+#include "text/repeated_lines.h"
 #include "text/text.h"
 #include "wizard/shell/busy.h"
 
@@ -22,6 +22,7 @@ bool fMain::ISpyImport() {
     const BusyWork busy(*this);
     lstImpFinal.clear();
     entries_.clear();
+    repeated_.clear();
     app_.machine.events.yield();
     const RecordTable& lines = source.ImportRows;
     StatusBar.set_panel(2, texts["Import_Info_ItemsAnalyze"]);
@@ -37,7 +38,7 @@ bool fMain::ISpyImport() {
       }
     }
     StatusBar.set_panel(2, texts["Import_Info_EraseMultible"]);
-    remove_repeated_lines(entries_, [this] { answer_events(); });
+    repeated_ = remove_repeated_lines(entries_, [this] { answer_events(); });
     StatusBar.set_panel(2, texts["Import_Info_ItemsRecycle"]);
     lstImpFinal.set_table(caller_rows(std::exchange(entries_, FlatTable(kEntryColumns))));
   });

@@ -21,8 +21,8 @@
 #include "book/number_cleaning.h"
 #include "sources/delimited_text.h"
 #include "sources/record_table.h"
-#include "text/characters.h"
 #include "text/flat_table.h"
+#include "text/repeated_lines.h"
 #include "wizard/composition.h"
 
 namespace quenda {

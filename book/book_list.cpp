@@ -64,6 +64,12 @@ BookContact BookList::contact(std::size_t entry) const {
   return {rows_.cell(row(entry), kEntryName), rows_.cell(row(entry), kEntryAddress)};
 }
 
+std::string_view BookList::name(std::size_t entry) const {
+  if (entry >= in_book_) return rows_.cell(row(entry), kEntryName);
+  const std::string_view line = book_.substr(places_[entry]);
+  return line.substr(0, line.find(';'));
+}
+
 BookEntry BookList::entry(std::size_t entry) const {
   BookEntry result = own_entry(entry);
   if (marks_[entry] != Mark::kInherits) return result;

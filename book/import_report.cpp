@@ -1,6 +1,9 @@
 #include "book/import_report.h"
 
+#include <algorithm>
 #include <array>
+#include <charconv>
+#include <initializer_list>
 
 #include "text/text.h"
 
@@ -13,30 +16,47 @@ constexpr std::string_view kCsvHeader =
 
 /// A cell in quotes where a reader of CSV needs them.
 void append_csv_cell(std::string& out, std::string_view text) {
-  if (text.find_first_of(";\"\r\n") == text.npos) {
-    out += to_utf8(text);
-    return;
+  static constexpr CharacterSet kBreaking(";\"\r\n");
+  const bool quoted =
+      std::any_of(text.begin(), text.end(), [](char c) { return kBreaking.contains(c); });
+  if (!quoted) return append_utf8(out, text);
+  std::string_view part;
+  for (bool first = true; next_part(text, "\"", part); first = false) {
+    out += first ? "\"" : "\"\"";
+    append_utf8(out, part);
   }
   out += '"';
-  out += to_utf8(replace_all(text, "\"", "\"\""));
-  out += '"';
+}
+
+void append_number(std::string& out, std::uint64_t number) {
+  std::array<char, 20> digits{};
+  const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
+  out.append(digits.data(), end);
 }
 
 void append_json_text(std::string& out, std::string_view text) {
   constexpr std::string_view kHex = "0123456789abcdef";
-  out += '"';
-  for (const char c : to_utf8(text)) {
+  const auto is_plain = [](char c) {
     const auto code = static_cast<unsigned char>(c);
+    return code >= 0x20 && code != 0x7F && c != '"' && c != '\\';
+  };
+  out += '"';
+  while (!text.empty()) {
+    const auto end = std::find_if_not(text.begin(), text.end(), is_plain);
+    const auto plain = static_cast<std::size_t>(end - text.begin());
+    append_utf8(out, text.substr(0, plain));
+    if (plain == text.size()) break;
+    const char c = text[plain];
+    const auto code = static_cast<unsigned char>(c);
+    out += '\\';
     if (c == '"' || c == '\\') {
-      out += '\\';
       out += c;
-    } else if (code < 0x20 || code == 0x7F) {
-      out += "\\u00";
+    } else {
+      out += "u00";
       out += kHex[code >> 4U];
       out += kHex[code & 0xFU];
-    } else {
-      out += c;
     }
+    text.remove_prefix(plain + 1);
   }
   out += '"';
 }
@@ -54,7 +74,10 @@ class JsonObject {
     name(key);
     out_ += value;
   }
-  void number(std::string_view key, std::uint64_t value) { plain(key, std::to_string(value)); }
+  void number(std::string_view key, std::uint64_t value) {
+    name(key);
+    append_number(out_, value);
+  }
   JsonObject object(std::string_view key) {
     name(key);
     return JsonObject(out_);
@@ -127,14 +150,20 @@ void append_json_row(std::string& out, const ReportRow& row) {
 }
 
 void append_csv_row(std::string& out, const ReportRow& row) {
-  out += concat(std::to_string(row.line), ";", std::to_string(row.record), ";",
-                std::to_string(row.row), ";");
-  const std::string reason = reason_of(row.fate, row.with, row.existing);
-  const std::array<std::string_view, 6> cells = {
-      row.name, row.number, row.raw, row.address, words_of(row.fate).word, reason};
-  for (std::size_t i = 0; i < cells.size(); ++i) {
-    if (i > 0) out += ';';
-    append_csv_cell(out, cells.at(i));
+  for (const std::uint64_t number :
+       {row.line, static_cast<std::uint64_t>(row.record), static_cast<std::uint64_t>(row.row)}) {
+    append_number(out, number);
+    out += ';';
+  }
+  for (const std::string_view cell :
+       {row.name, row.number, row.raw, row.address, words_of(row.fate).word}) {
+    append_csv_cell(out, cell);
+    out += ';';
+  }
+  if (row.with || row.existing) {
+    append_csv_cell(out, reason_of(row.fate, row.with, row.existing));
+  } else {
+    append_csv_cell(out, words_of(row.fate).reason);
   }
   out += kCrLf;
 }

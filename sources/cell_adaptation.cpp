@@ -86,12 +86,12 @@ void add_numbers(std::string_view text, std::vector<std::string>& numbers) {
   if (text = without_remark(text); !text.empty()) numbers.emplace_back(text);
 }
 
+}  // namespace
+
 bool is_plain_number(std::string_view cell) {
   static constexpr CharacterSet kPlain("0123456789 +-.()");
   return std::all_of(cell.begin(), cell.end(), [](char c) { return kPlain.contains(c); });
 }
-
-}  // namespace
 
 bool needs_adapting(std::string_view field) {
   static constexpr CharacterSet kTelling(";[]\x0E\x0F");

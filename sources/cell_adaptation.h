@@ -15,6 +15,9 @@ std::string adapted_text(std::string_view field);
 /// Whether `adapted_text` would change anything; quick, for the many fields it leaves alone.
 bool needs_adapting(std::string_view field);
 
+/// Whether a cell is one number as it stands, or empty; quick, as most are.
+bool is_plain_number(std::string_view cell);
+
 /// The numbers of one cell, each without the remark behind it, with plain dashes, blanks and
 /// digits. They may stand below each other, or with " ::: ", ";" or "/" between, the last only
 /// where both sides are whole numbers. `delimiter` is the character that "|" stands for. Empty for

@@ -2,10 +2,8 @@
 
 #include <algorithm>
 #include <array>
-#include <vector>
 
 #include "text/text.h"
-#include "text/view_index.h"
 
 namespace quenda {
 namespace {
@@ -92,25 +90,6 @@ std::int16_t filter_key(std::int16_t code, KeyFilter filter) {
   const char key = static_cast<char>(code);
   return is_digit(key) || other_keys(filter).find(key) != std::string_view::npos ? code
                                                                                  : std::int16_t{0};
-}
-
-void remove_repeated_lines(FlatTable& rows, const std::function<void()>& pause) {
-  constexpr std::size_t kAhead = 12;
-  constexpr std::size_t kRowsPerPause = 4096;
-  std::vector<std::uint32_t> hashes(rows.rows());
-  for (std::size_t i = 0; i < hashes.size(); ++i) {
-    if (i % kRowsPerPause == 0) pause();
-    hashes[i] = short_hash_of(rows.line(i));
-  }
-  ViewIndex kept(rows.rows());
-  rows.keep_rows([&](std::size_t row, std::size_t place) {
-    if (row % kRowsPerPause == 0) pause();
-    if (row + kAhead < hashes.size()) kept.announce(hashes[row + kAhead]);
-    const std::string_view line = rows.line(row);
-    const auto same = [&](std::uint32_t other) { return rows.line(other) == line; };
-    return !line.empty() && kept.find_or_add(hashes[row], static_cast<std::uint32_t>(place),
-                                             same) == ViewIndex::kNone;
-  });
 }
 
 }  // namespace quenda

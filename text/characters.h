@@ -2,11 +2,8 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <string>
 #include <string_view>
-
-#include "text/flat_table.h"
 
 namespace quenda {
 
@@ -31,10 +28,5 @@ enum class KeyFilter {
 
 /// What a typed key (Windows-1252 code) puts into a field, 0 for nothing.
 std::int16_t filter_key(std::int16_t code, KeyFilter filter);
-
-/// Drops rows whose line is empty or there already, letter for letter. The first one stays. `pause`
-/// is called every few thousand rows.
-void remove_repeated_lines(
-    FlatTable& rows, const std::function<void()>& pause = [] {});
 
 }  // namespace quenda

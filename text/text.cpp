@@ -22,7 +22,7 @@ constexpr std::array<char, 256> make_lower_table() {
 
 constexpr auto kLower = make_lower_table();
 
-void append_utf8(std::string& out, char32_t code_point) {
+void append_character(std::string& out, char32_t code_point) {
   if (code_point < 0x80) {
     out += static_cast<char>(code_point);
   } else if (code_point < 0x800) {
@@ -134,8 +134,20 @@ std::size_t count_line_ends(std::string_view text) {
 std::string to_utf8(std::string_view text) {
   std::string result;
   result.reserve(text.size() + text.size() / 8);
-  for (const char c : text) append_utf8(result, unicode_of_1252(static_cast<unsigned char>(c)));
+  append_utf8(result, text);
   return result;
+}
+
+void append_utf8(std::string& out, std::string_view text) {
+  const auto is_ascii = [](char c) { return static_cast<unsigned char>(c) < 0x80; };
+  while (!text.empty()) {
+    const auto end = std::find_if_not(text.begin(), text.end(), is_ascii);
+    const auto ascii = static_cast<std::size_t>(end - text.begin());
+    out += text.substr(0, ascii);
+    if (ascii == text.size()) return;
+    append_character(out, unicode_of_1252(static_cast<unsigned char>(text[ascii])));
+    text.remove_prefix(ascii + 1);
+  }
 }
 
 std::optional<std::string> from_utf8(std::string_view utf8) {

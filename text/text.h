@@ -68,6 +68,8 @@ constexpr bool is_digit(char c) { return c >= '0' && c <= '9'; }
 
 /// Windows-1252 to UTF-8; every byte has a character.
 std::string to_utf8(std::string_view text);
+/// The same behind what stands in `out`.
+void append_utf8(std::string& out, std::string_view text);
 
 /// UTF-8 to Windows-1252; nothing when the text is no valid UTF-8 or has a character that the code
 /// page lacks.

@@ -1,44 +1,27 @@
 #include "app/account/import_account.h"
 
+#include <cstdint>
 #include <optional>
 #include <string_view>
-#include <unordered_map>
 
 #include "book/entry_list.h"
-#include "text/view_index.h"
 
 namespace quenda {
 namespace {
 
-/// The line of the source where an entry's line stood first. Texts are told apart by their hashes:
-/// whether a line repeats another one has been decided before, here it is only looked up.
-class FirstLines {
+/// Looks up repeats in their order.
+class Repeats {
  public:
-  /// The first line, when the entry was there before.
-  std::optional<std::uint64_t> find_or_add(std::string_view entry, std::uint64_t line) {
-    const auto [found, added] = first_.emplace(hash_of(entry), line);
-    if (added) return std::nullopt;
-    return found->second;
+  explicit Repeats(const std::vector<RepeatedLine>& repeated) : repeated_(repeated) {}
+  /// Origin of the row that the composed row repeats, if it repeats one.
+  std::optional<std::uint32_t> first_of(std::uint32_t row) {
+    while (next_ < repeated_.size() && repeated_[next_].row < row) ++next_;
+    if (next_ == repeated_.size() || repeated_[next_].row != row) return std::nullopt;
+    return repeated_[next_].first;
   }
 
  private:
-  std::unordered_map<std::uint64_t, std::uint64_t> first_;
-};
-
-/// The rows of the final list in the order of the source, which is their own.
-class ListRows {
- public:
-  explicit ListRows(const FlatTable& list) : list_(list) {}
-  /// The row made of that number, if the list has one; asked for in the order of the source.
-  /// Numbers of one cell have one origin, and a row each.
-  std::optional<std::size_t> of(std::uint32_t origin) {
-    while (next_ < list_.rows() && list_.origin(next_) < origin) ++next_;
-    if (next_ == list_.rows() || list_.origin(next_) != origin) return std::nullopt;
-    return next_++;
-  }
-
- private:
-  const FlatTable& list_;
+  const std::vector<RepeatedLine>& repeated_;
   std::size_t next_ = 0;
 };
 
@@ -52,7 +35,7 @@ void take_list_row(ReportRow& row, const AccountInput& input, std::size_t at) {
   }
   const MergeAccount::Verdict verdict = input.verdict(at);
   row.fate = verdict.fate;
-  if (verdict.with) row.with = input.line_of_row(*verdict.with);
+  if (verdict.with) row.with = input.line_of(input.list.origin(*verdict.with));
   if (verdict.existing) row.existing = input.name_in_book(*verdict.existing);
 }
 
@@ -60,9 +43,9 @@ void take_list_row(ReportRow& row, const AccountInput& input, std::size_t at) {
 
 std::size_t account_for(const AccountInput& input,
                         const std::function<void(const ReportRow&)>& on_row) {
-  FirstLines first_lines;
+  Repeats repeats(input.repeated);
   ListRows list_rows(input.list);
-  return input.walk([&](const SourceNumber& number) {
+  return input.walk(list_rows, [&](const SourceNumber& number) {
     ReportRow row;
     row.line = number.line;
     row.record = number.record;
@@ -74,15 +57,15 @@ std::size_t account_for(const AccountInput& input,
     if (number.fate) {
       row.fate = *number.fate;
     } else {
-      const auto earlier = first_lines.find_or_add(number.entry, number.line);
-      const auto listed = earlier ? std::nullopt : list_rows.of(number.origin);
+      const auto earlier = number.composed ? repeats.first_of(*number.composed) : std::nullopt;
+      const auto listed = earlier ? std::nullopt : list_rows.take(number.origin);
       if (!earlier && !input.composed) {
         row.fate = Fate::kUnread;
       } else if (listed) {
         take_list_row(row, input, *listed);
       } else if (earlier) {
         row.fate = Fate::kRepeated;
-        row.with = earlier;
+        row.with = input.line_of(*earlier);
       } else {
         row.fate = Fate::kRemoved;
       }

@@ -15,24 +15,26 @@ ReportTrouble ReportFile::trouble(const Files& files, std::string_view source,
   return files.can_write(path_) ? ReportTrouble::kNone : ReportTrouble::kNotWritable;
 }
 
-void ReportFile::add(const ReportRow& row) {
-  ++head.fates.at(static_cast<std::size_t>(row.fate));
-  if (wanted()) append_report_row(rows_, format_, row);
-}
-
-std::string ReportFile::text() const {
+std::string ReportFile::text(const TellRows& tell_rows) const {
   std::string text;
   append_report_head(text, format_, head);
-  return text + rows_;
+  tell_rows([&](const ReportRow& row) { append_report_row(text, format_, row); });
+  return text;
 }
 
-void ReportFile::write(Files& files) const {
-  // In two parts: the head counts what stands in the rows, and both together need not lie in memory
-  // twice.
-  std::string text;
-  append_report_head(text, format_, head);
-  files.write(path_, text);
-  files.append(path_, rows_);
+void ReportFile::write(Files& files, const TellRows& tell_rows) const {
+  constexpr std::size_t kPart = 1024UL * 1024;
+  std::string part;
+  append_report_head(part, format_, head);
+  files.write(path_, part);
+  part.clear();
+  tell_rows([&](const ReportRow& row) {
+    append_report_row(part, format_, row);
+    if (part.size() < kPart) return;
+    files.append(path_, part);
+    part.clear();
+  });
+  files.append(path_, part);
 }
 
 }  // namespace quenda

@@ -14,7 +14,8 @@ class Files;
 /// Why a report cannot be written where it is wanted.
 enum class ReportTrouble { kNone, kIsSource, kIsBook, kNotWritable };
 
-/// Collects the report of a run and writes it at the end, in the format that its path tells.
+/// The report of a run, in the format that its path tells. Its head has to be complete before it is
+/// written, the counts of fates included.
 class ReportFile {
  public:
   /// Empty for no report, "-" for the terminal.
@@ -29,21 +30,24 @@ class ReportFile {
   [[nodiscard]] ReportTrouble trouble(const Files& files, std::string_view source,
                                       std::string_view book) const;
 
-  /// Adds a number. Counts its fate.
-  void add(const ReportRow& row);
+  /// Counts the fate of a number in the head.
+  void count(const ReportRow& row) { ++head.fates.at(static_cast<std::size_t>(row.fate)); }
   [[nodiscard]] const FateCounts& fates() const { return head.fates; }
 
-  /// The whole report; nothing can be added behind it.
-  [[nodiscard]] std::string text() const;
-  /// Writes it, in place of an older one.
-  void write(Files& files) const;
+  /// Tells of the numbers in their order. The report is made while it is told: it may be as large
+  /// as the source, and need not lie in memory.
+  using OnRow = std::function<void(const ReportRow&)>;
+  using TellRows = std::function<void(const OnRow&)>;
+
+  [[nodiscard]] std::string text(const TellRows& tell_rows) const;
+  /// Writes the report in place of an older one.
+  void write(Files& files, const TellRows& tell_rows) const;
 
   ReportHead head;
 
  private:
   std::string path_;
   ReportFormat format_;
-  std::string rows_;
 };
 
 }  // namespace quenda

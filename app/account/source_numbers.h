@@ -6,6 +6,7 @@
 #include <optional>
 #include <string_view>
 
+#include "app/account/list_rows.h"
 #include "book/fate.h"
 #include "sources/outlook_contacts.h"
 #include "sources/record_table.h"
@@ -17,7 +18,7 @@
 namespace quenda {
 
 /// One number of the source. The texts are as the final list shows them, and good only while one is
-/// told of the number.
+/// told of the number. Name, number and address are left out where the list shows them anyway.
 struct SourceNumber {
   std::uint64_t line = 0;    // of the source file, from 1; 0 for Outlook
   std::size_t record = 0;    // from 1; 0 is the header of a file
@@ -30,18 +31,27 @@ struct SourceNumber {
   /// Why the number gives no entry, or `kSplit`, which may give a broken one; nothing for a number
   /// that gives an entry, unless another line equals its own.
   std::optional<Fate> fate;
-  /// The entry's line as repeats are compared; empty for a number without an entry.
-  std::string_view entry;
+  /// Its place among the rows that were composed, repeats included; nothing for one without a row.
+  std::optional<std::uint32_t> composed;
 };
 using OnSourceNumber = std::function<void(const SourceNumber&)>;
 
-/// A delimited file after its cleaning. Returns the count of records behind the header; records of
-/// nothing but delimiters do not count. Nothing was composed of the records from `until` on: their
-/// numbers are unread.
-std::size_t walk_file(const RecordTable& records, const SourceLines& source_lines, char delimiter,
-                      const Composition& composition, const CleanNumber& clean,
-                      bool suppress_short_names, std::size_t until,
-                      const OnSourceNumber& on_number);
+/// How a delimited file was composed.
+struct ComposedFile {
+  const RecordTable& records;  // after the cleaning
+  const SourceLines& lines;
+  char delimiter;
+  const Composition& composition;
+  const CleanNumber& clean;
+  bool suppress_short_names = false;
+  /// Nothing was composed of the records from here on: their numbers are unread.
+  std::size_t until = 0;
+};
+
+/// Walks over a delimited file. Returns the count of records behind the header; records of nothing
+/// but delimiters do not count. A record whose numbers all stand in the list is not composed again:
+/// nothing else has become of them.
+std::size_t walk_file(const ComposedFile& file, ListRows& listed, const OnSourceNumber& on_number);
 
 /// The lines of a call log.
 std::size_t walk_call_log(const RecordTable& lines, const SourceLines& source_lines,

@@ -78,7 +78,7 @@ void BatchRun::give_account() {
   if (composed_) {
     // A run that was refused half way is told as what it would have done.
     if (link_.result().empty() && !main_.composition_failed()) main_.look_ahead();
-    head.records = main_.account([this](const ReportRow& row) { report_.add(row); });
+    head.records = main_.account([this](const ReportRow& row) { report_.count(row); });
   }
   head.result = account_result();
   progress_.clear();
@@ -86,11 +86,14 @@ void BatchRun::give_account() {
   if (status_ == kExitDone && options_.strict && count_lost(report_.fates()) > 0) {
     status_ = kExitNumbersLost;
   }
+  const auto tell_rows = [this](const ReportFile::OnRow& on_row) {
+    if (composed_) main_.account(on_row);
+  };
   if (report_.on_terminal()) {
-    console_.out << report_.text();
+    console_.out << report_.text(tell_rows);
   } else if (report_.wanted()) {
     const bool written = procedure(app_.errors, "quenda-import.give_account", {},
-                                   [&] { report_.write(machine_.files); });
+                                   [&] { report_.write(machine_.files, tell_rows); });
     if (!written) status_ = kExitRefused;
   }
 }

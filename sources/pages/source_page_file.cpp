@@ -150,6 +150,8 @@ bool SourcePage::read_file(const std::string& path) {
   // The text before is given up first: two files need not fit into memory together.
   source.ImportText = std::make_shared<std::string>();
   source.facts = {};
+  source.lines = {};
+  source.lines_found = false;
   if (size > kLargestFile) {
     app_.message_box(shell_.texts["Import_File_TooLarge"], MessageStyle::kExclamation);
   } else {
@@ -173,6 +175,7 @@ bool SourcePage::CheckLimiter() {
   bool acceptable = false;
   procedure(app_.errors, "fMain.CheckLimiter", {}, [&] {
     const DelimiterCounts counts = count_delimiters(*shell_.source.ImportText);
+    shell_.source.line_breaks = counts.line_breaks;
     const int candidate = choose_delimiter(counts);
     if (candidate > -1) cmbLimiter.set_list_index(candidate);
     const int chosen = cmbLimiter.list_index();
@@ -211,11 +214,15 @@ void SourcePage::CSVclean() {
     source.converted = converts();
     source.made_table = false;
     source.lines = {};
+    source.lines_found = source.converted;
     source.losses = {};
     if (source.converted) return build_converted();
     std::string text = std::move(*source.ImportText);
     remove_doubled_quotes(text, [this] { shell_.answer_events(); });
     source.ImportRows = build_records(std::move(text), source.Delimiter.front(), busy.on_step());
+    // Where each line has become a record, there is nothing to be found.
+    source.lines_found = source.facts.line_ends == LineEnds::kCrAndLf && !source.facts.is_utf16() &&
+                         source.line_breaks + 1 == source.ImportRows.size();
   }).or_go_on();
 }
 

@@ -18,12 +18,14 @@ struct ImportSource {
   std::string Delimiter;  // one character; empty until one has been selected for the first time
   bool IsISpyFile = false;
   bool IsOutlookSource = false;
-  bool FileChecked = false;  // a delimited file was taken and waits for its cleaning
-  FileFacts facts;           // of the file taken last
-  bool converted = false;    // the records are those of an adapted file
-  bool made_table = false;   // of vCards or labels: records leave out what is empty at their end
-  SourceLines lines;         // where its records begin in the file
-  LostCharacters losses;     // what the adapting could not keep
+  bool FileChecked = false;     // a delimited file was taken and waits for its cleaning
+  FileFacts facts;              // of the file taken last
+  bool converted = false;       // the records are those of an adapted file
+  bool made_table = false;      // of vCards or labels: records leave out what is empty at their end
+  std::size_t line_breaks = 0;  // CR characters in the file
+  SourceLines lines;            // where its records begin in the file, once that is known:
+  bool lines_found = false;
+  LostCharacters losses;  // what the adapting could not keep
 
   [[nodiscard]] Source kind() const {
     return IsOutlookSource ? Source::kOutlook : IsISpyFile ? Source::kIspy : Source::kFile;

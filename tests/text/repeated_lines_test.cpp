@@ -1,0 +1,87 @@
+#include "text/repeated_lines.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "text/view_index.h"
+
+namespace quenda {
+namespace {
+
+std::vector<std::string> without_repeats(const std::vector<std::string>& lines) {
+  FlatTable rows(1);
+  for (const std::string_view line : lines) rows.add_row({&line, 1});
+  remove_repeated_lines(rows);
+  std::vector<std::string> result;
+  for (std::size_t i = 0; i < rows.rows(); ++i) result.emplace_back(rows.line(i));
+  return result;
+}
+
+TEST(RemoveRepeatedLines, KeepsTheFirstOfEachInOrder) {
+  using Lines = std::vector<std::string>;
+  EXPECT_EQ(without_repeats({"b", "a", "", "b", "B", "a ", "a"}), (Lines{"b", "a", "B", "a "}));
+  EXPECT_EQ(without_repeats({"", ""}), Lines{});
+  EXPECT_EQ(without_repeats({}), Lines{});
+}
+
+TEST(RemoveRepeatedLines, TellsWhichRowsRepeatAnother) {
+  FlatTable rows(1);
+  std::uint32_t origin = 10;
+  for (const std::string_view line : {"b", "a", "", "b", "a", "b"})
+    rows.add_row({&line, 1}, origin++);
+  const std::vector<RepeatedLine> repeated = remove_repeated_lines(rows);
+  EXPECT_EQ(rows.rows(), 2U);
+  ASSERT_EQ(repeated.size(), 3U);
+  EXPECT_EQ(repeated[0].row, 3U);
+  EXPECT_EQ(repeated[0].first, 10U);
+  EXPECT_EQ(repeated[1].row, 4U);
+  EXPECT_EQ(repeated[1].first, 11U);
+  EXPECT_EQ(repeated[2].row, 5U);
+  EXPECT_EQ(repeated[2].first, 10U);
+}
+
+TEST(RemoveRepeatedLines, ComparesWholeLinesWhereverTheirCellsEnd) {
+  FlatTable rows(2);
+  for (const auto& cells :
+       {std::array<std::string_view, 2>{"a;b", "c"}, {"a", "b;c"}, {"a", "b"}}) {
+    rows.add_row(cells);
+  }
+  remove_repeated_lines(rows);
+  ASSERT_EQ(rows.rows(), 2U);
+  EXPECT_EQ(rows.cell(0, 0), "a;b");
+  EXPECT_EQ(rows.cell(1, 1), "b");
+}
+
+TEST(RemoveRepeatedLines, FindsRepeatsAmongManyLinesOfAllLengths) {
+  std::vector<std::string> lines;
+  for (int round = 0; round < 3; ++round) {
+    for (int i = 0; i < 5000; ++i)
+      lines.push_back(std::string(static_cast<std::size_t>(i) % 40, 'x') + std::to_string(i));
+  }
+  const std::vector<std::string> once = without_repeats(lines);
+  lines.resize(5000);
+  EXPECT_EQ(once, lines);
+}
+
+TEST(ViewIndex, GrowsFindsAndReplaces) {
+  std::vector<std::string> keys;
+  const auto key_of = [&](std::uint32_t row) { return std::string_view(keys[row]); };
+  ViewIndex index;
+  for (std::uint32_t i = 0; i < 1000; ++i) {
+    keys.push_back("key" + std::to_string(i));
+    EXPECT_EQ(index.find_or_add(keys.back(), i, key_of), ViewIndex::kNone);
+  }
+  EXPECT_EQ(index.find("key777", key_of), 777U);
+  EXPECT_EQ(index.find("key1000", key_of), ViewIndex::kNone);
+  keys.emplace_back("key5");
+  index.replace(short_hash_of("key5"), 1000, [&](auto row) { return keys[row] == "key5"; });
+  EXPECT_EQ(index.find_or_add("key5", 1, key_of), 1000U);
+}
+
+}  // namespace
+}  // namespace quenda
