@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <string_view>
 
+#include "text/text.h"
+
 namespace quenda {
 namespace {
 
@@ -101,7 +103,8 @@ std::string contact_file(std::size_t contacts) {
 
 std::string contacts_of_shape(std::string_view shape, std::size_t contacts) {
   const std::string plain = contact_file(contacts);
-  if (shape == "plain" || shape == "dry-run") return plain;
+  if (shape == "plain" || shape == "dry-run" || shape == "report") return plain;
+  if (shape == "convert") return to_utf8(replace_all(plain, kCrLf, "\n"));
   std::string text;
   text.reserve(2 * plain.size());
   bool header = true;

@@ -11,7 +11,8 @@ namespace quenda {
 std::string contact_file(std::size_t contacts);
 
 /// The same contacts in other shapes: "plain"; "wide" with 22 more columns; "quoted" with every
-/// field in quotes; "numbers" with three numbers a contact; "log", a call log; "dry-run" is plain.
+/// field in quotes; "numbers" with three numbers a contact; "log", a call log; "convert" in UTF-8
+/// with LF; "dry-run" and "report" are plain.
 std::string contacts_of_shape(std::string_view shape, std::size_t contacts);
 
 /// A phone book of that many entries, about 98 bytes each.

@@ -126,6 +126,8 @@ int main(int argc, char** argv) {
   }
   if (shape == "numbers") add({"--number", "Telefon2", "--number", "Telefon3"});
   if (shape == "dry-run") add({"--dry-run"});
+  if (shape == "convert") add({"--convert", "yes"});
+  if (shape == "report") command.insert(command.end(), {"--report", folder / "report.csv"});
 
   std::vector<Program> programs = {{"quenda-import", [&] { become(command); }}};
   if (shape == "plain") {
