@@ -55,7 +55,8 @@ ConvertedTable convert_file(std::string_view bytes, const FileFacts& facts, char
   if (facts.kind == FileKind::kVcard) return read_vcards(bytes, facts, on_step);
   ConvertedTable table = convert_table(bytes, facts, delimiter, on_step);
   const std::string_view header = std::string_view(table.text).substr(0, table.text.find(kCrLf));
-  return is_labelled_table(header, delimiter) ? sort_by_labels(std::move(table)) : table;
+  if (is_labelled_table(header, delimiter)) return sort_by_labels(std::move(table));
+  return table;
 }
 
 }  // namespace quenda

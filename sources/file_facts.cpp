@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "sources/unicode_text.h"
+#include "text/byte_block.h"
 #include "text/text.h"
 
 namespace quenda {
@@ -12,90 +13,77 @@ namespace {
 
 constexpr std::size_t kBeginning = 4096;
 
-/// What a pass over all bytes finds. The flags are bytes so that the compiler makes vector
-/// instructions of the loop.
+/// What a pass over all bytes finds.
 struct ByteFlags {
-  unsigned char high = 0;      // bit 7: bytes from 0x80 up
-  unsigned char nul = 0;       // NUL bytes
-  unsigned char pair = 0;      // CR LF
-  unsigned char lone_lf = 0;   // LF without a CR before it
-  unsigned char lone_cr = 0;   // CR without a LF behind it
-  unsigned char sequence = 0;  // two bytes that may be part of a character of UTF-8
-  unsigned char broken = 0;    // a byte that UTF-8 does not have there
+  bool high = false;      // bytes from 0x80 up
+  bool nul = false;       // NUL bytes
+  bool pair = false;      // CR LF
+  bool lone_lf = false;   // LF without a CR before it
+  bool lone_cr = false;   // CR without a LF behind it
+  bool sequence = false;  // two bytes that may be part of a character of UTF-8
+  bool broken = false;    // a byte that UTF-8 does not have there
 };
 
-constexpr std::size_t kLanes = 32;
-constexpr std::size_t kBlock = kLanes * 64;
+constexpr std::size_t kBlock = ByteBlock::kSize * 128;
 
-using Lanes = std::array<unsigned char, kLanes>;
+ByteBlock nothing() { return ByteBlock::filled_with('\0'); }
+bool any(ByteBlock bytes) { return bytes.top_bits() != 0; }
 
-unsigned char any_of_lanes(const Lanes& lanes) {
-  unsigned char any = 0;
-  for (const unsigned char lane : lanes) any = static_cast<unsigned char>(any | lane);
-  return any;
-}
-
-constexpr unsigned char flag(bool condition) { return condition ? 1 : 0; }
-
-/// Looks at the bytes from `bytes` on, `count` of them a multiple of the lanes; there is one byte
+/// Looks at the bytes from `bytes` on, `count` of them a multiple of a block's; there is one byte
 /// before them.
-void look_at_lines(const unsigned char* bytes, std::size_t count, ByteFlags& flags) {
-  Lanes high{};
-  Lanes nul{};
-  Lanes pair{};
-  Lanes lone_lf{};
-  Lanes lone_cr{};
-  for (std::size_t at = 0; at < count; at += kLanes) {
-    for (std::size_t lane = 0; lane < kLanes; ++lane) {
-      const unsigned char byte = bytes[at + lane];
-      const unsigned char before = (bytes - 1)[at + lane];
-      const unsigned char lf = flag(byte == '\n');
-      const unsigned char cr = flag(before == '\r');
-      high[lane] = static_cast<unsigned char>(high[lane] | byte);
-      nul[lane] = static_cast<unsigned char>(nul[lane] | flag(byte == 0));
-      pair[lane] = static_cast<unsigned char>(pair[lane] | (lf & cr));
-      lone_lf[lane] = static_cast<unsigned char>(lone_lf[lane] | (lf & ~cr));
-      lone_cr[lane] = static_cast<unsigned char>(lone_cr[lane] | (cr & ~lf));
-    }
+void look_at_lines(const char* bytes, std::size_t count, ByteFlags& flags) {
+  ByteBlock high = nothing();
+  ByteBlock nul = nothing();
+  ByteBlock pair = nothing();
+  ByteBlock lone_lf = nothing();
+  ByteBlock lone_cr = nothing();
+  for (std::size_t at = 0; at < count; at += ByteBlock::kSize) {
+    const ByteBlock block = ByteBlock::load(bytes + at);
+    const ByteBlock lf = block.equal_to('\n');
+    const ByteBlock cr = ByteBlock::load(bytes + at - 1).equal_to('\r');
+    high = high | block;
+    nul = nul | block.equal_to('\0');
+    pair = pair | (lf & cr);
+    lone_lf = lone_lf | lf.without(cr);
+    lone_cr = lone_cr | cr.without(lf);
   }
-  flags.high = static_cast<unsigned char>(flags.high | (any_of_lanes(high) & 0x80U));
-  flags.nul = static_cast<unsigned char>(flags.nul | any_of_lanes(nul));
-  flags.pair = static_cast<unsigned char>(flags.pair | any_of_lanes(pair));
-  flags.lone_lf = static_cast<unsigned char>(flags.lone_lf | any_of_lanes(lone_lf));
-  flags.lone_cr = static_cast<unsigned char>(flags.lone_cr | any_of_lanes(lone_cr));
+  flags.high = flags.high || any(high);
+  flags.nul = flags.nul || any(nul);
+  flags.pair = flags.pair || any(pair);
+  flags.lone_lf = flags.lone_lf || any(lone_lf);
+  flags.lone_cr = flags.lone_cr || any(lone_cr);
 }
 
 /// The same for UTF-8; there are three bytes before.
-void look_at_characters(const unsigned char* bytes, std::size_t count, ByteFlags& flags) {
-  Lanes sequence{};
-  Lanes broken{};
-  for (std::size_t at = 0; at < count; at += kLanes) {
-    for (std::size_t lane = 0; lane < kLanes; ++lane) {
-      const unsigned char byte = bytes[at + lane];
-      const unsigned char first = (bytes - 1)[at + lane];
-      const unsigned char second = (bytes - 2)[at + lane];
-      const unsigned char third = (bytes - 3)[at + lane];
-      const unsigned char follows = flag((byte & 0xC0U) == 0x80U);
-      const auto wanted = static_cast<unsigned char>(flag(first >= 0xC2) | flag(second >= 0xE0) |
-                                                     flag(third >= 0xF0));
-      const auto never =
-          static_cast<unsigned char>(flag((byte & 0xFEU) == 0xC0U) | flag(byte >= 0xF5));
-      sequence[lane] = static_cast<unsigned char>(sequence[lane] | (follows & wanted));
-      broken[lane] = static_cast<unsigned char>(broken[lane] | (follows ^ wanted) | never);
-    }
+void look_at_characters(const char* bytes, std::size_t count, ByteFlags& flags) {
+  ByteBlock sequence = nothing();
+  ByteBlock broken = nothing();
+  const ByteBlock all = ByteBlock::filled_with('\xFF');
+  for (std::size_t at = 0; at < count; at += ByteBlock::kSize) {
+    const ByteBlock block = ByteBlock::load(bytes + at);
+    const ByteBlock first = ByteBlock::load(bytes + at - 1);
+    const ByteBlock second = ByteBlock::load(bytes + at - 2);
+    const ByteBlock third = ByteBlock::load(bytes + at - 3);
+    const ByteBlock follows = block.up_to('\xBF').without(block.up_to('\x7F'));
+    const ByteBlock wanted =
+        all.without(first.up_to('\xC1') & second.up_to('\xDF') & third.up_to('\xEF'));
+    const ByteBlock never =
+        block.up_to('\xC1').without(block.up_to('\xBF')) | all.without(block.up_to('\xF4'));
+    sequence = sequence | (follows & wanted);
+    broken = broken | follows.without(wanted) | wanted.without(follows) | never;
   }
-  flags.sequence = static_cast<unsigned char>(flags.sequence | any_of_lanes(sequence));
-  flags.broken = static_cast<unsigned char>(flags.broken | any_of_lanes(broken));
+  flags.sequence = flags.sequence || any(sequence);
+  flags.broken = flags.broken || any(broken);
 }
 
-void look_at_block(const unsigned char* bytes, std::size_t count, ByteFlags& flags) {
-  const auto high_before = std::exchange(flags.high, static_cast<unsigned char>(0));
+void look_at_block(const char* bytes, std::size_t count, ByteFlags& flags) {
+  const bool high_before = std::exchange(flags.high, false);
   look_at_lines(bytes, count, flags);
   // A block behind one with letters may begin within one.
-  const bool look = (flags.high | bytes[-1] | bytes[-2] | bytes[-3]) >= 0x80;
-  const bool decided = flags.sequence != 0 && flags.broken != 0;
-  if (look && !decided) look_at_characters(bytes, count, flags);
-  flags.high = static_cast<unsigned char>(flags.high | high_before);
+  const bool within = std::any_of(bytes - 3, bytes, [](char c) { return (c & '\x80') != 0; });
+  const bool decided = flags.sequence && flags.broken;
+  if ((flags.high || within) && !decided) look_at_characters(bytes, count, flags);
+  flags.high = flags.high || high_before;
 }
 
 /// Bytes at the end of a text that begin a character of UTF-8 and do not finish it.
@@ -113,14 +101,14 @@ ByteFlags look_at_bytes(std::string_view text) {
   ByteFlags flags;
   // A character cut off by the end of the file is no reason to doubt.
   if (const std::size_t cut = cut_off_bytes(text); cut > 0) {
-    flags.high = 0x80;
+    flags.high = true;
     text.remove_suffix(cut);
   }
   // The beginning and the end are looked at in a copy: there have to be bytes before the first one,
   // and whole lanes up to the last. The blanks around them tell nothing.
   constexpr std::size_t kMargin = 4;
   const auto look_at_copy = [&](std::size_t at, std::size_t size) {
-    std::array<unsigned char, kMargin + kBlock> copy{};
+    std::array<char, kMargin + kBlock> copy{};
     copy.fill(' ');
     const std::size_t before = std::min(at, kMargin);
     std::copy_n(text.data() + (at - before), before + size, copy.data() + (kMargin - before));
@@ -129,9 +117,8 @@ ByteFlags look_at_bytes(std::string_view text) {
   std::size_t at = 0;
   if (text.size() >= kBlock) {
     look_at_copy(0, kBlock);
-    const auto* bytes = reinterpret_cast<const unsigned char*>(text.data());
     for (at = kBlock; text.size() - at >= kBlock; at += kBlock) {
-      look_at_block(bytes + at, kBlock, flags);
+      look_at_block(text.data() + at, kBlock, flags);
     }
   }
   look_at_copy(at, text.size() - at);
@@ -139,11 +126,11 @@ ByteFlags look_at_bytes(std::string_view text) {
 }
 
 LineEnds line_ends_of(const ByteFlags& flags) {
-  const int kinds = flags.pair + flags.lone_lf + flags.lone_cr;
+  const int kinds = (flags.pair ? 1 : 0) + (flags.lone_lf ? 1 : 0) + (flags.lone_cr ? 1 : 0);
   if (kinds == 0) return LineEnds::kNone;
   if (kinds > 1) return LineEnds::kMixed;
-  if (flags.pair != 0) return LineEnds::kCrAndLf;
-  return flags.lone_lf != 0 ? LineEnds::kLf : LineEnds::kCr;
+  if (flags.pair) return LineEnds::kCrAndLf;
+  return flags.lone_lf ? LineEnds::kLf : LineEnds::kCr;
 }
 
 /// Position of the first character of UTF-8 that contacts are written with, or the end.
@@ -157,11 +144,11 @@ std::size_t first_likely_letter(std::string_view text) {
 }
 
 FileEncoding encoding_of(std::string_view text, const ByteFlags& flags) {
-  if (flags.high == 0) return FileEncoding::kAscii;
-  if (flags.sequence == 0 || first_likely_letter(text) == text.size()) {
+  if (!flags.high) return FileEncoding::kAscii;
+  if (!flags.sequence || first_likely_letter(text) == text.size()) {
     return FileEncoding::kWindows1252;
   }
-  return flags.broken != 0 ? FileEncoding::kMixed : FileEncoding::kUtf8;
+  return flags.broken ? FileEncoding::kMixed : FileEncoding::kUtf8;
 }
 
 /// Western texts in UTF-16 have a zero byte in every other place: in which one tells the order.
@@ -188,12 +175,12 @@ LineEnds utf16_line_ends(std::string_view text, bool big_endian) {
   bool cr = false;
   for (std::size_t at = 0; at + 1 < text.size(); at += 2) {
     const bool lf = unit(at) == '\n';
-    if (lf && cr) flags.pair = 1;
-    if (lf && !cr) flags.lone_lf = 1;
-    if (!lf && cr) flags.lone_cr = 1;
+    if (lf && cr) flags.pair = true;
+    if (lf && !cr) flags.lone_lf = true;
+    if (!lf && cr) flags.lone_cr = true;
     cr = unit(at) == '\r';
   }
-  if (cr) flags.lone_cr = 1;
+  if (cr) flags.lone_cr = true;
   return line_ends_of(flags);
 }
 
@@ -309,8 +296,8 @@ FileFacts look_at_file(std::string_view bytes) {
   }
   const ByteFlags flags = look_at_bytes(text);
   facts.line_ends = line_ends_of(flags);
-  facts.nul_bytes = flags.nul != 0;
-  facts.encoding = facts.mark && flags.broken == 0 ? FileEncoding::kUtf8 : encoding_of(text, flags);
+  facts.nul_bytes = flags.nul;
+  facts.encoding = facts.mark && !flags.broken ? FileEncoding::kUtf8 : encoding_of(text, flags);
   look_at_sep_line(text, facts);
   const std::string_view header = first_line(text.substr(0, kBeginning)).first;
   facts.labelled = header.find("Phone 1 - Value") != header.npos;

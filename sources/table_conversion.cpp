@@ -1,6 +1,7 @@
 #include "sources/table_conversion.h"
 
 #include <algorithm>
+#include <array>
 #include <bit>
 #include <cstdint>
 #include <cstring>
@@ -10,6 +11,7 @@
 #include "sources/kept_breaks.h"
 #include "sources/text_writer.h"
 #include "sources/unicode_text.h"
+#include "text/byte_block.h"
 #include "text/text.h"
 
 namespace quenda {
@@ -18,48 +20,40 @@ namespace {
 constexpr char kQuote = '"';
 constexpr std::size_t kStepBytes = 1024UL * 1024;
 
-constexpr std::uint64_t kEachByte = 0x0101010101010101;
-constexpr std::uint64_t kHighBits = 0x8080808080808080;
-
-constexpr std::uint64_t bytes_below(std::uint64_t bytes, unsigned char limit) {
-  return (bytes - kEachByte * limit) & ~bytes & kHighBits;
-}
-
-constexpr std::uint64_t bytes_equal(std::uint64_t bytes, char wanted) {
-  return bytes_below(bytes ^ (kEachByte * static_cast<unsigned char>(wanted)), 1);
-}
-
 /// Copies a text up to the next byte that the conversion has to look at: control characters,
 /// quotes, bytes from 0x80 up if asked for, and one more character.
 class PlainCopier {
  public:
-  PlainCopier(bool high, char other) : high_(high ? kHighBits : 0), other_(other) {}
+  PlainCopier(bool high, char other)
+      : high_(ByteBlock::filled_with(high ? '\x80' : '\0')),
+        other_(ByteBlock::filled_with(other)) {}
 
-  /// Copies from `from` to `to`, at most `size` characters, eight at a time: there has to be room
-  /// for seven more. The result is how many were plain.
+  /// Copies from `from` to `to`, at most `size` characters, a block at a time: there has to be room
+  /// for a block more. The result is how many were plain.
   std::size_t copy(const char* from, char* to, std::size_t size) const {
     std::size_t at = 0;
-    for (; at + sizeof(std::uint64_t) <= size; at += sizeof(std::uint64_t)) {
-      std::uint64_t bytes = 0;
-      std::memcpy(&bytes, from + at, sizeof(bytes));
-      std::memcpy(to + at, &bytes, sizeof(bytes));
-      // The lowest byte that is marked is a true hit, others may be marked by its carry.
-      const std::uint64_t marked = bytes_below(bytes, ' ') | bytes_equal(bytes, kQuote) |
-                                   bytes_equal(bytes, other_) | (bytes & high_);
-      if (marked != 0) return at + static_cast<std::size_t>(std::countr_zero(marked)) / 8;
+    for (; size - at >= ByteBlock::kSize; at += ByteBlock::kSize) {
+      const std::uint32_t special = copy_block(from + at, to + at);
+      if (special != 0) return at + static_cast<std::size_t>(std::countr_zero(special));
     }
-    for (; at < size && !is_special(from[at]); ++at) to[at] = from[at];
-    return at;
+    std::array<char, ByteBlock::kSize> last{};
+    std::copy(from + at, from + size, last.begin());
+    // The zeros behind the end count as special.
+    const std::uint32_t special = copy_block(last.data(), to + at);
+    return std::min(size, at + static_cast<std::size_t>(std::countr_zero(special)));
   }
 
  private:
-  [[nodiscard]] bool is_special(char c) const {
-    const auto byte = static_cast<unsigned char>(c);
-    return byte < ' ' || c == kQuote || c == other_ || (high_ != 0 && byte >= 0x80);
+  /// A bit for each byte to be looked at.
+  std::uint32_t copy_block(const char* from, char* to) const {
+    const ByteBlock block = ByteBlock::load(from);
+    block.store(to);
+    return (block.up_to('\x1F') | block.equal_to(kQuote) | block.equal_to(other_) | (block & high_))
+        .top_bits();
   }
 
-  std::uint64_t high_;
-  char other_;
+  ByteBlock high_;
+  ByteBlock other_;
 };
 
 /// Reads the text once and writes it anew.
@@ -102,7 +96,7 @@ class TableConverter {
   void take_run() {
     constexpr std::size_t kRun = 4096;
     const std::size_t size = std::min(text_.size() - at_, kRun);
-    char* const to = out_.room(kRun + sizeof(std::uint64_t));
+    char* const to = out_.room(kRun + ByteBlock::kSize);
     const std::size_t plain = (in_quotes_ ? inside_ : outside_).copy(text_.data() + at_, to, size);
     out_.advance(plain);
     at_ += plain;

@@ -1,7 +1,9 @@
 #include "sources/unicode_text.h"
 
+#include <bit>
 #include <cstdint>
-#include <cstring>
+
+#include "text/byte_block.h"
 
 namespace quenda {
 namespace {
@@ -82,13 +84,9 @@ std::string utf16_to_utf8(std::string_view bytes, bool big_endian) {
 }
 
 std::size_t skip_ascii(std::string_view text, std::size_t at) {
-  // Eight bytes at a time.
-  constexpr std::uint64_t kHighBits = 0x8080808080808080;
-  while (at + sizeof(std::uint64_t) <= text.size()) {
-    std::uint64_t bytes = 0;
-    std::memcpy(&bytes, text.data() + at, sizeof(bytes));
-    if ((bytes & kHighBits) != 0) break;
-    at += sizeof(bytes);
+  for (; text.size() - at >= ByteBlock::kSize; at += ByteBlock::kSize) {
+    const std::uint32_t high = ByteBlock::load(text.data() + at).top_bits();
+    if (high != 0) return at + static_cast<std::size_t>(std::countr_zero(high));
   }
   while (at < text.size() && static_cast<unsigned char>(text[at]) < 0x80) ++at;
   return at;

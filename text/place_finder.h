@@ -9,10 +9,7 @@
 #include <string_view>
 #include <utility>
 
-#if defined(__SSE2__) || defined(_M_X64)
-#include <emmintrin.h>
-#define QUENDA_SSE2 1
-#endif
+#include "text/byte_block.h"
 
 namespace quenda {
 
@@ -24,7 +21,7 @@ class PlaceFinder {
  public:
   template <std::same_as<char>... Characters>
   explicit PlaceFinder(std::string_view text, Characters... characters)
-      : text_(text), patterns_{pattern(characters)...} {}
+      : text_(text), patterns_{ByteBlock::filled_with(characters)...} {}
 
   /// The next place of one of the characters; the size of the text when there is none left.
   std::size_t next() {
@@ -39,15 +36,7 @@ class PlaceFinder {
   }
 
  private:
-  static constexpr std::size_t kBlock = 16;
-  /// A character in all places of a block.
-  using Pattern = std::array<char, kBlock>;
-
-  static Pattern pattern(char character) {
-    Pattern result{};
-    result.fill(character);
-    return result;
-  }
+  static constexpr std::size_t kBlock = ByteBlock::kSize;
 
   /// One bit for each of the sixteen bytes from a place on that is one of the characters.
   [[nodiscard]] std::uint32_t look_at(std::size_t start) const {
@@ -58,35 +47,17 @@ class PlaceFinder {
     return matches(last) & ((1U << left) - 1);
   }
 
-#ifdef QUENDA_SSE2
-  static __m128i load(const char* block) {
-    return _mm_loadu_si128(reinterpret_cast<const __m128i*>(block));
-  }
   [[nodiscard]] std::uint32_t matches(const char* block) const {
-    const __m128i bytes = load(block);
+    const ByteBlock bytes = ByteBlock::load(block);
     // Not a loop, so that the compiler keeps the patterns in registers.
-    const auto hits = [&]<std::size_t... I>(std::index_sequence<I...>) {
-      __m128i any = _mm_setzero_si128();
-      ((any = _mm_or_si128(any, _mm_cmpeq_epi8(bytes, load(patterns_[I].data())))), ...);
-      return any;
+    return [&]<std::size_t... I>(std::index_sequence<I...>) {
+      return (bytes.equal_to(patterns_[I]) | ...).top_bits();
     }
     (std::make_index_sequence<kCharacters>());
-    return static_cast<std::uint32_t>(_mm_movemask_epi8(hits));
   }
-#else
-  [[nodiscard]] std::uint32_t matches(const char* block) const {
-    std::uint32_t bits = 0;
-    for (std::size_t i = 0; i < kBlock; ++i) {
-      for (const Pattern& pattern : patterns_) {
-        if (block[i] == pattern[i]) bits |= 1U << i;
-      }
-    }
-    return bits;
-  }
-#endif
 
   std::string_view text_;
-  std::array<Pattern, kCharacters> patterns_;
+  std::array<ByteBlock, kCharacters> patterns_;
   std::size_t block_ = 0;    // where the block to be looked at next begins
   std::uint32_t found_ = 0;  // places of the block before it that have not been returned
 };

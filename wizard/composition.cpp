@@ -121,7 +121,7 @@ void EntryComposer::compose_numbers(std::size_t record, std::size_t row, FlatTab
     cell = number_;
   }
   if (cell.empty()) return;
-  if (!composition_.adapt) {
+  if (!composition_.adapt || is_plain_number(cell)) {
     clean_(cell, cleaned_);
     return add_entry(record, row, cleaned_, entries);
   }
