@@ -32,7 +32,8 @@ class RecordBuilder {
         inside_quotes_(delimiter),
         begins_(begins) {}
 
-  std::vector<std::size_t> build(const OnStep& on_step) {
+  std::vector<std::size_t> build(const OnStep& on_step, std::size_t expected = 0) {
+    starts_.reserve(expected + 1);
     const std::size_t size = text_.size();
     std::size_t next_step = 0;
     const auto tell_step = [&] {
@@ -273,9 +274,10 @@ void remove_doubled_quotes(std::string& text, const std::function<void()>& pause
   text.resize(static_cast<std::size_t>(to - text.data()));
 }
 
-RecordTable build_records(std::string text, char delimiter, const OnStep& on_step) {
+RecordTable build_records(std::string text, char delimiter, const OnStep& on_step,
+                          std::size_t expected) {
   auto records = std::make_shared<std::string>(std::move(text));
-  std::vector<std::size_t> starts = RecordBuilder(*records, delimiter).build(on_step);
+  std::vector<std::size_t> starts = RecordBuilder(*records, delimiter).build(on_step, expected);
   return {std::move(records), std::move(starts)};
 }
 
@@ -323,7 +325,7 @@ std::string shown_field(std::string_view field, char delimiter) {
 std::vector<std::string> shown_fields(std::string_view record, char delimiter) {
   std::vector<std::string> fields;
   std::string_view part;
-  while (next_part(record, std::string_view(&delimiter, 1), part)) {
+  while (fields.size() <= kMostFields && next_part(record, std::string_view(&delimiter, 1), part)) {
     fields.push_back(shown_field(part, delimiter));
   }
   return fields;

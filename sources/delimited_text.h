@@ -21,6 +21,9 @@ inline constexpr std::array<char, 3> kDelimiters = {';', ',', '\t'};
 /// Told now and then by long work: what has been done of the total, in bytes or records.
 using OnStep = std::function<void(std::size_t done, std::size_t total)>;
 
+/// The columns of a file are counted in 16 bits.
+inline constexpr std::size_t kMostFields = 32767;
+
 /// How often each delimiter occurs in a file, and how many line breaks (CR characters) it has.
 struct DelimiterCounts {
   std::array<std::size_t, kDelimiters.size()> of{};
@@ -49,8 +52,10 @@ void remove_doubled_quotes(
 /// breaks become blanks and delimiters "|"; a quote that opens the first field of a line protects
 /// nothing there, but such a field is put together again with "|". The quotes stay in the records.
 /// A lone LF is dropped, so that a file with LF line ends becomes one record; a record cut off by
-/// the end of the file gets a surplus delimiter at its end.
-RecordTable build_records(std::string text, char delimiter, const OnStep& on_step);
+/// the end of the file gets a surplus delimiter at its end. `expected`, where it is known, makes
+/// room for that many records.
+RecordTable build_records(std::string text, char delimiter, const OnStep& on_step,
+                          std::size_t expected = 0);
 
 /// In which line of its file each record begins, for a text as it was read. CR LF, a lone LF and a
 /// lone CR each end a line, also inside quotes; a record begins behind the break that ended the one
@@ -66,7 +71,8 @@ void pad_records(RecordTable& records, char delimiter, const OnStep& on_step);
 /// A field as the user reads it: without quotes, and with the delimiter where "|" stands for it.
 std::string shown_field(std::string_view field, char delimiter);
 
-/// The fields of a record as the user reads them.
+/// The fields of a record as the user reads them. Of more than can be columns only one is among
+/// them: a file whose lines do not end is one record.
 std::vector<std::string> shown_fields(std::string_view record, char delimiter);
 
 /// Whether a path names a call log: its lower-cased text has "ispy.log" at the end, and nowhere

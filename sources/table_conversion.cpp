@@ -84,6 +84,7 @@ class TableConverter {
     }
     if (field_start_ != at_) out_.put(kCrLf);
     table_.text = out_.take();
+    table_.records = record_ + 1;
     return std::move(table_);
   }
 

@@ -15,7 +15,8 @@ namespace quenda {
 struct ConvertedTable {
   std::string text;
   char delimiter = '\0';
-  bool made = false;  // a contact table, whose records leave out what is empty at their end
+  bool made = false;        // a contact table, whose records leave out what is empty at their end
+  std::size_t records = 0;  // as far as they have been counted
   SourceLines lines;
   LostCharacters losses;
 };

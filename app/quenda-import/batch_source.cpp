@@ -16,12 +16,6 @@
 
 // From the options to the composed entries: the source and the choices on the pages.
 namespace quenda {
-namespace {
-
-// Columns are counted in 16 bits.
-constexpr int kMostColumnsOfFile = 32767;
-
-}  // namespace
 
 void BatchRun::check_suite() {
   if (options_.suite.empty()) return;
@@ -87,8 +81,8 @@ void BatchRun::take_outlook() {
 void BatchRun::choose_columns() {
   if (options_.columns_given() || options_.auto_columns) app_.settings.selections = {};
   go_on(Page::kColumns);
-  if (main_.lstHeader(kNames).count() > kMostColumnsOfFile) {
-    refuse(concat("Die Datei hat mehr als ", std::to_string(kMostColumnsOfFile), " Spalten."));
+  if (main_.header().size() > kMostFields) {
+    refuse(concat("Die Datei hat mehr als ", std::to_string(kMostFields), " Spalten."));
   }
   const ImportSource& source = main_.source;
   const char delimiter = source.Delimiter.front();

@@ -219,10 +219,13 @@ void SourcePage::CSVclean() {
     if (source.converted) return build_converted();
     std::string text = std::move(*source.ImportText);
     remove_doubled_quotes(text, [this] { shell_.answer_events(); });
-    source.ImportRows = build_records(std::move(text), source.Delimiter.front(), busy.on_step());
+    const bool only_pairs =
+        source.facts.line_ends == LineEnds::kCrAndLf && !source.facts.is_utf16();
+    const std::size_t lines = only_pairs ? source.line_breaks + 1 : 0;
+    source.ImportRows =
+        build_records(std::move(text), source.Delimiter.front(), busy.on_step(), lines);
     // Where each line has become a record, there is nothing to be found.
-    source.lines_found = source.facts.line_ends == LineEnds::kCrAndLf && !source.facts.is_utf16() &&
-                         source.line_breaks + 1 == source.ImportRows.size();
+    source.lines_found = lines == source.ImportRows.size();
   }).or_go_on();
 }
 
@@ -235,8 +238,9 @@ void SourcePage::build_converted() {
   source.made_table = table.made;
   source.lines = std::move(table.lines);
   source.losses = std::move(table.losses);
-  source.ImportRows = build_records(std::move(table.text), table.delimiter,
-                                    [this](std::size_t i, std::size_t n) { shell_.step(i, n); });
+  source.ImportRows = build_records(
+      std::move(table.text), table.delimiter,
+      [this](std::size_t i, std::size_t n) { shell_.step(i, n); }, table.records);
 }
 
 void SourcePage::DatasetComplete() {

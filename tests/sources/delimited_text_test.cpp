@@ -142,6 +142,7 @@ TEST(PadRecords, OverflowsBeyond32767DelimitersAndKeepsWhatWasPadded) {
 
 TEST(ShownFields, LoseQuotesAndRegainDelimiters) {
   EXPECT_EQ(shown_fields("\"a|b\",c,", ','), (std::vector<std::string>{"a,b", "c", ""}));
+  EXPECT_EQ(shown_fields(std::string(100'000, ','), ',').size(), kMostFields + 1);
 }
 
 TEST(IspyLog, IsKnownByTheEndOfItsPath) {

@@ -2,6 +2,7 @@
 #include <array>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "settings/app.h"
@@ -37,9 +38,11 @@ std::vector<ListColumn> preview_columns(const std::vector<std::string>& header,
   longest.reserve(header.size());
   for (const std::string& heading : header) longest.push_back(heading.size() + kMark);
   for (std::size_t row = 1; row < std::min(records.size(), kRecordsLookedAt); ++row) {
-    const auto fields = shown_fields(records[row], delimiter);
-    for (std::size_t i = 0; i < std::min(fields.size(), longest.size()); ++i) {
-      longest[i] = std::max(longest[i], fields[i].size());
+    std::string_view rest = records[row];
+    std::string_view field;
+    for (std::size_t& size : longest) {
+      if (!next_part(rest, std::string_view(&delimiter, 1), field)) break;
+      size = std::max(size, field.size() - count_of(field, '"'));
     }
   }
   std::vector<ListColumn> columns;
