@@ -17,8 +17,10 @@ constexpr std::string_view kCardOpen = "[vcd(";
 constexpr std::string_view kCardClose = ")vcd]";
 constexpr std::size_t kFields = 8;
 
-std::array<std::string_view, kFields> split_fields(std::string_view line) {
-  std::array<std::string_view, kFields> fields;
+using Fields = std::array<std::string_view, kFields>;
+
+Fields split_fields(std::string_view line) {
+  Fields fields;
   PlaceFinder separators(line, ';');
   std::size_t start = 0;
   for (std::string_view& field : fields) {
@@ -28,6 +30,29 @@ std::array<std::string_view, kFields> split_fields(std::string_view line) {
     start = end + 1;
   }
   return fields;
+}
+
+/// Splits a line of the usual form, as the tool writes it: eight fields, then a card block that
+/// ends the line, and no mark of a card elsewhere. False for any other line.
+bool split_usual_line(std::string_view line, Fields& fields) {
+  PlaceFinder marks(line, ';', '[', ')');
+  std::size_t start = 0;
+  std::size_t mark = 0;
+  const auto is_at_mark = [&](std::string_view card_mark) {
+    return line.substr(mark).starts_with(card_mark);
+  };
+  for (std::string_view& field : fields) {
+    do {
+      mark = marks.next();
+      if (mark == line.size() || is_at_mark(kCardOpen) || is_at_mark(kCardClose)) return false;
+    } while (line[mark] != ';');
+    field = line.substr(start, mark - start);
+    start = mark + 1;
+  }
+  mark = marks.next();
+  if (mark != start || !is_at_mark(kCardOpen)) return false;
+  while (mark < line.size() && !is_at_mark(kCardClose)) mark = marks.next();
+  return mark + kCardClose.size() == line.size();
 }
 
 /// A card block ends at the first closing mark after its opening; one that only has a closing mark
@@ -90,28 +115,32 @@ BookEntry read_book_line(std::string_view line) {
 }
 
 ExaminedLine examine_book_line(std::string_view line) {
-  const auto fields = split_fields(line);
+  Fields fields;
+  const bool usual = split_usual_line(line, fields);
+  if (!usual) fields = split_fields(line);
   const bool plain = plain_flag(fields[3]) && plain_count(fields[4]) && plain_flag(fields[5]);
   if (!plain) {
     to_boolean(fields[3]);
     to_int16(fields[4]);
     to_boolean(fields[5]);
   }
-  const bool ends_plainly = plain_end(line, fields[7]);
+  const bool ends_plainly = usual ? fields[7].empty() : plain_end(line, fields[7]);
   return {fields[1], plain && ends_plainly};
 }
 
 std::string_view book_line_number(std::string_view text) {
-  text.remove_prefix(text.find(';') + 1);
-  return text.substr(0, text.find(';'));
+  PlaceFinder separators(text, ';');
+  const std::size_t start = separators.next() + 1;
+  return text.substr(start, separators.next() - start);
 }
 
 BookContact book_line_contact(std::string_view text) {
   constexpr std::size_t kFieldsBetween = 5;
-  const std::string_view name = text.substr(0, text.find(';'));
-  text.remove_prefix(name.size() + 1);
-  for (std::size_t i = 0; i < kFieldsBetween; ++i) text.remove_prefix(text.find(';') + 1);
-  return {name, text.substr(0, text.find(';'))};
+  PlaceFinder separators(text, ';');
+  const std::string_view name = text.substr(0, separators.next());
+  std::size_t before = name.size();
+  for (std::size_t i = 0; i < kFieldsBetween; ++i) before = separators.next();
+  return {name, text.substr(before + 1, separators.next() - before - 1)};
 }
 
 std::size_t book_line_size(const BookEntry& entry) {

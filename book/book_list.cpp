@@ -64,6 +64,14 @@ BookContact BookList::contact(std::size_t entry) const {
   return {rows_.cell(row(entry), kEntryName), rows_.cell(row(entry), kEntryAddress)};
 }
 
+void BookList::announce(std::size_t entry) const {
+  constexpr std::size_t kCacheLine = 64;
+  if (entry >= in_book_) return;  // the rows are read in their order
+  const char* const start = book_.data() + places_[entry];
+  announce_reading(start);
+  announce_reading(start + kCacheLine);
+}
+
 std::string_view BookList::name(std::size_t entry) const {
   if (entry >= in_book_) return rows_.cell(row(entry), kEntryName);
   const std::string_view line = book_.substr(places_[entry]);

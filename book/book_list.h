@@ -35,6 +35,8 @@ class BookList {
   [[nodiscard]] std::string_view number(std::size_t entry) const;
   [[nodiscard]] std::uint32_t hash_of_number(std::size_t entry) const { return hashes_[entry]; }
   [[nodiscard]] BookContact contact(std::size_t entry) const;
+  /// Announces that number and contact of an entry are going to be asked for.
+  void announce(std::size_t entry) const;
   /// The name alone.
   [[nodiscard]] std::string_view name(std::size_t entry) const;
   /// The line of an entry of the book, as it stands there.

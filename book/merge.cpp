@@ -46,6 +46,7 @@ std::size_t remove_double_entries(BookList& list, MergeMode mode, const AskAbout
                                   const std::function<void(std::size_t, std::size_t)>& on_step,
                                   const OnDecision& on_decision) {
   constexpr std::size_t kAhead = 12;
+  constexpr std::size_t kNear = 5;
   using Outcome = DoubleDecision::Outcome;
   const std::size_t total = list.size();
   ViewIndex by_number(total);
@@ -61,6 +62,10 @@ std::size_t remove_double_entries(BookList& list, MergeMode mode, const AskAbout
   for (std::size_t i = 0; i < total; ++i) {
     on_step(i + 1, total);
     if (i + kAhead < total) by_number.announce(list.hash_of_number(i + kAhead));
+    if (i + kNear < total) {
+      const std::uint32_t likely = by_number.likely_row(list.hash_of_number(i + kNear));
+      if (likely != ViewIndex::kNone) list.announce(likely);
+    }
     if (!list.written(i)) continue;
     const auto entry = static_cast<std::uint32_t>(i);
     const std::uint32_t hash = list.hash_of_number(i);

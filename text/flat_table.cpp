@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "text/fault.h"
+#include "text/text.h"
 
 namespace quenda {
 namespace {
@@ -89,6 +90,10 @@ void FlatTable::remove_row(std::size_t row) {
 }
 
 void FlatTable::clear() { cut(0, 0); }
+
+bool FlatTable::has_separators_inside() const {
+  return count_of(buffer_, kBetweenCells) != rows() * (columns_ - 1);
+}
 
 void FlatTable::replace(char from, char to) {
   for (auto at = buffer_.find(from); at != buffer_.npos; at = buffer_.find(from, at + 1)) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -43,6 +44,9 @@ class FlatTable {
   /// between one and the next.
   template <class Rewrite>
   void rewrite_rows(Rewrite rewrite);
+  /// Whether a cell has a ";" inside, so that a row's line does not tell its cells. Only for a
+  /// table that rows were added to, kept in and rewritten, and nothing else.
+  [[nodiscard]] bool has_separators_inside() const;
   /// Puts one character for another in all cells. Neither may be ";".
   void replace(char from, char to);
 
@@ -81,10 +85,24 @@ template <class Rewrite>
 void FlatTable::rewrite_rows(Rewrite rewrite) {
   std::size_t kept = 0;
   std::size_t written = 0;
+  std::vector<std::string_view> before(columns_);
   std::vector<std::string_view> cells(columns_);
+  const auto is_same = [](std::string_view a, std::string_view b) {
+    return a.data() == b.data() && a.size() == b.size();
+  };
   for (std::size_t row = 0; row < rows(); ++row) {
-    for (std::size_t i = 0; i < columns_; ++i) cells[i] = cell(row, i);
-    if (rewrite(std::span(cells))) pack(cells, row, kept++, written);
+    const char* start = buffer_.data() + starts_[row];
+    for (std::size_t i = 0; i < columns_; ++i) {
+      before[i] = {start, lengths_[row * columns_ + i]};
+      start += before[i].size() + 1;
+    }
+    std::copy(before.begin(), before.end(), cells.begin());
+    if (!rewrite(std::span(cells))) continue;
+    if (std::equal(cells.begin(), cells.end(), before.begin(), is_same)) {
+      pack(row, kept++, written);
+    } else {
+      pack(cells, row, kept++, written);
+    }
   }
   cut(kept, written);
 }

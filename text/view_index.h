@@ -8,6 +8,15 @@
 
 namespace quenda {
 
+/// Lets the processor fetch what is going to be read there soon.
+inline void announce_reading(const void* place) {
+#ifdef __GNUC__
+  __builtin_prefetch(place);
+#else
+  (void)place;
+#endif
+}
+
 /// A quick hash of a text, good enough to tell rows apart in an index.
 inline std::uint64_t hash_of(std::string_view text) {
   constexpr std::uint64_t kFactor = 0x9E3779B97F4A7C15U;
@@ -67,12 +76,13 @@ class ViewIndex {
 
   /// Announces a look-up that comes soon. In a large index nearly every look-up waits for memory;
   /// announced some ten look-ups ahead, the waiting times overlap.
-  void announce(std::uint32_t hash) const {
-#ifdef __GNUC__
-    __builtin_prefetch(&slots_[hash & (slots_.size() - 1)], 1);
-#else
-    (void)hash;
-#endif
+  void announce(std::uint32_t hash) const { announce_reading(&slots_[hash & (slots_.size() - 1)]); }
+
+  /// A stored row that probably has the key of that hash, so that what is going to be asked of the
+  /// row can be announced, too; kNone when there is none at first sight.
+  [[nodiscard]] std::uint32_t likely_row(std::uint32_t hash) const {
+    const Slot& slot = slots_[hash & (slots_.size() - 1)];
+    return slot.hash == hash ? slot.row : kNone;
   }
 
   /// The row stored under the key, kNone when there is none.

@@ -29,6 +29,25 @@ TEST(BookLine, IsWrittenWithNumbersForFlagsAndWithoutExtra) {
   EXPECT_EQ(read_book_line(cases[0].first).Extra, "keep");
 }
 
+TEST(BookLine, IsPlainWhenWrittenAnewItIsTheSame) {
+  const std::string_view fields = "A (b) [c];1;x;-1;7;0;Street";
+  const std::pair<std::string_view, bool> ends[] = {
+      {";;[vcd()vcd]", true},   {";;[vcd(a;b)c[vcd(d)vcd]", true},
+      {";;[vcd()vcd] ", false}, {";;[vcd()vcd])vcd]", false},
+      {";x;[vcd()vcd]", false}, {"; ;[vcd()vcd]", false},
+      {";;[vcd(", false},       {";;", false},
+      {";;x[vcd()vcd]", false}, {";[vcd()vcd];[vcd()vcd]", false}};
+  for (const auto& [end, plain] : ends) {
+    const std::string line = std::string(fields).append(end);
+    const ExaminedLine examined = examine_book_line(line);
+    EXPECT_EQ(examined.number, "1");
+    EXPECT_EQ(examined.plain, plain) << line;
+    std::string text;
+    append_book_line(text, read_book_line(line));
+    EXPECT_EQ(text == line + "\r\n", plain) << line;
+  }
+}
+
 TEST(BookLine, IsAFaultWhenFieldsAreMissingOrNoValues) {
   const std::pair<std::string_view, int> cases[] = {
       {"A;1;0;0;0;0;S", kFaultIndexRange},    {"A;1;0;ja;0;0;S;", kFaultTypeMismatch},
@@ -36,6 +55,7 @@ TEST(BookLine, IsAFaultWhenFieldsAreMissingOrNoValues) {
       {"A;1;0;0;32768;0;S;", kFaultOverflow}, {")vcd];1;0;0;0;0;S;;[vcd(", kFaultInvalidCall}};
   for (const auto& [line, number] : cases) {
     EXPECT_EQ(fault_of([&, text = line] { read_book_line(text); }), number) << line;
+    EXPECT_EQ(fault_of([&, text = line] { examine_book_line(text); }), number) << line;
   }
 }
 
