@@ -6,6 +6,7 @@
 #include <limits>
 #include <utility>
 
+#include "text/character_counts.h"
 #include "text/fault.h"
 #include "text/line_breaks.h"
 #include "text/place_finder.h"
@@ -220,16 +221,9 @@ std::size_t delimiters_of(std::string_view record, char delimiter) {
 }  // namespace
 
 DelimiterCounts count_delimiters(std::string_view text) {
-  DelimiterCounts counts;
-  // Block by block, so that the four counts read each part of the file while it is in the cache.
-  for (std::size_t at = 0; at < text.size(); at += kStepBytes) {
-    const std::string_view block = text.substr(at, kStepBytes);
-    for (std::size_t i = 0; i < kDelimiters.size(); ++i) {
-      counts.of[i] += count_of(block, kDelimiters[i]);
-    }
-    counts.line_breaks += count_of(block, '\r');
-  }
-  return counts;
+  const auto [first, second, third, line_breaks] =
+      count_each(text, kDelimiters[0], kDelimiters[1], kDelimiters[2], '\r');
+  return {{first, second, third}, line_breaks};
 }
 
 int choose_delimiter(const DelimiterCounts& counts) {

@@ -6,6 +6,7 @@
 #include "platform/files.h"
 #include "support/procedure.h"
 #include "text/date_text.h"
+#include "text/line_breaks.h"
 #include "text/text.h"
 
 namespace quenda {
@@ -28,7 +29,7 @@ std::string_view newest_lines(std::string_view log, std::int32_t maximum) {
 
 long line_count(std::string_view text) {
   if (text.empty()) return 0;
-  const auto line_ends = static_cast<long>(count_line_ends(text));
+  const auto line_ends = static_cast<long>(count_line_breaks(text).pairs);
   if (line_ends > 0) return line_ends + (text.ends_with(kCrLf) ? 0 : 1);
   return static_cast<long>(count_of(text, '\n')) / 2 + 1;
 }

@@ -33,6 +33,11 @@ class ByteBlock {
   /// The bits of this block that the other one lacks.
   [[nodiscard]] ByteBlock without(ByteBlock other) const;
 
+  /// Each byte less the other's, as codes from 0 to 255 that go on at 255 below 0.
+  [[nodiscard]] ByteBlock minus(ByteBlock other) const;
+  /// All codes together.
+  [[nodiscard]] std::size_t sum() const;
+
   /// Bit 7 of each byte, the first byte's as the lowest bit.
   [[nodiscard]] std::uint32_t top_bits() const;
 
@@ -78,6 +83,14 @@ inline ByteBlock ByteBlock::operator&(ByteBlock other) const {
 inline ByteBlock ByteBlock::without(ByteBlock other) const {
   return ByteBlock(_mm_andnot_si128(other.bytes_, bytes_));
 }
+inline ByteBlock ByteBlock::minus(ByteBlock other) const {
+  return ByteBlock(_mm_sub_epi8(bytes_, other.bytes_));
+}
+inline std::size_t ByteBlock::sum() const {
+  const __m128i halves = _mm_sad_epu8(bytes_, _mm_setzero_si128());
+  return static_cast<std::size_t>(_mm_cvtsi128_si32(halves) +
+                                  _mm_cvtsi128_si32(_mm_unpackhi_epi64(halves, halves)));
+}
 inline std::uint32_t ByteBlock::top_bits() const {
   return static_cast<std::uint32_t>(_mm_movemask_epi8(bytes_));
 }
@@ -108,6 +121,14 @@ inline ByteBlock ByteBlock::operator&(ByteBlock other) const {
 }
 inline ByteBlock ByteBlock::without(ByteBlock other) const {
   return combined(*this, other, [](unsigned a, unsigned b) { return a & ~b; });
+}
+inline ByteBlock ByteBlock::minus(ByteBlock other) const {
+  return combined(*this, other, [](unsigned a, unsigned b) { return a - b; });
+}
+inline std::size_t ByteBlock::sum() const {
+  std::size_t sum = 0;
+  for (const unsigned char byte : bytes_) sum += byte;
+  return sum;
 }
 inline std::uint32_t ByteBlock::top_bits() const {
   std::uint32_t bits = 0;

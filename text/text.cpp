@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "text/character_counts.h"
 #include "text/code_page_1252.h"
 
 namespace quenda {
@@ -33,30 +34,6 @@ void append_character(std::string& out, char32_t code_point) {
     out += static_cast<char>(0x80U | ((code_point >> 6U) & 0x3FU));
     out += static_cast<char>(0x80U | (code_point & 0x3FU));
   }
-}
-
-/// How many positions match. Counted in rows of single bytes, which are added up before they
-/// overflow, or else the compiler would not use vector instructions.
-template <class Matches>
-std::size_t count_places(std::size_t places, Matches matches) {
-  constexpr std::size_t kLanes = 32;
-  constexpr std::size_t kBlock = kLanes * 255;
-  std::size_t count = 0;
-  std::size_t at = 0;
-  while (places - at >= kLanes) {
-    std::array<unsigned char, kLanes> lanes{};
-    const std::size_t end = at + std::min(places - at, kBlock) / kLanes * kLanes;
-    for (; at < end; at += kLanes) {
-      for (std::size_t lane = 0; lane < kLanes; ++lane) {
-        lanes[lane] = static_cast<unsigned char>(lanes[lane] + (matches(at + lane) ? 1 : 0));
-      }
-    }
-    for (const unsigned char lane : lanes) count += lane;
-  }
-  for (; at < places; ++at) {
-    if (matches(at)) ++count;
-  }
-  return count;
 }
 
 }  // namespace
@@ -119,16 +96,7 @@ bool next_part(std::string_view& rest, std::string_view separator, std::string_v
 }
 
 std::size_t count_of(std::string_view text, char character) {
-  return count_places(text.size(), [&](std::size_t at) { return text[at] == character; });
-}
-
-std::size_t count_line_ends(std::string_view text) {
-  if (text.empty()) return 0;
-  return count_places(text.size() - 1, [&](std::size_t at) {
-    const bool first = text[at] == '\r';
-    const bool second = text[at + 1] == '\n';
-    return (static_cast<unsigned>(first) & static_cast<unsigned>(second)) != 0;
-  });
+  return count_each(text, character)[0];
 }
 
 std::string to_utf8(std::string_view text) {

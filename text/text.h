@@ -46,9 +46,6 @@ bool next_part(std::string_view& rest, std::string_view separator, std::string_v
 /// How often the character stands in the text.
 std::size_t count_of(std::string_view text, char character);
 
-/// How many CR LF the text has.
-std::size_t count_line_ends(std::string_view text);
-
 /// A set of characters with a quick look-up.
 class CharacterSet {
  public:

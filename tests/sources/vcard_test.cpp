@@ -5,6 +5,7 @@
 #include <string>
 
 #include "text/literal_1252.h"
+#include "text/line_breaks.h"
 #include "text/text.h"
 
 namespace quenda {
@@ -69,7 +70,7 @@ TEST(ReadVcards, StaysSmall) {
   for (int i = 0; i < 10'000; ++i) text += " y\n";
   const ConvertedTable table = read(text);
   EXPECT_LT(table.text.size(), 200'000U);
-  EXPECT_EQ(count_line_ends(table.text), 1003U);
+  EXPECT_EQ(count_line_breaks(table.text).pairs, 1003U);
 }
 
 }  // namespace

@@ -9,7 +9,8 @@ namespace {
 
 TEST(LineBreaks, CountsAPairAtEveryPlaceOnce) {
   const std::string text(70000, 'a');
-  for (const std::size_t at : {0UL, 32766UL, 32767UL, 32768UL, 65534UL, 65535UL, 69998UL}) {
+  for (const std::size_t at :
+       {0UL, 15UL, 16UL, 4079UL, 4080UL, 65535UL, 69983UL, 69984UL, 69998UL}) {
     std::string changed = text;
     changed.replace(at, 2, "\r\n");
     const LineBreaks breaks = count_line_breaks(changed);
