@@ -57,10 +57,10 @@ void Splitter::set_share(int share) {
   refresh(Aspect::kValue);
 }
 
-const Splitter* splitter_beside(const Control& sibling) {
-  for (const Control* control : sibling.host().controls()) {
-    if (control->kind() == ControlKind::kSplitter && control->parent() == sibling.parent()) {
-      return static_cast<const Splitter*>(control);
+const Splitter* splitter_beside(const Control& control) {
+  for (const Control* other : control.host().controls()) {
+    if (other->kind() == ControlKind::kSplitter && other->parent() == control.parent()) {
+      return static_cast<const Splitter*>(other);
     }
   }
   return nullptr;
