@@ -4,8 +4,8 @@
 
 #include <string>
 
-#include "text/literal_1252.h"
 #include "text/line_breaks.h"
+#include "text/literal_1252.h"
 #include "text/text.h"
 
 namespace quenda {
