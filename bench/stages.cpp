@@ -20,9 +20,12 @@
 #include "book/merge.h"
 #include "book/number_cleaning.h"
 #include "sources/delimited_text.h"
+#include "sources/file_conversion.h"
+#include "sources/file_facts.h"
 #include "sources/record_table.h"
 #include "text/flat_table.h"
 #include "text/repeated_lines.h"
+#include "text/text.h"
 #include "wizard/composition.h"
 
 namespace quenda {
@@ -68,8 +71,17 @@ Composition composition() {
   return result;
 }
 
+/// What is done with a file of other programs before its import.
+void adapt(const std::string& contacts, Times& times) {
+  const std::string bytes = to_utf8(replace_all(contacts, kCrLf, "\n"));
+  FileFacts facts;
+  times.run("look at UTF-8", [&] { facts = look_at_file(bytes); });
+  times.run("adapt UTF-8", [&] { (void)convert_file(bytes, facts, kDelimiter); });
+}
+
 void import(const std::string& contacts, const std::string& book, Times& times) {
   std::string text = contacts;
+  times.run("look at the file", [&] { (void)look_at_file(text); });
   times.run("count delimiters", [&] { (void)choose_delimiter(count_delimiters(text)); });
   times.run("doubled quotes", [&] { remove_doubled_quotes(text); });
   RecordTable records;
@@ -112,7 +124,10 @@ int main() {
   for (std::size_t i = 0; i < kSizes.size(); ++i) {
     const std::string contacts = contact_file(kSizes[i]);
     const std::string book = phone_book(kSizes[i]);
-    for (int round = 0; round < kRounds; ++round) import(contacts, book, times[i]);
+    for (int round = 0; round < kRounds; ++round) {
+      import(contacts, book, times[i]);
+      adapt(contacts, times[i]);
+    }
   }
   std::printf("%-18s %10s %10s %10s  growth\n", "seconds", "10,000", "100,000", "1,000,000");
   for (const std::string& stage : times[0].stages()) {

@@ -6,6 +6,7 @@
 #include <limits>
 #include <utility>
 
+#include "text/byte_block.h"
 #include "text/character_counts.h"
 #include "text/fault.h"
 #include "text/line_breaks.h"
@@ -65,18 +66,33 @@ class RecordBuilder {
   }
 
  private:
-  /// What becomes of the characters inside quotes.
+  /// What becomes of the characters inside quotes: line breaks become blanks, delimiters "|".
   class QuotedCharacters {
    public:
-    explicit QuotedCharacters(char delimiter) {
+    explicit QuotedCharacters(char delimiter) : delimiter_(delimiter) {
       for (std::size_t i = 0; i < of_.size(); ++i) of_[i] = static_cast<char>(i);
       of_[index('\r')] = of_[index('\n')] = ' ';
       of_[index(delimiter)] = '|';
     }
-    char operator[](char c) const { return of_[index(c)]; }
+    /// Changes so many characters from a place on. `readable` characters can be read there.
+    void change(char* at, std::size_t size, std::size_t readable) const {
+      constexpr std::size_t kSize = ByteBlock::kSize;
+      for (std::size_t done = 0; done < size; done += kSize) {
+        const std::size_t count = std::min(size - done, kSize);
+        // Most have nothing to change.
+        if (readable - done >= kSize && changed_at(at + done) << (32 - count) == 0) continue;
+        for (char* c = at + done; c != at + done + count; ++c) *c = of_[index(*c)];
+      }
+    }
 
    private:
+    /// A bit for each of the characters from there on that changes.
+    [[nodiscard]] std::uint32_t changed_at(const char* from) const {
+      const ByteBlock block = ByteBlock::load(from);
+      return (block.equal_to('\r') | block.equal_to('\n') | block.equal_to(delimiter_)).top_bits();
+    }
     static std::size_t index(char c) { return static_cast<unsigned char>(c); }
+    char delimiter_;
     std::array<char, 256> of_{};
   };
 
@@ -90,14 +106,11 @@ class RecordBuilder {
     read_ = place;
   }
 
-  /// Moves what lies before a place inside quotes, where line breaks become blanks and delimiters
-  /// "|".
+  /// Moves what lies before a place inside quotes.
   void change_until(std::size_t place) {
-    // Plain pointers: through the text the compiler would load its address anew for each byte.
-    char* at = text_.data() + written_;
+    const std::size_t start = written_;
     move_until(place);
-    char* const end = text_.data() + written_;
-    for (; at != end; ++at) *at = inside_quotes_[*at];
+    inside_quotes_.change(text_.data() + start, written_ - start, text_.size() - start);
   }
 
   /// Takes what lies before the next quote or line feed outside quotes, and the mark itself.
