@@ -123,8 +123,7 @@ class fMain : public WizardShell,
   void tell_of(const BookBackup::Outcome& outcome, const std::string& folder);
   /// False when the book cannot be read without losing entries; the user has been told then.
   bool book_readable(std::string_view book);
-  DoubleAnswer ask_about_double(std::string_view number, const std::string& existing,
-                                const std::string& fresh);
+  DoubleAnswer ask_about_double(const DoubleQuestion& question);
 
   /// Whether the settings want a report that can be written; the user is told when it cannot.
   [[nodiscard]] bool report_possible();

@@ -19,7 +19,7 @@ bool fMain::look_ahead() {
   run.questions = MergeAccount::Questions::kOnlyFound;
   const bool done = procedure(app_.errors, "fMain.look_ahead", {}, [&] {
     // Nobody is asked; it goes on as if the book's entry stayed.
-    run.end = merge_into_book(run, [](auto, const auto&, const auto&) { return DoubleAnswer{}; });
+    run.end = merge_into_book(run, [](const auto&) { return DoubleAnswer{}; });
   });
   if (!done) run.end = MergeRun::End::kFailed;
   return run.end != MergeRun::End::kFailed;

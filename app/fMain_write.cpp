@@ -82,9 +82,7 @@ TailTexts fMain::book_texts() const {
 
 MergeRun::End fMain::merge_and_write(MergeRun& run) {
   const MergeRun::End end =
-      merge_into_book(run, [this](auto number, const auto& existing, const auto& fresh) {
-        return ask_about_double(number, existing, fresh);
-      });
+      merge_into_book(run, [this](const auto& question) { return ask_about_double(question); });
   return end == MergeRun::End::kToBeWritten ? write_book(run) : end;
 }
 
@@ -148,10 +146,10 @@ bool fMain::book_readable(std::string_view book) {
   return false;
 }
 
-DoubleAnswer fMain::ask_about_double(std::string_view number, const std::string& existing,
-                                     const std::string& fresh) {
+DoubleAnswer fMain::ask_about_double(const DoubleQuestion& question) {
   fImportMsg dialog(app_);
-  dialog.fill(number, existing, fresh);
+  dialog.fill(question.number, in_words(question.existing), in_words(question.fresh));
+  dialog.compare(question);
   app_.machine.events.show_modal(dialog, *this);
   if (wizard.abort) throw EndProgram();
   // Nothing is guessed for the user when the dialog could not be answered.

@@ -1,5 +1,6 @@
 #include "book/merge.h"
 
+#include <algorithm>
 #include <cstdint>
 
 #include "text/text.h"
@@ -12,14 +13,13 @@ bool same_contact(const BookContact& a, const BookContact& b) {
   return equal_ignoring_case(a.name, b.name) && equal_ignoring_case(a.address, b.address);
 }
 
-std::string in_words(const BookContact& contact) {
-  return concat(contact.name, "  ", contact.address);
-}
-
 /// Decides which of two entries with one number stays.
 class DoubleRule {
  public:
-  DoubleRule(MergeMode mode, const AskAboutDouble& ask) : mode_(mode), ask_(ask) {}
+  /// `count_questions` tells, at the first question, how many there are.
+  DoubleRule(MergeMode mode, const AskAboutDouble& ask,
+             const std::function<std::size_t()>& count_questions)
+      : mode_(mode), ask_(ask), count_questions_(count_questions) {}
 
   /// A nameless entry gives way without a question.
   bool takes_new(std::string_view number, const BookContact& existing, const BookContact& fresh) {
@@ -27,7 +27,9 @@ class DoubleRule {
     if (existing.name.empty()) return true;
     if (mode_ != MergeMode::kAsk) return mode_ == MergeMode::kTakeNew;
     asked_ = true;
-    const DoubleAnswer answer = ask_(number, in_words(existing), in_words(fresh));
+    ++questions_;
+    const DoubleAnswer answer =
+        ask_({number, existing, fresh, questions_, [this] { return count(); }});
     mode_ = mode_after(answer);
     return answer.take_new;
   }
@@ -35,22 +37,28 @@ class DoubleRule {
   [[nodiscard]] bool asked() const { return asked_; }
 
  private:
+  /// Answers may raise further questions.
+  std::size_t count() {
+    if (questions_ == 1) expected_ = count_questions_();
+    return std::max(questions_, expected_);
+  }
+
   MergeMode mode_;
   const AskAboutDouble& ask_;
+  const std::function<std::size_t()>& count_questions_;
+  std::size_t questions_ = 0;
+  std::size_t expected_ = 0;
   bool asked_ = false;
 };
 
-}  // namespace
-
-std::size_t remove_double_entries(BookList& list, MergeMode mode, const AskAboutDouble& ask,
-                                  const std::function<void(std::size_t, std::size_t)>& on_step,
-                                  const OnDecision& on_decision) {
+std::size_t remove_doubles(BookList& list, DoubleRule& rule,
+                           const std::function<void(std::size_t, std::size_t)>& on_step,
+                           const OnDecision& on_decision) {
   constexpr std::size_t kAhead = 12;
   constexpr std::size_t kNear = 5;
   using Outcome = DoubleDecision::Outcome;
   const std::size_t total = list.size();
   ViewIndex by_number(total);
-  DoubleRule rule(mode, ask);
   const auto decide = [&](std::size_t existing, std::size_t fresh) {
     const BookContact old_contact = list.contact(existing);
     const BookContact new_contact = list.contact(fresh);
@@ -88,6 +96,33 @@ std::size_t remove_double_entries(BookList& list, MergeMode mode, const AskAbout
     }
   }
   return kept;
+}
+
+/// How many questions a list raises whose existing entries are all kept.
+std::size_t count_of_questions(BookList list) {
+  std::size_t questions = 0;
+  const AskAboutDouble keep = [&](const DoubleQuestion&) {
+    ++questions;
+    return DoubleAnswer{};
+  };
+  const std::function<std::size_t()> unknown = [] { return std::size_t{0}; };
+  DoubleRule rule(MergeMode::kAsk, keep, unknown);
+  remove_doubles(list, rule, [](auto, auto) {}, {});
+  return questions;
+}
+
+}  // namespace
+
+std::string in_words(const BookContact& contact) {
+  return concat(contact.name, "  ", contact.address);
+}
+
+std::size_t remove_double_entries(BookList& list, MergeMode mode, const AskAboutDouble& ask,
+                                  const std::function<void(std::size_t, std::size_t)>& on_step,
+                                  const OnDecision& on_decision) {
+  const std::function<std::size_t()> count = [&list] { return count_of_questions(list); };
+  DoubleRule rule(mode, ask, count);
+  return remove_doubles(list, rule, on_step, on_decision);
 }
 
 }  // namespace quenda

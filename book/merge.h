@@ -25,10 +25,18 @@ constexpr MergeMode mode_after(const DoubleAnswer& answer) {
   return answer.take_new ? MergeMode::kTakeNew : MergeMode::kKeepExisting;
 }
 
-/// Asks the user about a number that is there already: the number, then the existing and the new
-/// entry in words.
-using AskAboutDouble = std::function<DoubleAnswer(
-    std::string_view number, const std::string& existing, const std::string& fresh)>;
+/// A number that is there already, for the user to decide.
+struct DoubleQuestion {
+  std::string_view number;
+  BookContact existing;
+  BookContact fresh;
+  std::size_t place = 1;               // which question this is, from 1
+  std::function<std::size_t()> count;  // how many there will be if the existing entries are kept
+};
+using AskAboutDouble = std::function<DoubleAnswer(const DoubleQuestion& question)>;
+
+/// An entry in one line, as the user is asked about it.
+std::string in_words(const BookContact& contact);
 
 /// What the removal of doubles decided about an entry whose number an earlier one has. Entries are
 /// told by their places in the list.

@@ -1,5 +1,7 @@
 #include "book/pages/fImportMsg.h"
 
+#include <initializer_list>
+
 #include "settings/app.h"
 #include "support/procedure.h"
 #include "text/text.h"
@@ -11,34 +13,44 @@ namespace {
 
 constexpr DesignRow<fImportMsg> kDesign[] = {
     {.control = control_at<&fImportMsg::labMsgNumber>,
-     .place = {240, 210, 6720, 255},
+     .place = {240, 210, 6600, 255},
      .caption = "Import_Label_ItemExistWithNumber"},
+    {.control = control_at<&fImportMsg::labCount>, .place = {6960, 210, 1320, 255}},
     {.control = control_at<&fImportMsg::labIn>,
-     .place = {240, 630, 6720, 255},
+     .place = {1380, 630, 3360, 255},
      .caption = "Import_Option_RetainDataSet"},
-    {.control = control_at<&fImportMsg::labMsgIn>, .place = {240, 870, 6720, 480}},
     {.control = control_at<&fImportMsg::labNew>,
-     .place = {240, 1380, 6720, 255},
+     .place = {4920, 630, 3360, 255},
      .caption = "Import_Option_NewDataSet"},
-    {.control = control_at<&fImportMsg::labMsgNew>, .place = {240, 1620, 6720, 480}},
+    {.control = control_at<&fImportMsg::labName>,
+     .place = {240, 960, 1080, 255},
+     .caption = "String_Name"},
+    {.control = control_at<&fImportMsg::labAdress>,
+     .place = {240, 1440, 1080, 255},
+     .caption = "String_Address"},
+    {.control = control_at<&fImportMsg::labMsgIn>, .place = {1380, 960, 3360, 960}},
+    {.control = control_at<&fImportMsg::labMsgNew>, .place = {4920, 960, 3360, 960}},
+    {.control = control_at<&fImportMsg::labAnswer>,
+     .place = {240, 2070, 8040, 480},
+     .caption = "Import_Label_AnswerOne"},
     {.control = control_at<&fImportMsg::optAsk, 0>,
-     .place = {240, 2220, 6720, 300},
+     .place = {240, 2610, 8040, 300},
      .tab = 0,
      .caption = "Import_Option_AskAgain"},
     {.control = control_at<&fImportMsg::optAsk, 1>,
-     .place = {240, 2550, 6720, 300},
+     .place = {240, 2940, 8040, 300},
      .tab = 1,
      .caption = "Import_Option_ApplyAll"},
     {.control = control_at<&fImportMsg::cmdMsg, 0>,
-     .place = {3660, 3060, 1600, 390},
+     .place = {4980, 3450, 1600, 390},
      .tab = 2,
      .caption = "Import_Button_Retain"},
     {.control = control_at<&fImportMsg::cmdMsg, 1>,
-     .place = {5360, 3060, 1600, 390},
+     .place = {6680, 3450, 1600, 390},
      .tab = 3,
      .caption = "Button_Resume"},
     {.control = control_at<&fImportMsg::cmdHelp>,
-     .place = {240, 3060, 1400, 390},
+     .place = {240, 3450, 1400, 390},
      .tab = 4,
      .caption = "Button_Help"},
 };
@@ -53,8 +65,11 @@ fImportMsg::fImportMsg(App& app) : Form("fImportMsg"), app_(app) {
 
 void fImportMsg::design() {
   apply_design(*this, kDesign);
-  set_place({0, 0, 7200, 3630});
-  for (Label* shown : {&labMsgNumber, &labMsgIn, &labMsgNew}) shown->set_shows_data(true);
+  set_place({0, 0, 8520, 4020});
+  for (Label* shown : std::initializer_list<Label*>{&labMsgNumber, &labMsgIn, &labMsgNew}) {
+    shown->set_shows_data(true);
+  }
+  labCount.set_at_end(true);
   optAsk(0).choose();
   default_button = &cmdMsg(0);
 }
@@ -64,6 +79,9 @@ void fImportMsg::connect() {
     button->on_click = [this, index = button->index()] { cmdMsg_Click(index); };
   }
   on_query_unload = [this](bool& cancel, CloseReason reason) { Form_QueryUnload(cancel, reason); };
+  for (const auto& option : optAsk) {
+    option->on_click = [this] { optAsk_Click(); };
+  }
   cmdHelp.on_click = [this] { cmdHelp_Click(); };
   on_help = cmdHelp.on_click;
   on_got_focus = [this] { cmdMsg(0).set_focus(); };
@@ -81,6 +99,31 @@ void fImportMsg::fill(std::string_view number, std::string_view existing, std::s
     labMsgNumber.set_caption(concat(app_.text("Import_Label_ItemExistWithNumber"), ": ", number));
     labMsgIn.set_caption(existing);
     labMsgNew.set_caption(fresh);
+  }).or_go_on();
+}
+
+void fImportMsg::compare(const DoubleQuestion& question) {
+  procedure(app_.errors, "fImportMsg.compare", {}, [&] {
+    const BookContact& old = question.existing;
+    const BookContact& fresh = question.fresh;
+    const bool other_name = !equal_ignoring_case(old.name, fresh.name);
+    const bool other_address = !equal_ignoring_case(old.address, fresh.address);
+    const auto parts = [&](const BookContact& contact) {
+      return std::vector<PartsLabel::Part>{{std::string(contact.name), other_name},
+                                           {std::string(contact.address), other_address}};
+    };
+    labMsgIn.set_parts(parts(old));
+    labMsgNew.set_parts(parts(fresh));
+    const std::string place =
+        replace_all(app_.text("Import_Label_QuestionOf"), "%1", std::to_string(question.place));
+    labCount.set_caption(replace_all(place, "%2", std::to_string(question.count())));
+  }).or_go_on();
+}
+
+void fImportMsg::optAsk_Click() {
+  procedure(app_.errors, "fImportMsg.optAsk_Click", {}, [&] {
+    labAnswer.set_caption(app_.text(optAsk(1).chosen() ? TextKey("Import_Label_AnswerAll")
+                                                       : "Import_Label_AnswerOne"));
   }).or_go_on();
 }
 

@@ -6,6 +6,7 @@
 #include "book/merge.h"
 #include "platform/controls/control_array.h"
 #include "platform/controls/form.h"
+#include "platform/controls/parts_label.h"
 #include "platform/controls/simple_controls.h"
 
 namespace quenda {
@@ -22,7 +23,11 @@ class fImportMsg : public Form {
 
   /// The number, and the existing and the new entry in words.
   void fill(std::string_view number, std::string_view existing, std::string_view fresh);
+  /// Shows the two entries part by part, with what differs marked, and which question this is.
+  void compare(const DoubleQuestion& question);
   void Language();
+  /// Says in a sentence what both buttons mean with the chosen option.
+  void optAsk_Click();
   /// Button 0 keeps the existing entry, button 1 takes the new one.
   void cmdMsg_Click(int index);
   void cmdHelp_Click();
@@ -30,10 +35,14 @@ class fImportMsg : public Form {
   void Form_QueryUnload(bool& cancel, CloseReason reason);
 
   Label labMsgNumber{*this, "labMsgNumber"};
+  Label labCount{*this, "labCount"};
   Label labIn{*this, "labIn"};
-  Label labMsgIn{*this, "labMsgIn"};
+  PartsLabel labMsgIn{*this, "labMsgIn"};
   Label labNew{*this, "labNew"};
-  Label labMsgNew{*this, "labMsgNew"};
+  PartsLabel labMsgNew{*this, "labMsgNew"};
+  Label labName{*this, "labName"};
+  Label labAdress{*this, "labAdress"};
+  Label labAnswer{*this, "labAnswer"};
   ControlArray<OptionButton> optAsk{*this, "optAsk", {0, 1}};
   ControlArray<Button> cmdMsg{*this, "cmdMsg", {0, 1}};
   Button cmdHelp{*this, "cmdHelp"};

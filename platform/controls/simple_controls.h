@@ -20,9 +20,13 @@ class Label : public Control {
   /// name of a field it marks the letter that leads there. Part of the design, not changed later.
   [[nodiscard]] bool shows_data() const { return shows_data_; }
   void set_shows_data(bool shows_data) { shows_data_ = shows_data; }
+  /// Whether the caption ends where the label does. Part of the design, too.
+  [[nodiscard]] bool at_end() const { return at_end_; }
+  void set_at_end(bool at_end) { at_end_ = at_end; }
 
  private:
   bool shows_data_ = false;
+  bool at_end_ = false;
 };
 
 /// A group of controls that move, show and take input together.

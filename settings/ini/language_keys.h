@@ -214,6 +214,14 @@ inline constexpr std::array kLanguageKeys = {
     LanguageKey{"Import_Option_AskAgain", "weiterhin nachfragen"},
     LanguageKey{"Import_Option_ApplyAll", u8"für alle weiteren übernehmen"_de},
     LanguageKey{"Import_Button_Retain", "Erhalten"},
+    LanguageKey{"Import_Label_QuestionOf", "%1 von %2"},
+    LanguageKey{"Import_Label_AnswerOne",
+                u8"\"Erhalten\" behält den vorhandenen, \"Übernehmen\" nimmt den neuen Datensatz - "
+                u8"nur für diese Rufnummer."_de},
+    LanguageKey{
+        "Import_Label_AnswerAll",
+        u8"\"Erhalten\" behält ab jetzt alle vorhandenen, \"Übernehmen\" nimmt ab jetzt alle "
+        u8"neuen Datensätze - ohne weitere Fragen."_de},
     LanguageKey{
         "Import_Label_ImportRequiredCodes",
         u8"Für den Import werden die eigene Landesvorwahl und die eigene Ortsvorwahl benötigt."_de},

@@ -48,8 +48,12 @@ TEST_F(LastPage, AsksAboutADoubleAndRefusesToBeClosedWithoutAnAnswer) {
     EXPECT_TRUE(dialog.labMsgNumber.caption().ends_with(": 030123456"));
     EXPECT_EQ(dialog.labMsgIn.caption(), "Alt  Ort");
     EXPECT_EQ(dialog.labMsgNew.caption(), "Neu  ");
+    EXPECT_EQ(dialog.labMsgNew.parts(), (std::vector<PartsLabel::Part>{{"Neu", true}, {"", true}}));
+    EXPECT_EQ(dialog.labCount.caption(), "1 von 1");
     EXPECT_FALSE(dialog.unload(CloseReason::kCloseBox));
+    EXPECT_TRUE(dialog.labAnswer.caption().ends_with(u8"nur für diese Rufnummer."_de));
     dialog.optAsk(1).take_user_click();
+    EXPECT_TRUE(dialog.labAnswer.caption().ends_with("ohne weitere Fragen."));
     dialog.cmdMsg(1).take_user_click();
   };
   finish();

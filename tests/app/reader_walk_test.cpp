@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <iterator>
 #include <map>
 #include <string>
 
@@ -68,7 +69,44 @@ std::vector<std::string> complaints(const ControlHost& host, std::string_view hi
   return found;
 }
 
+/// Boxes of one parent that share ground, whatever the DPI: the screen rounds edges, not sizes.
+std::vector<std::string> overlaps(const ControlHost& host) {
+  std::vector<std::string> found;
+  const auto shares = [](int start, int size, int other_start, int other_size) {
+    return start < other_start + other_size && other_start < start + size;
+  };
+  const auto& controls = host.controls();
+  for (auto at = controls.begin(); at != controls.end(); ++at) {
+    for (auto other = std::next(at); other != controls.end(); ++other) {
+      if ((*at)->parent() != (*other)->parent()) continue;
+      if (!(*at)->visible() || !(*other)->visible()) continue;
+      const Place& a = (*at)->place();
+      const Place& b = (*other)->place();
+      if (shares(a.left, a.width, b.left, b.width) && shares(a.top, a.height, b.top, b.height)) {
+        found.push_back(concat((*at)->name(), " and ", (*other)->name()));
+      }
+    }
+  }
+  return found;
+}
+
 class ReaderWalk : public WizardTest {};
+
+TEST_F(ReaderWalk, NothingLiesOnSomethingElse) {
+  start();
+  EXPECT_THAT(overlaps(fImportItemEdit(*app)), testing::IsEmpty());
+  EXPECT_THAT(overlaps(fImportMsg(*app)), testing::IsEmpty());
+  EXPECT_THAT(overlaps(fOVWInput(*app)), testing::IsEmpty());
+  for (int page = 0; page < 4; ++page) {
+    EXPECT_THAT(overlaps(*form), testing::IsEmpty()) << "page " << page;
+    if (page == 0) take_file("Name;Telefon;Mobil;Strasse\r\nBerg;030123456;0171222333;Weg 1\r\n");
+    forward();
+    if (page != 0) continue;
+    select(0, {"Name"});
+    select(1, {"Telefon", "Mobil"});
+    select(2, {"Strasse"});
+  }
+}
 
 TEST_F(ReaderWalk, EveryControlHasANameOfItsOwnAndAPlace) {
   start();

@@ -37,7 +37,7 @@ class MergeFates : public testing::Test {
     list.add_rows([](auto, auto) {});
     MergeAccount account(book.size(), fresh.size(), questions_);
     const std::size_t kept = remove_double_entries(
-        list, mode, [this](auto, const auto&, const auto&) { return answer_; }, [](auto, auto) {},
+        list, mode, [this](const auto&) { return answer_; }, [](auto, auto) {},
         [&](const DoubleDecision& decision) { account.note(decision); });
     if (book.size() >= kept) account.withhold();
     Names result;

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "book/entry_list.h"
+#include "text/text.h"
 
 namespace quenda {
 namespace {
@@ -44,8 +45,11 @@ class RemoveDoubleEntries : public testing::Test {
     EXPECT_EQ(list_->in_book(), in_book);
     return remove_double_entries(
         *list_, mode_,
-        [this](std::string_view number, const std::string& existing, const std::string& fresh) {
-          questions_.push_back(std::string(number) + ": " + existing + " / " + fresh);
+        [this](const DoubleQuestion& question) {
+          questions_.push_back(concat(question.number, ": ", in_words(question.existing), " / ",
+                                      in_words(question.fresh)));
+          places_.push_back(
+              concat(std::to_string(question.place), "/", std::to_string(question.count())));
           return answer_;
         },
         no_step, on_decision_);
@@ -69,6 +73,7 @@ class RemoveDoubleEntries : public testing::Test {
   DoubleAnswer answer_;
   OnDecision on_decision_;
   Lines questions_;
+  Lines places_;
 };
 
 TEST_F(RemoveDoubleEntries, DropsExactDoublesWhateverTheirLetterCase) {
@@ -117,6 +122,7 @@ TEST_F(RemoveDoubleEntries, AsksForEachDoubleUntilAnAnswerIsForAll) {
                                           entry("C", "1", "z")};
   remove(entries);
   EXPECT_EQ(questions_, (Lines{"1: A  x / B  y", "1: A  x / C  z"}));
+  EXPECT_EQ(places_, (Lines{"1/2", "2/2"}));
   questions_.clear();
   for (const auto& [take_new, left] : {std::pair{true, "C:1"}, std::pair{false, "A:1"}}) {
     questions_.clear();

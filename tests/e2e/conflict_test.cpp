@@ -54,6 +54,7 @@ TEST_F(Conflict, IsDecidedByAnswersAloneForOneEntryOrAllThatFollow) {
   const Window question = dialog_over(main_);
   EXPECT_TRUE(question.shows("Bergs  Alt")) << "the entry of the book";
   EXPECT_TRUE(question.shows(u8"Berg Anna  Grüner Weg 4 12099 Berlin"_de)) << "the new one";
+  EXPECT_TRUE(question.shows("1 von 3"));
   press_alt_f4();
   press(Key::kEscape);
   // Keys are handled in their order: once this one has been, the two before have been too.

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "platform/controls/simple_controls.h"
+#include "platform/win32/controls/label_parts.h"
 #include "platform/win32/controls/list_peers.h"
 #include "platform/win32/controls/list_view_peer.h"
 #include "platform/win32/controls/panel_window.h"
@@ -29,10 +30,18 @@ class NativeLabel : public PeerOf<Label> {
  protected:
   [[nodiscard]] WindowSpec spec() const override {
     const DWORD prefix = typed().shows_data() ? SS_NOPREFIX : 0;
-    return {WC_STATICW, false, SS_LEFT | prefix, 0, form().captions().of(typed())};
+    const DWORD side = typed().at_end() ? SS_RIGHT : SS_LEFT;
+    return {WC_STATICW, false, side | prefix, 0, form().captions().of(typed())};
   }
   void show(Aspect aspect) override {
     if (aspect == Aspect::kCaption) set_window_text(form().captions().of(typed()));
+  }
+  bool on_message(UINT message, WPARAM& /*wparam*/, LPARAM /*lparam*/, LRESULT& result) override {
+    const auto* const label = dynamic_cast<const PartsLabel*>(&typed());
+    if (message != WM_PAINT || label == nullptr || label->parts().empty()) return false;
+    draw_parts(window(), label->parts(), form().place().fonts().plain.get());
+    result = 0;
+    return true;
   }
 };
 
