@@ -20,6 +20,12 @@ enum class MessageStyle : int {
 /// Which button closed a message box; the numbers are those of Windows.
 enum class MessageAnswer : int { kOk = 1, kCancel = 2, kYes = 6, kNo = 7 };
 
+/// A button more in a message box. The box stays while it works.
+struct MoreButton {
+  std::string caption;
+  std::function<void()> on_click;
+};
+
 /// One line of a file dialog's type list: what the user reads, and patterns separated by ";".
 struct FileFilter {
   std::string description;
@@ -44,6 +50,11 @@ class Dialogs {
   /// Shows a box over the active window and returns when the user has closed it.
   virtual MessageAnswer message_box(std::string_view text, MessageStyle style,
                                     std::string_view title) = 0;
+  /// The same with a button more, where boxes can have one.
+  virtual MessageAnswer message_box_with(const MoreButton& /*more*/, std::string_view text,
+                                         MessageStyle style, std::string_view title) {
+    return message_box(text, style, title);
+  }
   /// Lets the user choose an existing file, in a dialog over the active window. Whenever the dialog
   /// shows a folder, its list is set up inside the hook.
   virtual ChosenFile open_file(const std::vector<FileFilter>& filters, const DialogHook& hook) = 0;

@@ -4,6 +4,7 @@
 
 #include "platform/system.h"
 #include "support/modPrivateDummy.h"
+#include "support/shell.h"
 #include "text/text.h"
 
 namespace quenda {
@@ -18,6 +19,9 @@ App::App(const Machine& services)
   };
   errors.show_message = [this](std::string_view text, MessageStyle style, std::string_view title) {
     modPrivateDummy::MsgBoxForward(errors, machine.dialogs, machine.system, text, style, title);
+  };
+  errors.show_fault = [this](std::string_view text, const std::string& report) {
+    show_fault(text, report);
   };
 }
 
@@ -41,6 +45,23 @@ bool App::start() {
 
 MessageAnswer App::message_box(std::string_view text, MessageStyle style) {
   return modPrivateDummy::MsgBoxForward(errors, machine.dialogs, machine.system, text, style, "");
+}
+
+void App::show_fault(std::string_view message, const std::string& report) {
+  const MoreButton more{text("Import_Button_Details"), [this, report] { tell_fault(report); }};
+  modPrivateDummy::MsgBoxForward(errors, machine.dialogs, machine.system, message,
+                                 MessageStyle::kExclamation, "", &more);
+}
+
+void App::tell_fault(const std::string& report) {
+  const std::string trace = errors.written_trace();
+  if (trace.empty()) {
+    message_box(concat(report, kCrLf, kCrLf, text("Import_Msg_NoTraceLog"), kCrLf,
+                       "\\Quendaspec.ini ([Debug] - TraceMode=1)"),
+                MessageStyle::kInformation);
+  } else if (!modImport::ShellEx(errors, machine.system, "Open", trace, "", "").empty()) {
+    message_box(concat(report, kCrLf, kCrLf, trace), MessageStyle::kInformation);
+  }
 }
 
 std::string App::open_file(FilterSet filters) {

@@ -39,6 +39,10 @@ struct App {
   std::string text(TextKey key) { return language.LoadLangKey(key); }
   /// Shows a message under the program's own title.
   MessageAnswer message_box(std::string_view text, MessageStyle style);
+  /// Shows the box about a fault. A button of it opens the trace log, which has the fault in it,
+  /// or, while nothing is traced, shows the report and how to have a trace.
+  void show_fault(std::string_view message, const std::string& report);
+  void tell_fault(const std::string& report);
   /// Lets the user choose a file with a set of filters; empty when the user cancels, and, after a
   /// word about it, when the tool cannot name the file.
   std::string open_file(FilterSet filters);

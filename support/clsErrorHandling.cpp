@@ -117,8 +117,12 @@ void clsErrorHandling::report(std::string_view procedure, const std::string& par
   if (on_report) on_report(procedure, fault, parameters);
   if (kind != ReportKind::kWithBox) return;
   const MessageTexts& texts = LoadMessageTexts();
-  show(concat(texts.ErrorRaised, kCrLf, texts.SeeFile, ": ", FileLogError()),
-       MessageStyle::kExclamation, "");
+  const std::string text = concat(texts.ErrorRaised, kCrLf, texts.SeeFile, ": ", FileLogError());
+  if (show_fault) {
+    show_fault(text, last_report_);
+  } else {
+    show(text, MessageStyle::kExclamation, "");
+  }
 }
 
 // The trace log.
@@ -178,6 +182,16 @@ void clsErrorHandling::WriteTraceQueue() {
 
 void clsErrorHandling::Trace_Flush() {
   if (oTraceQueue_ && oTraceQueue_->Count() > 0) WriteTraceQueue();
+}
+
+std::string clsErrorHandling::written_trace() {
+  std::string path;
+  if (!tracing()) return path;
+  Trace_Flush();
+  skip_faults({[&] {
+    if (files_.has_file(log_path(kTraceLog))) path = log_path(kTraceLog);
+  }});
+  return path;
 }
 
 // The debug log.

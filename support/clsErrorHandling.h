@@ -88,6 +88,10 @@ class clsErrorHandling {
   /// The line of the last report, as a log would show it; empty before the first report.
   [[nodiscard]] const std::string& last_report() const { return last_report_; }
 
+  /// The path of the trace log, with all that has been traced so far in it; empty while nothing is
+  /// traced or it cannot be written.
+  [[nodiscard]] std::string written_trace();
+
   /// Shows a box through `show_message`.
   void show(std::string_view text, MessageStyle style, std::string_view title);
 
@@ -96,6 +100,9 @@ class clsErrorHandling {
   std::function<std::string(std::string_view key)> look_up_text;
   std::function<void(std::string_view text, MessageStyle style, std::string_view title)>
       show_message;
+  /// Shows the box about a fault, which can tell more than its text; `report` is the line that a
+  /// log would show. Without it the box comes through `show_message`.
+  std::function<void(std::string_view text, const std::string& report)> show_fault;
   /// Told about every report that is not suppressed.
   std::function<void(std::string_view procedure, const RuntimeFault& fault,
                      std::string_view parameters)>

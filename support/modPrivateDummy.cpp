@@ -11,10 +11,13 @@ std::string message_title(std::string_view title, std::string_view executable_na
 }
 
 MessageAnswer MsgBoxForward(clsErrorHandling& errors, Dialogs& dialogs, const System& system,
-                            std::string_view text, MessageStyle style, std::string_view title) {
+                            std::string_view text, MessageStyle style, std::string_view title,
+                            const MoreButton* more) {
   auto answer = MessageAnswer::kOk;
   procedure(errors, "modPrivateDummy.MsgBoxForward", {text, static_cast<int>(style), title}, [&] {
-    answer = dialogs.message_box(text, style, message_title(title, system.executable_name()));
+    const std::string shown_title = message_title(title, system.executable_name());
+    answer = more == nullptr ? dialogs.message_box(text, style, shown_title)
+                             : dialogs.message_box_with(*more, text, style, shown_title);
   }).or_go_on();
   return answer;
 }

@@ -214,6 +214,9 @@ inline constexpr std::array kLanguageKeys = {
     LanguageKey{"Import_Option_AskAgain", "weiterhin nachfragen"},
     LanguageKey{"Import_Option_ApplyAll", u8"für alle weiteren übernehmen"_de},
     LanguageKey{"Import_Button_Retain", "Erhalten"},
+    LanguageKey{"Import_Button_Details", "Details"},
+    LanguageKey{"Import_Msg_NoTraceLog",
+                "Eine Datei mit dem Fehler entsteht nur bei eingeschalteter Ablaufverfolgung:"},
     LanguageKey{"Import_Label_QuestionOf", "%1 von %2"},
     LanguageKey{"Import_Label_AnswerOne",
                 u8"\"Erhalten\" behält den vorhandenen, \"Übernehmen\" nimmt den neuen Datensatz - "

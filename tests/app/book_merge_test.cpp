@@ -86,6 +86,9 @@ TEST_F(LastPage, UnansweredQuestionIsAFaultThatLeavesTheBookAlone) {
   enter();
   forward();
   EXPECT_EQ(last_box(), "Es ist ein Fehler aufgetreten!\r\nsiehe Datei: \\log\\error.log");
+  machine.dialogs.more.on_click();
+  EXPECT_TRUE(last_box().starts_with("IMP v")) << "no trace log, so the report itself";
+  EXPECT_TRUE(last_box().ends_with("TraceMode=1)"));
   EXPECT_EQ(form->wizard.CurrentPage, Page::kWrite);
   EXPECT_EQ(book(), kOldLine);
   EXPECT_EQ(machine.host_link.texts, Texts{"ON"});
@@ -102,6 +105,7 @@ TEST_F(LastPage, DoublesInsideTheBookCountAgainstNewEntries) {
 
 TEST_F(LastPage, FaultyBookLineStopsTheImportBeforeAnythingIsWritten) {
   machine.files.put("C:\\Quenda\\Quendaspec.ini", "[Debug]\r\nTraceMode=1\r\n");
+  machine.files.add_folder("C:\\Quenda\\log");
   machine.files.put(kBookPath, std::string(kOldLine) + "Kurz;0305\r\n");
   enter();
   forward();
@@ -110,6 +114,9 @@ TEST_F(LastPage, FaultyBookLineStopsTheImportBeforeAnythingIsWritten) {
   EXPECT_EQ(machine.host_link.texts, Texts{"ON"});
   EXPECT_NE(app->errors.last_report().find("Params(S:Zeile 2: Kurz;0305)"), std::string::npos)
       << app->errors.last_report();
+  machine.dialogs.more.on_click();
+  EXPECT_EQ(machine.system.opened, Texts{"Open C:\\Quenda\\log\\trace.log"});
+  EXPECT_NE(machine.files.content("C:\\Quenda\\log\\trace.log").find("!ERROR!"), std::string::npos);
   EXPECT_EQ(form->pointer(), Pointer::kDefault);
   // Once the book is mended, the same entries can be imported.
   machine.files.put(kBookPath, kOldLine);

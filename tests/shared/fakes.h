@@ -51,6 +51,12 @@ class FakeDialogs : public Dialogs {
     if (on_box) on_box();
     return taken_from(answers, MessageAnswer::kOk);
   }
+  MessageAnswer message_box_with(const MoreButton& button, std::string_view text,
+                                 MessageStyle style, std::string_view title) override {
+    more = button;
+    return message_box(text, style, title);
+  }
+  MoreButton more;                        // of the last box that had one
   std::function<void()> on_box;           // runs while a box stands
   std::function<void()> on_folder_shown;  // runs inside the hook of the file dialogs
 

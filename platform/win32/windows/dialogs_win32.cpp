@@ -9,6 +9,7 @@
 #include "platform/win32/com/com_support.h"
 #include "platform/win32/text_win32.h"
 #include "platform/win32/windows/events_win32.h"
+#include "platform/win32/windows/more_button.h"
 
 namespace quenda {
 namespace {
@@ -72,13 +73,23 @@ HWND message_owner() {
 
 MessageAnswer Win32Dialogs::message_box(std::string_view text, MessageStyle style,
                                         std::string_view title) {
+  return show_box(text, static_cast<UINT>(style), title);
+}
+
+MessageAnswer Win32Dialogs::message_box_with(const MoreButton& more, std::string_view text,
+                                             MessageStyle style, std::string_view title) {
+  const MoreButtonInBox shown(loop_, more);
+  return show_box(text, static_cast<UINT>(style) | MB_HELP, title);
+}
+
+MessageAnswer Win32Dialogs::show_box(std::string_view text, UINT style, std::string_view title) {
   loop_.show_changes();
   const HWND owner = message_owner();
   const UINT modal = owner == nullptr ? MB_TASKMODAL : MB_APPLMODAL;
   const SystemDialogGuard guard(loop_.presses());
   const UINT forward = GetActiveWindow() == nullptr ? MB_SETFOREGROUND : 0;
-  const int answer = MessageBoxW(owner, wide(text).c_str(), wide(title).c_str(),
-                                 static_cast<UINT>(style) | modal | forward);
+  const int answer =
+      MessageBoxW(owner, wide(text).c_str(), wide(title).c_str(), style | modal | forward);
   loop_.rethrow();
   return static_cast<MessageAnswer>(answer);
 }

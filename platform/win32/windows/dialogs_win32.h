@@ -10,9 +10,13 @@ class Win32Dialogs : public Dialogs {
   explicit Win32Dialogs(MessageLoop& loop) : loop_(loop) {}
   MessageAnswer message_box(std::string_view text, MessageStyle style,
                             std::string_view title) override;
+  MessageAnswer message_box_with(const MoreButton& more, std::string_view text, MessageStyle style,
+                                 std::string_view title) override;
   ChosenFile open_file(const std::vector<FileFilter>& filters, const DialogHook& hook) override;
 
  private:
+  MessageAnswer show_box(std::string_view text, UINT style, std::string_view title);
+
   MessageLoop& loop_;
 };
 

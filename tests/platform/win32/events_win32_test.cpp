@@ -5,6 +5,7 @@
 #include <atomic>
 #include <thread>
 
+#include "platform/win32/text_win32.h"
 #include "platform/win32/windows/dialogs_win32.h"
 #include "tests/platform/win32/form_fixture.h"
 #include "text/fault.h"
@@ -133,6 +134,28 @@ TEST_F(FormWindowTest, AMessageBelongsToTheWindowEvenWhenTheUserWorksElsewhere) 
   form_.timer.set_enabled(true);
   Win32Dialogs(loop_).message_box("Text", MessageStyle::kInformation, "Meldung");
   EXPECT_EQ(owner, window_of(form_));
+}
+
+TEST_F(FormWindowTest, AButtonMoreInABoxWorksWhileTheBoxStays) {
+  show();
+  int clicks = 0;
+  std::wstring caption;
+  form_.timer.set_interval(10);
+  form_.timer.on_timer = [&] {
+    const HWND box = FindWindowW(L"#32770", L"Meldung");
+    if (box == nullptr) return;
+    form_.timer.set_enabled(false);
+    const HWND more = GetDlgItem(box, IDHELP);
+    caption = window_text(more);
+    for (int i = 0; i < 2; ++i) SendMessageW(more, BM_CLICK, 0, 0);
+    EXPECT_NE(IsWindow(box), 0);
+    SendMessageW(box, WM_COMMAND, IDOK, 0);
+  };
+  form_.timer.set_enabled(true);
+  const MoreButton more{"Details", [&] { ++clicks; }};
+  Win32Dialogs(loop_).message_box_with(more, "Text", MessageStyle::kExclamation, "Meldung");
+  EXPECT_EQ(caption, L"Details");
+  EXPECT_EQ(clicks, 2);
 }
 
 }  // namespace
