@@ -140,6 +140,7 @@ void fMain::cmdCancel_Click() {
 void fMain::Language() {
   procedure(app_.errors, "fMain.Language", {}, [&] {
     set_caption(concat("Quenda - ", app_.text("Import_Title")));
+    set_row_pattern(app_.text("Import_Label_RowOf"));
     texts.load(app_.language);
     load_shell_captions();
     SourcePage::load_captions();

@@ -29,6 +29,8 @@ constexpr DesignRow<EntryHints> kDesign[] = {
 EntryHints::EntryHints(WizardShell& shell, EntryPage& page) : shell_(shell), page_(page) {
   apply_design(*this, kDesign, &shell_.frmImp(4));
   labEdited.set_visible(false);
+  labEdited.set_announced();
+  labCodes.set_announced();
   cmdCompose.on_click = [this] { cmdCompose_Click(); };
   for (TextBox* code : {&page_.txtStateCode, &page_.txtOVW}) {
     code->on_change = [this] { codes_Change(); };

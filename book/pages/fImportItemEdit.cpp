@@ -54,6 +54,7 @@ fImportItemEdit::fImportItemEdit(App& app) : Form("fImportItemEdit"), app_(app) 
 void fImportItemEdit::design() {
   apply_design(*this, kDesign);
   set_place({0, 0, 6180, 2430});
+  labMissing.set_announced();
   default_button = &cmdEdit(0);
   cancel_button = &cmdEdit(1);
 }

@@ -70,6 +70,7 @@ void fImportMsg::design() {
     shown->set_shows_data(true);
   }
   labCount.set_at_end(true);
+  labAnswer.set_announced();
   optAsk(0).choose();
   default_button = &cmdMsg(0);
 }

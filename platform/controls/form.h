@@ -42,6 +42,10 @@ class Form : public ControlHost {
   [[nodiscard]] bool resizable() const { return resizable_; }
   void set_resizable(bool resizable) { resizable_ = resizable; }
 
+  /// How a screen reader says where in a list the user is: "Zeile %1 von %2".
+  [[nodiscard]] const std::string& row_pattern() const { return row_pattern_; }
+  void set_row_pattern(std::string_view pattern) { row_pattern_ = pattern; }
+
   [[nodiscard]] Pointer pointer() const { return pointer_; }
   void set_pointer(Pointer pointer);
   /// While redrawing is off, changes are only noted; they are shown with the next ones after it is
@@ -86,6 +90,7 @@ class Form : public ControlHost {
   std::string caption_;
   Place place_;
   int outer_width_ = 0;
+  std::string row_pattern_;
   Pointer pointer_ = Pointer::kDefault;
   bool redraw_ = true;
   bool resizable_ = false;

@@ -23,10 +23,15 @@ class Label : public Control {
   /// Whether the caption ends where the label does. Part of the design, too.
   [[nodiscard]] bool at_end() const { return at_end_; }
   void set_at_end(bool at_end) { at_end_ = at_end; }
+  /// Whether a screen reader says by itself what the label says, as soon as that is seen or
+  /// changes. Part of the design.
+  [[nodiscard]] bool announced() const { return announced_; }
+  void set_announced() { announced_ = true; }
 
  private:
   bool shows_data_ = false;
   bool at_end_ = false;
+  bool announced_ = false;
 };
 
 /// A group of controls that move, show and take input together.

@@ -218,6 +218,7 @@ inline constexpr std::array kLanguageKeys = {
     LanguageKey{"Import_Msg_NoTraceLog",
                 "Eine Datei mit dem Fehler entsteht nur bei eingeschalteter Ablaufverfolgung:"},
     LanguageKey{"Import_Label_QuestionOf", "%1 von %2"},
+    LanguageKey{"Import_Label_RowOf", "Zeile %1 von %2"},
     LanguageKey{"Import_Label_AnswerOne",
                 u8"\"Erhalten\" behält den vorhandenen, \"Übernehmen\" nimmt den neuen Datensatz - "
                 u8"nur für diese Rufnummer."_de},

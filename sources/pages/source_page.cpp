@@ -79,6 +79,7 @@ void SourcePage::design() {
   labLimError.set_visible(false);
   labOLhint.set_visible(false);
   labFacts.set_visible(false);
+  for (Label* told : {&labLimError, &labOLver, &labOLhint, &labFacts}) told->set_announced();
   chkConvert.set_visible(false);
 }
 

@@ -8,6 +8,7 @@
 #include "book/pages/fImportItemEdit.h"
 #include "book/pages/fImportMsg.h"
 #include "book/pages/fOVWInput.h"
+#include "platform/controls/list_place.h"
 #include "platform/controls/simple_controls.h"
 #include "tests/shared/wizard_fixture.h"
 #include "text/text.h"
@@ -121,6 +122,24 @@ TEST_F(ReaderWalk, EveryControlHasANameOfItsOwnAndAPlace) {
   EXPECT_THAT(complaints(fImportItemEdit(*app), ""), testing::IsEmpty());
   EXPECT_THAT(complaints(fImportMsg(*app), ""), testing::IsEmpty());
   EXPECT_THAT(complaints(fOVWInput(*app), ""), testing::IsEmpty());
+}
+
+TEST(ListPlace, CountsTheRowsAsTheyAreSeen) {
+  Form form("fTest");
+  ListView list(form, "lstTest");
+  list.set_columns({{"Name"}});
+  list.set_sortable(true);
+  for (const std::string_view name : {"Anna", "Berta", "Cem"}) list.add_row({name});
+  const auto said = [&] {
+    const ListPlace place = list_place(list).value();
+    return row_in_words("Zeile %1 von %2", place.row, place.rows);
+  };
+  EXPECT_EQ(said(), "") << "none is chosen";
+  list.select(0);
+  EXPECT_EQ(said(), "Zeile 1 von 3");
+  list.take_user_heading(0);
+  list.take_user_heading(0);
+  EXPECT_EQ(said(), "Zeile 3 von 3") << "sorted downwards";
 }
 
 }  // namespace

@@ -125,6 +125,7 @@ void WizardShell::design() {
   set_outer_width(kWindowWidth);
   set_resizable(true);
   labTitle.set_heading(true);
+  labTitle.set_announced();
   frmTitle.set_back_color(BackColor::kWindow);
   txtDDE.set_visible(false);
   PicProgress.set_visible(false);

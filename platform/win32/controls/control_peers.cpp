@@ -18,6 +18,14 @@
 namespace quenda {
 namespace {
 
+/// A screen reader that listens says what has changed in a window.
+void announce(HWND window, LONG child) {
+  constexpr DWORD kLiveRegionChanged = 0x8019;
+  for (const DWORD event : {DWORD{EVENT_OBJECT_NAMECHANGE}, kLiveRegionChanged}) {
+    NotifyWinEvent(event, window, OBJID_CLIENT, child);
+  }
+}
+
 class NativeLabel : public PeerOf<Label> {
  public:
   using PeerOf::PeerOf;
@@ -35,6 +43,7 @@ class NativeLabel : public PeerOf<Label> {
   }
   void show(Aspect aspect) override {
     if (aspect == Aspect::kCaption) set_window_text(form().captions().of(typed()));
+    if (typed().announced()) say_news();
   }
   bool on_message(UINT message, WPARAM& /*wparam*/, LPARAM /*lparam*/, LRESULT& result) override {
     const auto* const label = dynamic_cast<const PartsLabel*>(&typed());
@@ -43,6 +52,16 @@ class NativeLabel : public PeerOf<Label> {
     result = 0;
     return true;
   }
+
+ private:
+  void say_news() {
+    std::string now = IsWindowVisible(window()) != 0 ? typed().caption() : std::string();
+    if (now == said_) return;
+    said_ = std::move(now);
+    if (!said_.empty()) announce(window(), CHILDID_SELF);
+  }
+
+  std::string said_;
 };
 
 /// A group box where there is a caption to show, else a plain area. Its controls are its children,
@@ -189,10 +208,8 @@ class NativeStatusBar : public PeerOf<StatusBar> {
       if (shown == typed().panel(number)) continue;
       shown = typed().panel(number);
       send(SB_SETTEXTW, static_cast<WPARAM>(number - 1), as_lparam(wide(shown).c_str()));
-      // What happens is told here alone: a screen reader that listens says it.
-      for (const DWORD event : {DWORD{EVENT_OBJECT_NAMECHANGE}, kLiveRegionChanged}) {
-        NotifyWinEvent(event, window(), OBJID_CLIENT, number);
-      }
+      // What happens is told here alone.
+      announce(window(), number);
     }
   }
   bool on_message(UINT message, WPARAM& /*wparam*/, LPARAM /*lparam*/, LRESULT& result) override {
@@ -203,8 +220,6 @@ class NativeStatusBar : public PeerOf<StatusBar> {
   }
 
  private:
-  static constexpr DWORD kLiveRegionChanged = 0x8019;
-
   std::array<std::string, 3> shown_;
 };
 

@@ -55,6 +55,7 @@ class NativeListBox : public PeerOf<ListBox> {
   static constexpr UINT kLookAgain = WM_APP + 1;
 
   void take_selection() {
+    form().names().changed();
     for (int i = 0; i < typed().count(); ++i) {
       const bool selected = shows_selected(i);
       if (selected == typed().selected(i)) continue;

@@ -218,6 +218,7 @@ class NativeListView : public PeerOf<ListView> {
       shown_at_ = -1;
     }
     if (muted()) return;
+    form().names().changed();
     typed().take_user_select(shown_at_ < 0 ? -1
                                            : static_cast<int>(typed().order().row_at(
                                                  static_cast<std::size_t>(shown_at_))));

@@ -22,8 +22,8 @@ bool is_whole_window(const VARIANT& child) {
   return child.vt == VT_I4 && child.lVal == CHILDID_SELF;
 }
 
-/// The system's object of a window in all but its name, and where that is wanted its role and
-/// value.
+/// The system's object of a window in all but its name, and where that is wanted its role,
+/// value and description.
 class NamedObject final : public IAccessible {
  public:
   NamedObject(ComPtr<IAccessible> system, Spoken spoken)
@@ -78,6 +78,12 @@ class NamedObject final : public IAccessible {
     return give(spoken_.value, value);
   }
   HRESULT STDMETHODCALLTYPE get_accDescription(VARIANT child, BSTR* text) override {
+    const bool numbered = child.vt == VT_I4 && child.lVal >= 0;
+    const auto asked = numbered ? static_cast<std::size_t>(child.lVal) : 0;
+    const ListPlace& place = spoken_.place;
+    const std::string row =
+        row_in_words(spoken_.row_pattern, asked == CHILDID_SELF ? place.row : asked, place.rows);
+    if (numbered && !row.empty()) return give(row, text);
     return system_->get_accDescription(child, text);
   }
   HRESULT STDMETHODCALLTYPE get_accRole(VARIANT child, VARIANT* role) override {

@@ -103,6 +103,11 @@ void NativeControl::show_common(Aspect aspect) {
     case Aspect::kCaption:
       if (!control_.spoken_name().empty()) form_.names().changed();
       break;
+    case Aspect::kIndex:
+    case Aspect::kRows:
+    case Aspect::kItems:
+      form_.names().changed();
+      break;
     case Aspect::kEnabled:
       if ((IsWindowEnabled(window_) != 0) != is_live()) {
         EnableWindow(window_, is_live() ? TRUE : FALSE);
@@ -186,7 +191,7 @@ LRESULT CALLBACK NativeControl::procedure(HWND window, UINT message, WPARAM wpar
 LRESULT NativeControl::object_named(WPARAM wparam, LPARAM lparam) {
   // Whatever the reader asks for: the system has to know the name by then.
   Spoken answer = spoken();
-  if (answer.role == 0) answer.name = form_.names().name_to_answer(*this);
+  if (answer.role == 0) answer = form_.names().to_answer(*this);
   const bool wanted = static_cast<LONG>(lparam) == OBJID_CLIENT;
   return wanted && !answer.name.empty() ? answer_with(window_, wparam, answer) : 0;
 }

@@ -36,6 +36,12 @@ bool SpokenNames::set(HWND window, std::string_view name) {
                                      PROPID_ACC_NAME, wide(name).c_str()));
 }
 
+void SpokenNames::describe(HWND window, std::string_view description) {
+  if (!service_->properties) return;
+  service_->properties->SetHwndPropStr(window, static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF,
+                                       PROPID_ACC_DESCRIPTION, wide(description).c_str());
+}
+
 void SpokenNames::tell_changes_of(HWND window) {
   if (!service_->properties) return;
   service_->properties->SetHwndProp(window, static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF,

@@ -16,6 +16,8 @@ class SpokenNames {
   ~SpokenNames();
   /// False on a system that keeps no such names, as Wine.
   bool set(HWND window, std::string_view name);
+  /// What readers say of the window beside its name.
+  void describe(HWND window, std::string_view description);
   /// Has readers say what changes in the window, as soon as they have nothing else to say.
   void tell_changes_of(HWND window);
 

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "platform/controls/form.h"
+#include "platform/win32/controls/named_object.h"
 #include "platform/win32/controls/native_control.h"
 #include "platform/win32/controls/spoken_name.h"
 
@@ -17,14 +18,15 @@ class ReaderNames {
  public:
   explicit ReaderNames(const Form& form) : form_(form) {}
 
-  /// The name that a control has to answer a reader with itself; empty where the system knows it.
-  [[nodiscard]] std::string name_to_answer(const NativeControl& native);
+  /// What a control has to answer a reader with itself; without a name where the system knows it.
+  [[nodiscard]] Spoken to_answer(const NativeControl& native);
   void changed() { changed_ = true; }
-  /// Tells a reader that listens of names that have changed.
+  /// Tells a reader that listens of names, and of places in lists, that have changed.
   void tell(const std::vector<std::unique_ptr<NativeControl>>& controls);
 
  private:
   SpokenNames& service();
+  void describe(const NativeControl& native);
 
   const Form& form_;
   bool changed_ = false;

@@ -3,13 +3,11 @@
 #include "platform/win32/windows/form_window.h"
 
 #include <gtest/gtest.h>
-#include <oleacc.h>
 #include <shlobj.h>
 
 #include <algorithm>
 #include <vector>
 
-#include "platform/win32/com/com_values.h"
 #include "platform/win32/text_win32.h"
 #include "tests/platform/win32/form_fixture.h"
 
@@ -189,27 +187,6 @@ TEST_F(FormWindowTest, AHeadingSortsWhatIsSeenAndTheRowsStay) {
   EXPECT_EQ(seen(), "Zorn \xC4rmel Anna ");
 }
 
-std::string read_aloud(HWND window) {
-  ComPtr<IAccessible> object;
-  AccessibleObjectFromWindow(window, static_cast<DWORD>(OBJID_CLIENT), IID_IAccessible,
-                             object.out_void());
-  Bstr name;
-  if (object) object->get_accName(*Variant(long{CHILDID_SELF}).get(), name.out());
-  return name.text();
-}
-
-TEST_F(FormWindowTest, BoxesAndListsTellAScreenReaderWhatTheyAre) {
-  form_.label.set_caption("Vorschau");
-  form_.label.set_tab_index(100);
-  form_.view.set_tab_index(101);
-  form_.box.set_caption("1");
-  form_.box.set_spoken_name("Adresse 1");
-  show();
-  const ApartmentScope apartment;
-  EXPECT_EQ(read_aloud(window(form_.box)), "Adresse 1");
-  EXPECT_EQ(read_aloud(window(form_.view)), "Vorschau");
-}
-
 TEST_F(FormWindowTest, TheTitleTellsTheProgressWhileTheWindowIsMinimised) {
   form_.set_caption("Quenda - Import");
   form_.set_resizable(true);
@@ -225,26 +202,6 @@ TEST_F(FormWindowTest, TheTitleTellsTheProgressWhileTheWindowIsMinimised) {
   EXPECT_EQ(window_text(main), L"38 % - Quenda - Import");
   ShowWindow(main, SW_RESTORE);
   EXPECT_EQ(window_text(main), L"Quenda - Import");
-}
-
-int announced_panel = 0;
-
-void CALLBACK hear(HWINEVENTHOOK, DWORD, HWND, LONG, LONG child, DWORD, DWORD) noexcept {
-  announced_panel = static_cast<int>(child);
-}
-
-TEST_F(FormWindowTest, WhatHappensIsAnnouncedToAScreenReader) {
-  show();
-  constexpr DWORD kLiveRegionChanged = 0x8019;
-  const HWINEVENTHOOK hook = SetWinEventHook(kLiveRegionChanged, kLiveRegionChanged, nullptr, &hear,
-                                             GetCurrentProcessId(), 0, WINEVENT_OUTOFCONTEXT);
-  form_.status.set_panel(2, "7 Eintr\xE4ge gelesen");
-  for (int i = 0; i < 20 && announced_panel == 0; ++i) {
-    loop_.pump();
-    Sleep(10);
-  }
-  UnhookWinEvent(hook);
-  EXPECT_EQ(announced_panel, 2);
 }
 
 /// An empty path drops nothing at all.
