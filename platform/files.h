@@ -26,6 +26,9 @@ struct TailChange {
   /// Makes lines unreadable for those who know the format, without changing their lengths: in each
   /// line, the first byte that it changes has to do that alone. Null where it does not matter.
   void (*spoil)(std::string& lines) = nullptr;
+  /// A file whose rights this one gets before anything is written, where files have rights of their
+  /// own; empty for the usual ones. One that is not there counts as none.
+  std::string_view rights_of = {};
 };
 
 enum class ReplaceResult { kReplaced, kChangedMeanwhile };

@@ -42,8 +42,9 @@ std::string BookBackup::import_time() const {
 
 void BookBackup::put(const std::string& path, std::string_view old_text, std::string_view text) {
   const std::array pieces = {text};
-  const ReplaceResult result =
-      files_.replace_tail(path, {.old_text = old_text, .keep = 0, .pieces = pieces});
+  // What only some may read in the book is not for others here either.
+  const ReplaceResult result = files_.replace_tail(
+      path, {.old_text = old_text, .keep = 0, .pieces = pieces, .rights_of = book_file_});
   if (result == ReplaceResult::kChangedMeanwhile) raise_fault(kFaultPermissionDenied);
 }
 

@@ -167,6 +167,10 @@ ReplaceResult PosixFiles::replace_tail(std::string_view path, const TailChange& 
   if (!S_ISREG(file.status().st_mode)) raise_fault(kFaultPathAccess);
   try {
     file.lock();
+    if (const auto model =
+            change.rights_of.empty() ? std::nullopt : status_of(posix_path(change.rights_of))) {
+      file.take_rights(*model);
+    }
     return replace_tail_of(file, change);
   } catch (const RuntimeFault&) {
     if (file.created()) ::unlink(native.c_str());

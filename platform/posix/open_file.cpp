@@ -85,6 +85,18 @@ OpenFile::OpenFile(const std::string& path, int flags, bool waits) : path_(path)
 
 OpenFile::~OpenFile() { ::close(descriptor_); }
 
+void OpenFile::take_rights(const struct stat& model) {
+  constexpr mode_t kRights = 0777;
+  mode_t rights = model.st_mode & kRights;
+  const bool own_group =
+      status_.st_gid == model.st_gid || ::fchown(descriptor_, -1U, model.st_gid) == 0;
+  // What a group may is meant for that group.
+  if (!own_group) rights &= ~static_cast<mode_t>(S_IRWXG);
+  if ((status_.st_mode & kRights) == rights) return;
+  // The rights of a file that was there may be another user's affair.
+  if (::fchmod(descriptor_, rights) != 0 && created_) fail(errno);
+}
+
 void OpenFile::lock() {
   // Systems without locks go on without one.
   if (::flock(descriptor_, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) fail(EWOULDBLOCK);

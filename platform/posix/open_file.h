@@ -36,6 +36,9 @@ class OpenFile final : public TailFile {
   /// system lets us, those that do not. Fault 70 when another one is at it.
   void lock();
 
+  /// Who may read and write it is the same as with another file from now on.
+  void take_rights(const struct stat& model);
+
   [[nodiscard]] std::size_t read_at(std::uint64_t position, std::span<char> buffer) const override;
   void write_at(std::uint64_t position, std::string_view bytes) override;
   void cut(std::uint64_t length) override;

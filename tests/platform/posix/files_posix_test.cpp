@@ -9,7 +9,9 @@
 #include <unistd.h>
 
 #include <csignal>
+#include <filesystem>
 
+#include "app/backup/book_backup.h"
 #include "tests/shared/fault_of.h"
 #include "tools/driver/temp_folder.h"
 
@@ -124,6 +126,22 @@ TEST(PosixFiles, ARunWaitsForTheOtherOneAtTheSameFolder) {
   EXPECT_EQ(files.lock(folder.path("book"), 40), nullptr);
   first.reset();
   EXPECT_NE(files.lock(folder.path("book"), 0), nullptr);
+}
+
+TEST(PosixFiles, TheCopyOfABookAndWhatIsToldOfItAreForNobodyElse) {
+  const TempFolder folder;
+  PosixFiles files;
+  const std::string book = folder.path("book.txt");
+  files.write(book, "Eva;030");
+  ASSERT_EQ(chmod((folder.path() / "book.txt").c_str(), 0600), 0);
+  BookBackup backup(files, book, {});
+  backup.begin({2014, 3, 2, 17, 5, 9}, "Eva;030", true, [](const auto&) { return "Eva"; });
+  int seen = 0;
+  for (const auto& file : std::filesystem::directory_iterator(folder.path() / "backup")) {
+    EXPECT_EQ(file.status().permissions(), std::filesystem::perms{0600}) << file.path();
+    ++seen;
+  }
+  EXPECT_EQ(seen, 3) << "the copy, the list of copies, the record";
 }
 
 TEST(PosixFiles, ReadsWhatTellsNoSize) {
