@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "app/account/import_account.h"
 #include "app/account/source_numbers.h"
 #include "app/backup/book_backup.h"
 #include "app/merge_run.h"
@@ -16,6 +17,7 @@
 #include "book/merge.h"
 #include "book/pages/entry_hints.h"
 #include "book/pages/entry_page.h"
+#include "book/pages/entry_results.h"
 #include "book/pages/way_back.h"
 #include "platform/files.h"
 #include "sources/pages/outlook_page.h"
@@ -32,6 +34,7 @@
 namespace quenda {
 
 struct App;
+class fImportReport;
 
 /// The wizard: its shell and its six pages in one form. The order of the bases is that of the
 /// controls, on which their ids in the window depend. What is here crosses pages; what belongs to
@@ -44,7 +47,8 @@ class fMain : public WizardShell,
               public EntryPage,
               public OutlookPage,
               public EntryHints,
-              public WayBack {
+              public WayBack,
+              public EntryResults {
  public:
   explicit fMain(App& services);
   ~fMain() override;
@@ -90,6 +94,8 @@ class fMain : public WizardShell,
   std::size_t account(const std::function<void(const ReportRow&)>& on_row);
   /// Writes the report that the settings want about the merge that ran last.
   void write_report();
+  /// Shows the user what would become of every number.
+  void show_report();
   [[nodiscard]] const MergeRun* last_merge() const { return last_merge_.get(); }
 
   LineEnd book_line_end = LineEnd::kCrLf;  // of the book that was read last
@@ -127,7 +133,13 @@ class fMain : public WizardShell,
 
   /// Whether the settings want a report that can be written; the user is told when it cannot.
   [[nodiscard]] bool report_possible();
-  void tell_no_report();
+  void tell_no_report(const std::string& path);
+  /// False after a fault.
+  bool write_report_to(const std::string& path, bool dry_run);
+  void save_report(fImportReport& dialog);
+  AccountInput account_input();
+  /// The number of a row of the final list, as the source has it.
+  std::string number_of_source(std::size_t row);
   /// In which lines of its file each record of the source begins.
   void find_source_lines();
   std::size_t walk_source(ListRows& listed, const OnSourceNumber& on_number);

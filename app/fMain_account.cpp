@@ -3,6 +3,7 @@
 #include "app/account/import_account.h"
 #include "app/account/report_file.h"
 #include "app/fMain.h"
+#include "book/number_cleaning.h"
 #include "platform/files.h"
 #include "settings/app.h"
 #include "sources/delimited_text.h"
@@ -40,6 +41,30 @@ void fMain::find_source_lines() {
   }
 }
 
+std::string fMain::number_of_source(std::size_t row) {
+  const FlatTable& list = lstImpFinal.table();
+  const std::uint32_t origin = list.origin(row);
+  const std::string_view number = list.cell(row, kEntryNumber);
+  // Without a word in the trace: this is done for every row that comes into view.
+  const CleanNumber clean = [code = txtStateCode.text()](std::string_view raw, std::string& out) {
+    clean_number(raw, code, out);
+  };
+  switch (source.kind()) {
+    case Source::kIspy:
+      break;
+    case Source::kOutlook: {
+      const std::string_view cell = contacts().cell(record_of(origin), row_of(origin));
+      std::string cleaned;
+      clean(cell, cleaned);
+      return std::string(cleaned == number ? cell : number);
+    }
+    case Source::kFile:
+      return number_in_file(source.ImportRows, origin, source.Delimiter.front(), composition(),
+                            clean, number);
+  }
+  return std::string(number);
+}
+
 std::size_t fMain::walk_source(ListRows& listed, const OnSourceNumber& on_number) {
   const CleanNumber clean = number_cleaner();
   switch (source.kind()) {
@@ -62,28 +87,32 @@ std::size_t fMain::walk_source(ListRows& listed, const OnSourceNumber& on_number
                    listed, on_number);
 }
 
-std::size_t fMain::account(const std::function<void(const ReportRow&)>& on_row) {
+AccountInput fMain::account_input() {
   const MergeRun* const run = last_merge_.get();
   const bool merged = run != nullptr && run->account && run->end != MergeRun::End::kFailed;
   find_source_lines();
   // A composition that failed has left its repeats where they are.
   if (composition_failed() && repeated_.empty()) repeated_ = remove_repeated_lines(entries_);
-  const auto verdict = [&](std::size_t row) {
-    return merged ? run->account->of(row) : MergeAccount::Verdict{Fate::kUnread, {}, {}};
-  };
-  const auto line_of = [&](std::uint32_t origin) -> std::uint64_t {
-    const bool has_lines = source.kind() != Source::kOutlook;
-    return has_lines ? source.lines.line_of(origin >> kOriginRowBits) : 0;
-  };
-  return account_for(
-      {.walk = [&](ListRows& listed, const auto& tell) { return walk_source(listed, tell); },
-       .list = lstImpFinal.table(),
-       .repeated = repeated_,
-       .composed = !composition_failed(),
-       .verdict = verdict,
-       .line_of = line_of,
-       .name_in_book = [&](std::size_t entry) { return run->list->name(entry); }},
-      on_row);
+  return {
+      .walk = [this](ListRows& listed,
+                     const OnSourceNumber& tell) { return walk_source(listed, tell); },
+      .list = lstImpFinal.table(),
+      .removed = removed_rows(),
+      .repeated = repeated_,
+      .composed = !composition_failed(),
+      .verdict =
+          [run, merged](std::size_t row) {
+            return merged ? run->account->of(row) : MergeAccount::Verdict{Fate::kUnread, {}, {}};
+          },
+      .line_of = [this](std::uint32_t origin) -> std::uint64_t {
+        const bool has_lines = source.kind() != Source::kOutlook;
+        return has_lines ? source.lines.line_of(record_of(origin)) : 0;
+      },
+      .name_in_book = [run](std::size_t entry) { return run->list->name(entry); }};
+}
+
+std::size_t fMain::account(const std::function<void(const ReportRow&)>& on_row) {
+  return account_for(account_input(), on_row);
 }
 
 bool fMain::report_possible() {
@@ -92,28 +121,37 @@ bool fMain::report_possible() {
   const std::string path = source.kind() == Source::kOutlook ? "" : txtImpFile.text();
   const bool possible =
       report.trouble(app_.machine.files, path, app_.paths.book_file()) == ReportTrouble::kNone;
-  if (!possible) tell_no_report();
+  if (!possible) tell_no_report(app_.settings.report);
   return possible;
 }
 
-void fMain::tell_no_report() {
-  app_.message_box(replace_all(app_.text("Import_Msg_ReportFailed"), "%1", app_.settings.report),
+void fMain::tell_no_report(const std::string& path) {
+  app_.message_box(replace_all(app_.text("Import_Msg_ReportFailed"), "%1", path),
                    MessageStyle::kExclamation);
 }
 
 void fMain::write_report() {
-  const bool written = procedure(app_.errors, "fMain.write_report", {}, [&] {
+  const std::string& path = app_.settings.report;
+  if (!write_report_to(path, false)) tell_no_report(path);
+}
+
+bool fMain::write_report_to(const std::string& path, bool dry_run) {
+  using End = MergeRun::End;
+  return procedure(app_.errors, "fMain.write_report", {}, [&] {
     const BusyWork busy(*this);
     const bool from_outlook = source.kind() == Source::kOutlook;
-    ReportFile report(app_.settings.report);
+    const End end = last_merge_->end;
+    ReportFile report(path);
     report.head.version = app_.version();
     report.head.file = from_outlook ? "" : txtImpFile.text();
     report.head.source = from_outlook ? "outlook" : source.IsISpyFile ? "ispy" : "file";
-    report.head.result = last_merge_->end == MergeRun::End::kWritten ? "data" : "nodata";
+    report.head.dry_run = dry_run;
+    report.head.result = end == End::kWritten || end == End::kToBeWritten ? "data"
+                         : end == End::kFailed                            ? "refused"
+                                                                          : "nodata";
     report.head.records = account([&](const ReportRow& row) { report.count(row); });
     report.write(app_.machine.files, [&](const auto& on_row) { account(on_row); });
   });
-  if (!written) tell_no_report();
 }
 
 }  // namespace quenda

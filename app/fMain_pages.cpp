@@ -77,8 +77,10 @@ void fMain::run_page_work(PageWork work) {
       break;
     case PageWork::kWrite:
       SaveOptions(source.kind() == Source::kFile);
+      EntryResults::make_room();
       Add();
       // Only after a failure the wizard is still here.
+      EntryResults::renew();
       StatusBar.set_panel(2, "");
       break;
   }
@@ -98,7 +100,7 @@ void fMain::compose_again() {
 }
 
 void fMain::enter_file_entries() {
-  lstImpFinal.clear();
+  drop_entries();
   if (!CheckAreaCode()) return show_composed(Composed::kFailed);
   const RecordTable& records = source.ImportRows;
   const bool has_data =

@@ -29,11 +29,13 @@ fMain::fMain(App& services)
       OutlookPage(static_cast<WizardShell&>(*this), static_cast<SourcePage&>(*this)),
       EntryHints(static_cast<WizardShell&>(*this), static_cast<EntryPage&>(*this)),
       WayBack(static_cast<WizardShell&>(*this)),
+      EntryResults(static_cast<WizardShell&>(*this), static_cast<EntryPage&>(*this)),
       app_(services) {
   for (Control* control : {static_cast<Control*>(&labFacts), static_cast<Control*>(&chkConvert),
                            static_cast<Control*>(&labTable), static_cast<Control*>(&cmdSuggest),
                            static_cast<Control*>(&chkBackup), static_cast<Control*>(&cmdUndo),
-                           static_cast<Control*>(&splPreview)}) {
+                           static_cast<Control*>(&splPreview), static_cast<Control*>(&tmResults),
+                           static_cast<Control*>(&cmdReport)}) {
     move_to_end(*control);
   }
   connect();
@@ -44,6 +46,8 @@ fMain::~fMain() = default;
 void fMain::connect() {
   cmdFor.on_click = [this] { cmdFor_Click(); };
   on_compose = [this] { compose_again(); };
+  EntryResults::number_in_source = [this](std::size_t row) { return number_of_source(row); };
+  on_report = [this] { show_report(); };
   on_undo = [this] { ask_and_take_back(); };
   cmdCancel.on_click = [this] { cmdCancel_Click(); };
   on_suggestion = [this](const ColumnSuggestion& suggestion) { adopt(suggestion); };
@@ -151,6 +155,7 @@ void fMain::Language() {
     OutlookPage::load_captions();
     EntryHints::load_captions();
     WayBack::load_captions();
+    EntryResults::load_captions();
   }).or_go_on();
 }
 

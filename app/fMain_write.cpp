@@ -106,7 +106,8 @@ MergeRun::End fMain::merge_into_book(MergeRun& run, const AskAboutDouble& ask) {
   StatusBar.set_panel(2, texts["Import_Info_FilterData"]);
   list.add_rows(busy.on_step());
   OnDecision on_decision;
-  if (wizard.account_wanted || report_wanted_ || chkBackup.ticked()) {
+  const bool looks = run.questions == MergeAccount::Questions::kOnlyFound;
+  if (looks || wizard.account_wanted || report_wanted_ || chkBackup.ticked()) {
     run.account.emplace(list.in_book(), lstImpFinal.count(), run.questions);
     on_decision = [&run](const DoubleDecision& decision) { run.account->note(decision); };
   }

@@ -17,6 +17,7 @@
 #include "book/book_change.h"
 #include "book/book_list.h"
 #include "book/entry_list.h"
+#include "book/foreseen_fates.h"
 #include "book/merge.h"
 #include "book/number_cleaning.h"
 #include "sources/delimited_text.h"
@@ -105,6 +106,7 @@ void import(const std::string& contacts, const std::string& book, Times& times) 
     end = line_end_of(book, breaks);
     (void)line_of_joined_entries(book, end, breaks);
   });
+  times.run("look ahead", [&] { (void)foresee_fates(book, end, rows, MergeMode::kAsk, kNoStep); });
   BookList list(book, end, rows);
   std::string_view line;
   times.run("book lines", [&] { list.read_book(line, kNoStep); });

@@ -44,6 +44,7 @@ struct ReportRow {
   Fate fate = Fate::kUnread;
   std::optional<std::uint64_t> with;         // line of the entry that it gave way to
   std::optional<std::string_view> existing;  // name in the book
+  std::optional<std::size_t> list_row = {};  // in the final list; not part of the report
 };
 
 /// What stands before the rows.

@@ -58,6 +58,12 @@ class Dialogs {
   /// Lets the user choose an existing file, in a dialog over the active window. Whenever the dialog
   /// shows a folder, its list is set up inside the hook.
   virtual ChosenFile open_file(const std::vector<FileFilter>& filters, const DialogHook& hook) = 0;
+  /// Lets the user choose where to save, in a dialog over the active window, which asks before an
+  /// existing file is replaced. `name` is offered; a name without an ending gets that of the filter
+  /// that was chosen.
+  virtual ChosenFile save_file(const std::vector<FileFilter>& filters, std::string_view name) = 0;
+  /// Puts a text on the clipboard, in place of what was there. Whether the system took it.
+  virtual bool copy_text(std::string_view text) = 0;
 };
 
 }  // namespace quenda

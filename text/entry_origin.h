@@ -14,5 +14,9 @@ inline constexpr unsigned kOriginRowBits = 4;
 constexpr std::uint32_t entry_origin(std::size_t record, std::size_t row) {
   return static_cast<std::uint32_t>((record << kOriginRowBits) | row);
 }
+constexpr std::size_t record_of(std::uint32_t origin) { return origin >> kOriginRowBits; }
+constexpr std::size_t row_of(std::uint32_t origin) {
+  return origin & ((1U << kOriginRowBits) - 1U);
+}
 
 }  // namespace quenda

@@ -25,34 +25,33 @@ class Repeats {
   std::size_t next_ = 0;
 };
 
-void take_list_row(ReportRow& row, const AccountInput& input, std::size_t at) {
-  row.name = input.list.cell(at, kEntryName);
-  row.number = input.list.cell(at, kEntryNumber);
-  row.address = input.list.cell(at, kEntryAddress);
-  if (row.number.empty()) {
-    row.fate = Fate::kNoNumber;
-    return;
-  }
-  const MergeAccount::Verdict verdict = input.verdict(at);
-  row.fate = verdict.fate;
-  if (verdict.with) row.with = input.line_of(input.list.origin(*verdict.with));
-  if (verdict.existing) row.existing = input.name_in_book(*verdict.existing);
-}
-
 }  // namespace
+
+ReportRow told_of_row(const AccountInput& input, std::size_t row) {
+  ReportRow told;
+  told.list_row = row;
+  told.name = input.list.cell(row, kEntryName);
+  told.number = input.list.cell(row, kEntryNumber);
+  told.address = input.list.cell(row, kEntryAddress);
+  if (told.number.empty()) {
+    told.fate = Fate::kNoNumber;
+    return told;
+  }
+  const MergeAccount::Verdict verdict = input.verdict(row);
+  told.fate = verdict.fate;
+  if (verdict.with) told.with = input.line_of(input.list.origin(*verdict.with));
+  if (verdict.existing) told.existing = input.name_in_book(*verdict.existing);
+  return told;
+}
 
 std::size_t account_for(const AccountInput& input,
                         const std::function<void(const ReportRow&)>& on_row) {
   Repeats repeats(input.repeated);
-  ListRows list_rows(input.list);
+  ListRows list_rows(input.list, input.removed);
   return input.walk(list_rows, [&](const SourceNumber& number) {
     ReportRow row;
-    row.line = number.line;
-    row.record = number.record;
-    row.row = number.row;
     row.name = number.name;
     row.number = number.number;
-    row.raw = number.raw;
     row.address = number.address;
     if (number.fate) {
       row.fate = *number.fate;
@@ -62,7 +61,7 @@ std::size_t account_for(const AccountInput& input,
       if (!earlier && !input.composed) {
         row.fate = Fate::kUnread;
       } else if (listed) {
-        take_list_row(row, input, *listed);
+        row = told_of_row(input, *listed);
       } else if (earlier) {
         row.fate = Fate::kRepeated;
         row.with = input.line_of(*earlier);
@@ -70,6 +69,10 @@ std::size_t account_for(const AccountInput& input,
         row.fate = Fate::kRemoved;
       }
     }
+    row.line = number.line;
+    row.record = number.record;
+    row.row = number.row;
+    row.raw = number.raw;
     on_row(row);
   });
 }

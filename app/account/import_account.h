@@ -9,6 +9,7 @@
 #include "app/account/source_numbers.h"
 #include "book/import_report.h"
 #include "book/merge_account.h"
+#include "book/removed_rows.h"
 #include "text/flat_table.h"
 #include "text/repeated_lines.h"
 
@@ -20,6 +21,7 @@ struct AccountInput {
   std::function<std::size_t(ListRows&, const OnSourceNumber&)> walk;
   /// The final list as it stands: what the user removed is missing, what he edited is as edited.
   const FlatTable& list;
+  const RemovedRows& removed;
   /// What never came into it because an earlier line is the same.
   const std::vector<RepeatedLine>& repeated;
   /// Whether the list was made of the whole source. If not, its numbers were not read to the end.
@@ -36,5 +38,8 @@ struct AccountInput {
 /// records. The texts of a row are good only while one is told of it.
 std::size_t account_for(const AccountInput& input,
                         const std::function<void(const ReportRow&)>& on_row);
+
+/// What the report tells of a row of the final list, but for its place in the source.
+ReportRow told_of_row(const AccountInput& input, std::size_t row);
 
 }  // namespace quenda

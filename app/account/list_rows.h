@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <optional>
 
+#include "book/removed_rows.h"
 #include "text/entry_origin.h"
 #include "text/flat_table.h"
 
@@ -13,7 +14,7 @@ namespace quenda {
 /// took out of the list is missing in it.
 class ListRows {
  public:
-  explicit ListRows(const FlatTable& list) : list_(list) {}
+  ListRows(const FlatTable& list, const RemovedRows& removed) : list_(list), removed_(removed) {}
 
   [[nodiscard]] const FlatTable& list() const { return list_; }
   /// The walk comes to a record; what is left of those before goes by.
@@ -25,9 +26,12 @@ class ListRows {
     }
     return false;
   }
-  /// The row made of that number, if the list has one. Numbers of one cell have one origin, and a
-  /// row each.
+  /// The row made of that number, if the list has one; asked once for each number that the list was
+  /// made of. Numbers of one cell have one origin, and a row each.
   std::optional<std::size_t> take(std::uint32_t origin) {
+    nth_ = origin == taken_ ? nth_ + 1 : 0;
+    taken_ = origin;
+    if (removed_.has(origin, nth_)) return std::nullopt;
     skip_to(origin);
     if (next_ == list_.rows() || list_.origin(next_) != origin) return std::nullopt;
     return next_++;
@@ -39,7 +43,10 @@ class ListRows {
   }
 
   const FlatTable& list_;
+  const RemovedRows& removed_;
   std::size_t next_ = 0;
+  std::optional<std::uint32_t> taken_;  // the origin asked for last
+  std::size_t nth_ = 0;                 // of the numbers with that origin, from 0
 };
 
 }  // namespace quenda

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "book/entry_list.h"
 #include "sources/cell_adaptation.h"
@@ -160,6 +162,12 @@ class ListedRecords {
   std::size_t found_ = 0;
 };
 
+/// Other items of the folder, as lists of recipients, have a row without any text: names and
+/// addresses of nothing but what joins their parts.
+bool is_no_contact(const ContactTable& contacts, std::size_t row) {
+  return contacts.line(row).find_first_not_of("; ") == std::string_view::npos;
+}
+
 bool only_delimiters(std::string_view record, char delimiter) {
   return record.find_first_not_of(delimiter) == record.npos;
 }
@@ -299,16 +307,17 @@ std::size_t walk_contacts(const ContactTable& contacts, const OutlookChoice& cho
   std::size_t next = 0;
   std::string cleaned;
   for (std::size_t at = 0; at < contacts.rows(); ++at) {
+    if (is_no_contact(contacts, at)) continue;
     bool any = false;
     ++count;
-    for (; next < rows.rows() && rows.origin(next) >> kOriginRowBits == at; ++next) {
+    for (; next < rows.rows() && record_of(rows.origin(next)) == at; ++next) {
       any = true;
       const std::string_view raw = rows.cell(next, kEntryNumber);
       clean(raw, cleaned);
       const std::string_view name = rows.cell(next, kEntryName);
       SourceNumber number = shown.make(raw, cleaned, name, rows.cell(next, kEntryAddress));
       number.record = count;
-      number.row = static_cast<int>(rows.origin(next) & ((1U << kOriginRowBits) - 1));
+      number.row = static_cast<int>(row_of(rows.origin(next)));
       number.origin = rows.origin(next);
       number.composed = static_cast<std::uint32_t>(next);
       number.fate = fate_before_merge(cleaned, is_numeric(cleaned), name, suppress_short_names);
@@ -322,6 +331,24 @@ std::size_t walk_contacts(const ContactTable& contacts, const OutlookChoice& cho
     on_number(number);
   }
   return count;
+}
+
+std::string number_in_file(const RecordTable& records, std::uint32_t origin, char delimiter,
+                           const Composition& composition, const CleanNumber& clean,
+                           std::string_view number) {
+  const std::size_t column = composition.columns.numbers.at(row_of(origin) - 1);
+  RecordFields fields;
+  fields.split(records, record_of(origin), delimiter, column);
+  if (!fields.has(column)) return std::string(number);
+  const std::string_view field = fields[column].text;
+  std::vector<std::string> parts = {cell_of_file(field, delimiter, composition.adapt)};
+  if (composition.adapt) parts = numbers_in_cell(replace_all(field, "\"", ""), delimiter);
+  std::string cleaned;
+  for (std::string& part : parts) {
+    clean(replace_all(part, "\"", ""), cleaned);
+    if (cleaned == number) return std::move(part);
+  }
+  return std::string(number);
 }
 
 }  // namespace quenda

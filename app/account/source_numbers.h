@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <string>
 #include <string_view>
 
 #include "app/account/list_rows.h"
@@ -61,5 +62,11 @@ std::size_t walk_call_log(const RecordTable& lines, const SourceLines& source_li
 std::size_t walk_contacts(const ContactTable& contacts, const OutlookChoice& choice,
                           const CleanNumber& clean, bool suppress_short_names,
                           const OnSourceNumber& on_number);
+
+/// The number that an entry of a file was made of, as the file has it: of a cell with several
+/// numbers the one that cleans to `number`, and `number` itself where none does (it was edited).
+std::string number_in_file(const RecordTable& records, std::uint32_t origin, char delimiter,
+                           const Composition& composition, const CleanNumber& clean,
+                           std::string_view number);
 
 }  // namespace quenda

@@ -21,6 +21,13 @@ ChosenFile ConsoleDialogs::open_file(const std::vector<FileFilter>& /*filters*/,
   return {};
 }
 
+ChosenFile ConsoleDialogs::save_file(const std::vector<FileFilter>& /*filters*/,
+                                     std::string_view /*name*/) {
+  return {};
+}
+
+bool ConsoleDialogs::copy_text(std::string_view /*text*/) { return false; }
+
 void ConsoleEvents::yield() {
   constexpr std::uint64_t kMilliseconds = 50;
   if (!on_progress) return;

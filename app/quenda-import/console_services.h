@@ -41,6 +41,9 @@ class ConsoleDialogs final : public Dialogs {
                             std::string_view title) override;
   /// There is no file dialog; always the empty text.
   ChosenFile open_file(const std::vector<FileFilter>& filters, const DialogHook& hook) override;
+  ChosenFile save_file(const std::vector<FileFilter>& filters, std::string_view name) override;
+  /// There is no clipboard either.
+  bool copy_text(std::string_view text) override;
 
   /// Says of a text that it need not be shown, because the user knows already.
   std::function<bool(std::string_view text)> known;

@@ -94,7 +94,7 @@ EntryPage::EntryPage(WizardShell& shell) : WizardPage(shell) {
 
 void EntryPage::design() {
   apply_design(*this, kDesign, &shell_.frmImp(4));
-  lstImpFinal.set_columns({{"", 2600}, {"", 1800}, {"", 2550}});
+  lstImpFinal.set_columns({{"", 1950}, {"", 1500}, {"", 1850}, {"", 1700}}, kEntryColumns);
   lstImpFinal.set_sortable(true);
 }
 
@@ -126,8 +126,13 @@ void EntryPage::save(ImportSettings& settings) const {
   }
 }
 
-void EntryPage::expect_entries() {
+void EntryPage::drop_entries() {
   lstImpFinal.clear();
+  removed_rows_.clear();
+}
+
+void EntryPage::expect_entries() {
+  drop_entries();
   composed_ = Composed::kEntries;
   shell_.refresh_buttons();
 }
@@ -224,6 +229,7 @@ void EntryPage::ChangeItem() {
     lstImpFinal.set_cell(row, kEntryName, edited.name);
     lstImpFinal.set_cell(row, kEntryNumber, edited.number);
     lstImpFinal.set_cell(row, kEntryAddress, edited.address);
+    if (on_row_changed) on_row_changed(row);
     if (on_edited) on_edited();
   }).or_go_on();
 }
@@ -234,7 +240,9 @@ void EntryPage::cmdDel_Click() {
     if (row >= 0) {
       // As the rows are seen, which may be sorted.
       const std::size_t position = lstImpFinal.order().position_of(static_cast<std::size_t>(row));
+      removed_rows_.note(lstImpFinal.table(), static_cast<std::size_t>(row));
       lstImpFinal.remove_row(static_cast<std::size_t>(row));
+      if (on_row_removed) on_row_removed(static_cast<std::size_t>(row));
       if (on_edited) on_edited();
       const std::size_t count = lstImpFinal.count();
       if (count > 0) {
@@ -256,6 +264,7 @@ void EntryPage::cmdDel_Click() {
 void EntryPage::optAsk_Click(int index) {
   procedure(app_.errors, "fMain.optAsk_Click", {index}, [&] {
     merge_mode = static_cast<MergeMode>(index);
+    if (on_mode_chosen) on_mode_chosen();
   }).or_go_on();
 }
 

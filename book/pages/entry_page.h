@@ -8,6 +8,7 @@
 
 #include "book/merge.h"
 #include "book/pages/fImportItemEdit.h"
+#include "book/removed_rows.h"
 #include "platform/controls/control_array.h"
 #include "platform/controls/list_view.h"
 #include "platform/controls/simple_controls.h"
@@ -34,12 +35,15 @@ class EntryPage : public WizardPage {
   void load(const ImportSettings& settings);
   void save(ImportSettings& settings) const;
 
+  /// Nothing stays of the entries that were composed last.
+  void drop_entries();
   /// Entries are about to be composed from a source that can be imported: the way on is open before
-  /// they are there. Nothing of an earlier source stays.
+  /// they are there.
   void expect_entries();
   /// Shows what a composition gave. One that failed half way gives nothing to import; one that came
   /// through and found nothing can be finished.
   void show_composed(Composed composed);
+  [[nodiscard]] const RemovedRows& removed_rows() const { return removed_rows_; }
   [[nodiscard]] bool composition_failed() const { return composed_ == Composed::kFailed; }
 
   std::string fCleanNumbers(std::string_view number);
@@ -57,6 +61,11 @@ class EntryPage : public WizardPage {
   std::function<void()> on_edited;
   /// The entries were composed anew.
   std::function<void()> on_composed;
+  /// One entry was changed or deleted; the row is counted as it was before.
+  std::function<void(std::size_t row)> on_row_changed;
+  std::function<void(std::size_t row)> on_row_removed;
+  /// The user has said what becomes of numbers that the book has.
+  std::function<void()> on_mode_chosen;
 
   MergeMode merge_mode = MergeMode::kAsk;
   /// The entry that comes back from fImportItemEdit.
@@ -84,6 +93,7 @@ class EntryPage : public WizardPage {
   void connect();
 
   Composed composed_ = Composed::kNothing;
+  RemovedRows removed_rows_;  // since the entries were composed
 };
 
 }  // namespace quenda

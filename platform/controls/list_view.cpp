@@ -7,9 +7,9 @@
 
 namespace quenda {
 
-void ListView::set_columns(std::vector<ListColumn> columns) {
+void ListView::set_columns(std::vector<ListColumn> columns, std::size_t held) {
   columns_ = std::move(columns);
-  table_ = FlatTable(std::max<std::size_t>(columns_.size(), 1));
+  table_ = FlatTable(std::max<std::size_t>(held, 1));
   source_ = nullptr;
   order_.reset();
   selected_ = -1;
@@ -31,7 +31,9 @@ void ListView::set_column_kinds(const std::vector<ColumnKind>& kinds) {
 std::size_t ListView::count() const { return source_ != nullptr ? source_->rows() : table_.rows(); }
 
 std::string ListView::cell(std::size_t row, std::size_t column) const {
-  return source_ != nullptr ? source_->cell(row, column) : std::string(table_.cell(row, column));
+  if (source_ != nullptr) return source_->cell(row, column);
+  if (column >= table_.columns() && made_cell) return made_cell(row, column);
+  return std::string(table_.cell(row, column));
 }
 
 void ListView::set_table(FlatTable table) {
@@ -81,7 +83,7 @@ void ListView::rows_changed() {
 
 void ListView::take_user_heading(std::size_t column) {
   if (!reachable() || !sortable_ || source_ != nullptr || column >= columns_.size()) return;
-  order_.sort_by(table_, column);
+  order_.sort_by(column, table_.rows(), [&](std::size_t row) { return cell(row, column); });
   refresh(Aspect::kColumns);
   refresh(Aspect::kRows);
 }
@@ -94,6 +96,10 @@ void ListView::select(int row) {
 
 void ListView::take_user_double_click() {
   if (reachable() && on_double_click) on_double_click();
+}
+
+void ListView::take_user_copy() {
+  if (reachable() && on_copy) on_copy();
 }
 
 void ListView::take_user_key_down(std::int16_t code) {

@@ -6,6 +6,7 @@
 #include <initializer_list>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "platform/controls/control.h"
@@ -41,7 +42,12 @@ class ListView : public Control {
 
   [[nodiscard]] const std::vector<ListColumn>& columns() const { return columns_; }
   /// Also empties the list.
-  void set_columns(std::vector<ListColumn> columns);
+  void set_columns(std::vector<ListColumn> columns) {
+    const std::size_t all = columns.size();
+    set_columns(std::move(columns), all);
+  }
+  /// The list's own rows have texts for the first columns; `made_cell` makes those of the others.
+  void set_columns(std::vector<ListColumn> columns, std::size_t held);
   void set_column_heading(std::size_t column, std::string_view heading);
   void set_column_kinds(const std::vector<ColumnKind>& kinds);
 
@@ -55,6 +61,10 @@ class ListView : public Control {
   void set_cell(std::size_t row, std::size_t column, std::string_view text);
   void remove_row(std::size_t row);
   void clear();
+  /// The text of a cell that the list's own rows do not hold, made when the row is shown.
+  std::function<std::string(std::size_t row, std::size_t column)> made_cell;
+  /// Such texts are others now.
+  void made_cells_changed() { refresh(Aspect::kRows); }
   /// Shows the rows of a source from now on, until the list is cleared or given rows of its own.
   /// The source has to live that long, and a change of it is told with `source_changed`.
   void set_source(const RowSource* source);
@@ -76,9 +86,12 @@ class ListView : public Control {
   std::function<void()> on_double_click;
   /// The virtual key code of a pressed key; 46 is Delete, 13 Enter.
   std::function<void(std::int16_t code)> on_key_down;
+  /// Ctrl+C was pressed.
+  std::function<void()> on_copy;
   void take_user_select(int row) { selected_ = row; }
   void take_user_double_click();
   void take_user_key_down(std::int16_t code);
+  void take_user_copy();
 
  private:
   void rows_changed();

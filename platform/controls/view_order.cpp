@@ -31,13 +31,14 @@ void ViewOrder::reset() {
   rows_.clear();
 }
 
-void ViewOrder::sort_by(const FlatTable& table, std::size_t column) {
+void ViewOrder::sort_by(std::size_t column, std::size_t rows,
+                        const std::function<std::string(std::size_t)>& text) {
   const bool again = key_ && key_->column == column;
   if (again && key_->descending) return reset();
   key_ = Key{column, again};
-  std::vector<std::string> keys(table.rows());
-  for (std::size_t row = 0; row < keys.size(); ++row) keys[row] = sort_key(table.cell(row, column));
-  rows_.resize(table.rows());
+  std::vector<std::string> keys(rows);
+  for (std::size_t row = 0; row < keys.size(); ++row) keys[row] = sort_key(text(row));
+  rows_.resize(rows);
   std::iota(rows_.begin(), rows_.end(), std::size_t{0});
   std::stable_sort(rows_.begin(), rows_.end(), [&](std::size_t a, std::size_t b) {
     return key_->descending ? keys[b] < keys[a] : keys[a] < keys[b];

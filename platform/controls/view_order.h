@@ -1,10 +1,10 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <optional>
+#include <string>
 #include <vector>
-
-#include "text/flat_table.h"
 
 namespace quenda {
 
@@ -21,9 +21,10 @@ class ViewOrder {
 
   /// As the rows are.
   void reset();
-  /// By a column, letter case and accents aside; equal ones stay as they are. The same column again
-  /// turns the order round, and a third time leads back to that of the rows.
-  void sort_by(const FlatTable& table, std::size_t column);
+  /// By the texts of a column, letter case and accents aside; equal ones stay as they are. The same
+  /// column again turns the order round, and a third time leads back to that of the rows.
+  void sort_by(std::size_t column, std::size_t rows,
+               const std::function<std::string(std::size_t row)>& text);
   void row_added(std::size_t row);
   void row_removed(std::size_t row);
 

@@ -14,7 +14,8 @@ TEST(ListRows, FindsTheRowsOfARecordAndHandsOutEachOnce) {
                                      entry_origin(2, 3), entry_origin(5, 1)}) {
     list.add_row(std::array<std::string_view, 1>{"x"}, origin);
   }
-  ListRows rows(list);
+  const RemovedRows removed;
+  ListRows rows(list, removed);
   rows.begin_record(2);  // the row of record 1 goes by
   EXPECT_TRUE(rows.has(entry_origin(2, 3)));
   EXPECT_FALSE(rows.has(entry_origin(2, 2)));

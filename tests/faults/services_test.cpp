@@ -37,6 +37,14 @@ class FaultyDialogs final : public Dialogs {
     calls_.call();
     return dialogs_.open_file(filters, hook);
   }
+  ChosenFile save_file(const std::vector<FileFilter>& filters, std::string_view name) override {
+    calls_.call();
+    return dialogs_.save_file(filters, name);
+  }
+  bool copy_text(std::string_view text) override {
+    calls_.call();
+    return dialogs_.copy_text(text);
+  }
 
  private:
   Dialogs& dialogs_;

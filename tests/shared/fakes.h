@@ -65,6 +65,15 @@ class FakeDialogs : public Dialogs {
     if (on_folder_shown) hook(on_folder_shown);
     return {.path = taken_from(paths, std::string()), .unusable = {}};
   }
+  ChosenFile save_file(const std::vector<FileFilter>& wanted, std::string_view /*name*/) override {
+    filters.push_back(wanted);
+    return {.path = taken_from(paths, std::string()), .unusable = {}};
+  }
+  std::string clipboard;
+  bool copy_text(std::string_view text) override {
+    clipboard = text;
+    return true;
+  }
 
  private:
   template <class T>

@@ -26,7 +26,7 @@ Options& options() {
 
 /// The words on the way through the wizard, in either language.
 struct Words {
-  std::string_view file, next, edit, apply, keep, area_code, outlook, no_outlook;
+  std::string_view file, next, edit, apply, keep, area_code, outlook, no_outlook, report;
 };
 constexpr Words kGerman = {u8"Datei für den Import"_de,
                            "Weiter",
@@ -35,10 +35,17 @@ constexpr Words kGerman = {u8"Datei für den Import"_de,
                            "Erhalten",
                            "Ortsvorwahl",
                            "Outlook-Kontakte",
-                           "Outlook nicht installiert!"};
-constexpr Words kEnglish = {
-    "File to import",           "Next", "Edit", "Apply", "Keep", "Area code", "Outlook contacts",
-    "Outlook is not installed!"};
+                           "Outlook nicht installiert!",
+                           "Bericht ..."};
+constexpr Words kEnglish = {"File to import",
+                            "Next",
+                            "Edit",
+                            "Apply",
+                            "Keep",
+                            "Area code",
+                            "Outlook contacts",
+                            "Outlook is not installed!",
+                            "Report ..."};
 
 class Screenshots : public WizardTest {
  protected:
@@ -60,6 +67,15 @@ class Screenshots : public WizardTest {
     keep(main_, name);
   }
 
+  /// Takes the file of contacts from where a user would have it.
+  void take_file() {
+    const std::string file = "C:\\Kontakte\\kontakte.csv";
+    std::filesystem::create_directory("C:\\Kontakte");
+    std::filesystem::remove(file);
+    std::filesystem::copy_file(suite_.contacts(), file);
+    fill(main_.after(words_.file), file);
+  }
+
   const Words& words_ = options().language == "de" ? kGerman : kEnglish;
 };
 
@@ -69,12 +85,7 @@ TEST_F(Screenshots, EveryPageAndDialog) {
   start_by_phone_book();
   ASSERT_TRUE(becomes([&] { return panel_of(main_, 2) == words_.no_outlook; }));
   keep(main_, "1_source");
-  // Where a user would have it.
-  const std::string file = "C:\\Kontakte\\kontakte.csv";
-  std::filesystem::create_directory("C:\\Kontakte");
-  std::filesystem::remove(file);
-  std::filesystem::copy_file(suite_.contacts(), file);
-  fill(main_.after(words_.file), file);
+  take_file();
   keep(main_, "1_source_with_file");
   next(words_.next, "2_columns");
   next(words_.next, "3_names");
@@ -87,7 +98,17 @@ TEST_F(Screenshots, EveryPageAndDialog) {
   ASSERT_TRUE(becomes([&] { return button(words_.edit) && button(words_.edit).enabled(); }));
   wait_until_active(main_);
   select_row(final_list(), 0);
+  ASSERT_TRUE(becomes([&] {
+    const auto rows = rows_of(final_list(), 1);
+    return !rows.empty() && !rows[0].at(3).empty();
+  }));
   keep(main_, "6_entries");
+  click_button(words_.report);
+  const Window report = dialog_over(main_);
+  keep(report, "10_report");
+  press(Key::kEscape);
+  ASSERT_TRUE(becomes([&] { return main_.enabled(); }));
+  wait_until_active(main_);
   click_button(words_.edit);
   const Window editor = dialog_over(main_);
   keep(editor, "7_edit");
@@ -100,6 +121,15 @@ TEST_F(Screenshots, EveryPageAndDialog) {
   click(question.find(words_.keep));
   expect_end();
   EXPECT_TRUE(phone_book_->hears("data"));
+}
+
+TEST_F(Screenshots, AFileWithMuchToSay) {
+  suite_.write("kontakte.csv", "sep=;\nName;Telefon\nJ\xC3\xB6rg Falk;030 5550301\n");
+  start_by_phone_book();
+  take_file();
+  keep(main_, "11_findings");
+  press(Key::kEscape);
+  expect_end();
 }
 
 TEST_F(Screenshots, OutlookPage) {

@@ -34,6 +34,10 @@ class NativeListView : public PeerOf<ListView> {
             static_cast<std::size_t>(from_lparam<NMLISTVIEW>(lparam)->iSubItem));
         return 0;
       case LVN_KEYDOWN:
+        if (from_lparam<NMLVKEYDOWN>(lparam)->wVKey == 'C' && GetKeyState(VK_CONTROL) < 0) {
+          typed().take_user_copy();
+          return 0;
+        }
         typed().take_user_key_down(
             static_cast<std::int16_t>(from_lparam<NMLVKEYDOWN>(lparam)->wVKey));
         return 0;

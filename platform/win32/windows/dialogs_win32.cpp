@@ -2,6 +2,7 @@
 
 #include <commdlg.h>
 
+#include <cstring>
 #include <string>
 #include <utility>
 
@@ -10,6 +11,7 @@
 #include "platform/win32/text_win32.h"
 #include "platform/win32/windows/events_win32.h"
 #include "platform/win32/windows/more_button.h"
+#include "text/fault.h"
 
 namespace quenda {
 namespace {
@@ -69,6 +71,44 @@ HWND message_owner() {
   return owner;
 }
 
+/// One of the system's file dialogs.
+class FileDialog {
+ public:
+  FileDialog(const std::vector<FileFilter>& filters, std::string_view name)
+      : filter_(filter_text(filters)), path_(wide(name)) {
+    path_.resize(kLongestPath, L'\0');
+    shown_.lStructSize = sizeof shown_;
+    shown_.hwndOwner = message_owner();
+    shown_.lpstrFilter = filters.empty() ? nullptr : filter_.c_str();
+    shown_.lpstrFile = path_.data();
+    shown_.nMaxFile = kLongestPath;
+    shown_.Flags =
+        OFN_EXPLORER | OFN_ENABLESIZING | OFN_PATHMUSTEXIST | OFN_HIDEREADONLY | OFN_NOCHANGEDIR;
+  }
+  FileDialog(const FileDialog&) = delete;
+  FileDialog& operator=(const FileDialog&) = delete;
+  ~FileDialog() = default;
+
+  [[nodiscard]] OPENFILENAMEW& shown() { return shown_; }
+
+  template <class Show>
+  ChosenFile run(MessageLoop& loop, Show show) {
+    const ApartmentScope apartment;
+    const SystemDialogGuard guard(loop.presses());
+    const bool chosen = show(&shown_) != FALSE;
+    loop.rethrow();
+    if (!chosen) return {};
+    path_.resize(path_.find(L'\0'));
+    if (auto named = exact_1252(path_)) return {.path = std::move(*named), .unusable = {}};
+    return {.path = {}, .unusable = nearest_1252(path_)};
+  }
+
+ private:
+  std::wstring filter_;
+  std::wstring path_;
+  OPENFILENAMEW shown_{};
+};
+
 }  // namespace
 
 MessageAnswer Win32Dialogs::message_box(std::string_view text, MessageStyle style,
@@ -96,27 +136,38 @@ MessageAnswer Win32Dialogs::show_box(std::string_view text, UINT style, std::str
 
 ChosenFile Win32Dialogs::open_file(const std::vector<FileFilter>& filters, const DialogHook& hook) {
   loop_.show_changes();
-  const ApartmentScope apartment;
-  const std::wstring filter = filter_text(filters);
-  std::wstring path(kLongestPath, L'\0');
-  OPENFILENAMEW dialog{};
-  dialog.lStructSize = sizeof dialog;
-  dialog.hwndOwner = message_owner();
-  dialog.lpstrFilter = filters.empty() ? nullptr : filter.c_str();
-  dialog.lpstrFile = path.data();
-  dialog.nMaxFile = kLongestPath;
-  dialog.Flags = OFN_EXPLORER | OFN_ENABLEHOOK | OFN_ENABLESIZING | OFN_FILEMUSTEXIST |
-                 OFN_PATHMUSTEXIST | OFN_HIDEREADONLY | OFN_NOCHANGEDIR;
-  dialog.lpfnHook = &hook_procedure;
+  FileDialog dialog(filters, "");
+  dialog.shown().Flags |= OFN_ENABLEHOOK | OFN_FILEMUSTEXIST;
+  dialog.shown().lpfnHook = &hook_procedure;
   HookContext context{loop_, hook};
-  dialog.lCustData = as_lparam(&context);
-  const SystemDialogGuard guard(loop_.presses());
-  const bool chosen = GetOpenFileNameW(&dialog) != 0;
-  loop_.rethrow();
-  if (!chosen) return {};
-  path.resize(path.find(L'\0'));
-  if (auto named = exact_1252(path)) return {.path = std::move(*named), .unusable = {}};
-  return {.path = {}, .unusable = nearest_1252(path)};
+  dialog.shown().lCustData = as_lparam(&context);
+  return dialog.run(loop_, [](OPENFILENAMEW* shown) { return GetOpenFileNameW(shown); });
+}
+
+ChosenFile Win32Dialogs::save_file(const std::vector<FileFilter>& filters, std::string_view name) {
+  loop_.show_changes();
+  FileDialog dialog(filters, name);
+  dialog.shown().Flags |= OFN_OVERWRITEPROMPT;
+  // Any ending here has the dialog add that of the chosen filter.
+  dialog.shown().lpstrDefExt = L"csv";
+  return dialog.run(loop_, [](OPENFILENAMEW* shown) { return GetSaveFileNameW(shown); });
+}
+
+bool Win32Dialogs::copy_text(std::string_view text) {
+  const std::wstring shown = wide(text);
+  const std::size_t bytes = (shown.size() + 1) * sizeof(wchar_t);
+  HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, bytes);
+  if (memory == nullptr) raise_fault(kFaultOutOfMemory);
+  std::memcpy(GlobalLock(memory), shown.c_str(), bytes);
+  GlobalUnlock(memory);
+  // What the clipboard has taken belongs to it.
+  bool taken = false;
+  if (OpenClipboard(message_owner()) != 0) {
+    taken = EmptyClipboard() != 0 && SetClipboardData(CF_UNICODETEXT, memory) != nullptr;
+    CloseClipboard();
+  }
+  if (!taken) GlobalFree(memory);
+  return taken;
 }
 
 }  // namespace quenda

@@ -13,6 +13,8 @@ class Win32Dialogs : public Dialogs {
   MessageAnswer message_box_with(const MoreButton& more, std::string_view text, MessageStyle style,
                                  std::string_view title) override;
   ChosenFile open_file(const std::vector<FileFilter>& filters, const DialogHook& hook) override;
+  ChosenFile save_file(const std::vector<FileFilter>& filters, std::string_view name) override;
+  bool copy_text(std::string_view text) override;
 
  private:
   MessageAnswer show_box(std::string_view text, UINT style, std::string_view title);

@@ -44,7 +44,8 @@ TEST_F(MainDesign, TheOrderOfTheControlsStaysSinceTheirIdsComeFromIt) {
             "labImport*3 chkImport*11 txtImport*11 chkAdr*14 chkFlipName chkFlipAdress "
             "labPreview lstImport "
             "labEdited labCodes cmdCompose "
-            "labFacts chkConvert labTable cmdSuggest chkBackup cmdUndo splPreview");
+            "labFacts chkConvert labTable cmdSuggest chkBackup cmdUndo splPreview tmResults "
+            "cmdReport");
 }
 
 TEST_F(MainDesign, WhatTheTabKeyReachesHasANameOfItsOwnOnItsPage) {
