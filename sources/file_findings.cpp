@@ -49,13 +49,11 @@ std::string_view encoding_name(FileEncoding encoding) {
   return {};
 }
 
-/// What will be adapted, in words of every language: "UTF-8, LF".
-std::string adaptations(const FileFacts& facts) {
-  std::string list;
+/// What will be adapted, in words of every language.
+std::vector<std::string_view> adaptation_names(const FileFacts& facts) {
+  std::vector<std::string_view> list;
   const auto add = [&](std::string_view what) {
-    if (what.empty()) return;
-    if (!list.empty()) list += ", ";
-    list += what;
+    if (!what.empty()) list.push_back(what);
   };
   if (facts.kind == FileKind::kVcard) add("vCard");
   add(encoding_name(facts.encoding));
@@ -66,6 +64,17 @@ std::string adaptations(const FileFacts& facts) {
   if (facts.sep_line) add("sep=");
   if (facts.labelled) add("Label");
   if (facts.nul_bytes) add("NUL");
+  return list;
+}
+
+/// "UTF-8, LF", from one of the names on.
+std::string adaptations(const FileFacts& facts, std::size_t from = 0) {
+  const std::vector<std::string_view> names = adaptation_names(facts);
+  std::string list;
+  for (std::size_t i = from; i < names.size(); ++i) {
+    if (!list.empty()) list += ", ";
+    list += names[i];
+  }
   return list;
 }
 
@@ -132,6 +141,16 @@ std::vector<Finding> file_findings(const FileFacts& facts, bool convert) {
   }
   if (facts.sep_line) findings.push_back({"Import_File_SepLine", {}});
   if (facts.nul_bytes) findings.push_back({"Import_File_NulBytes", {}});
+  return findings;
+}
+
+std::vector<Finding> short_file_findings(const FileFacts& facts, bool convert) {
+  constexpr std::size_t kMost = 2;
+  std::vector<Finding> findings = file_findings(facts, convert);
+  if (findings.size() <= kMost) return findings;
+  // Findings and names stand in the same order.
+  findings.resize(1);
+  findings.push_back({"Import_File_Besides", {adaptations(facts, 1)}});
   return findings;
 }
 

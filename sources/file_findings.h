@@ -29,6 +29,10 @@ bool is_adaptable(const FileFacts& facts);
 /// that it will. Nothing for a file that the tool reads as it is.
 std::vector<Finding> file_findings(const FileFacts& facts, bool convert);
 
+/// The same for a place with room for two sentences: of more than two findings all but the first
+/// are only named.
+std::vector<Finding> short_file_findings(const FileFacts& facts, bool convert);
+
 /// What concerns the columns. `lines` tells where records stand in the file.
 std::vector<Finding> table_findings(const TableFacts& facts, const SourceLines& lines);
 

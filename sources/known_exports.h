@@ -31,6 +31,9 @@ struct KnownExport {
   AddressColumns work;
 };
 
+/// The program whose tables name the kind of each number in a column beside it.
+inline constexpr std::string_view kLabelledExport = "Google-Kontakte";
+
 /// All known exports; where several fit a header, the first one counts.
 std::span<const KnownExport> known_exports();
 

@@ -15,6 +15,7 @@ inline constexpr std::array kFileReportKeys = {
     LanguageKey{"Import_Button_Suggestion", "Vorschlag: %1"},
     // What is going to be adapted: "UTF-8, LF".
     LanguageKey{"Import_File_Adapted", "Die Datei wird beim Einlesen angepasst (%1)."},
+    LanguageKey{"Import_File_Besides", u8"Außerdem anzupassen: %1."_de},
     // What would come out wrong.
     LanguageKey{"Import_File_Utf8",
                 u8"Die Datei ist in UTF-8 geschrieben: Umlaute kämen falsch an."_de},

@@ -95,7 +95,7 @@ bool SourcePage::converts() const {
 void SourcePage::show_facts() {
   std::string text;
   const FileFacts& facts = shell_.source.facts;
-  for (const Finding& finding : file_findings(facts, converts())) {
+  for (const Finding& finding : short_file_findings(facts, converts())) {
     if (!text.empty()) text += ' ';
     text += text_of(app_, finding);
   }

@@ -5,6 +5,7 @@
 
 #include "tests/shared/wizard_fixture.h"
 #include "text/literal_1252.h"
+#include "text/text.h"
 
 // What the wizard offers for files that it could not read as they are, and for known ones.
 namespace quenda {
@@ -58,6 +59,30 @@ TEST_F(FileAdaptation, ATickAndASuggestionBringAKnownFileIn) {
   EXPECT_TRUE(form->chkConvert.visible()) << "it may be ticked again";
   take_file(kPlain);
   EXPECT_FALSE(form->chkConvert.visible());
+}
+
+TEST_F(FileAdaptation, ASuggestionNamesTheFileAsTheUserKnowsIt) {
+  const auto caption_for = [&](std::string_view file) {
+    start();
+    take_file(file);
+    if (!form->chkConvert.ticked()) form->chkConvert.take_user_click();
+    forward();
+    return form->cmdSuggest.caption();
+  };
+  EXPECT_EQ(caption_for("BEGIN:VCARD\nVERSION:3.0\nN:Falk;Ida\nTEL:030 5550301\nEND:VCARD\n"),
+            "Vorschlag: vCard");
+  EXPECT_EQ(caption_for("First Name,Last Name,Phone 1 - Label,Phone 1 - Value\n"
+                        "Ida,Falk,Mobile,0171 5550303\n"),
+            "Vorschlag: Google-Kontakte");
+  EXPECT_EQ(caption_for(kUtf8), "Vorschlag: Kontakttabelle");
+}
+
+TEST_F(FileAdaptation, OfManyFindingsTheFirstIsToldAndTheOthersNamed) {
+  start();
+  take_file(concat("sep=;\n", kUtf8));
+  EXPECT_EQ(form->labFacts.caption().substr(form->labFacts.caption().rfind('A')),
+            "Au\xDF"
+            "erdem anzupassen: LF, sep=.");
 }
 
 TEST_F(FileAdaptation, WithoutTheTickNothingIsRememberedOfIt) {

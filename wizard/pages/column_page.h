@@ -70,6 +70,7 @@ class ColumnPage : public WizardPage {
   void select_columns(const std::array<std::vector<std::size_t>, kHeaderKinds>& columns);
   void show_table_facts();
   void offer_suggestion(bool fits);
+  [[nodiscard]] std::string_view source_name() const;
   void show_below_lists();
   [[nodiscard]] const ListBox& list(std::size_t kind) const {
     return lstHeader(static_cast<int>(kind));

@@ -9,6 +9,7 @@
 #include "settings/ini/ini_text.h"
 #include "sources/delimited_text.h"
 #include "sources/file_findings.h"
+#include "sources/known_exports.h"
 #include "sources/table_facts.h"
 #include "support/procedure.h"
 #include "text/text.h"
@@ -156,10 +157,20 @@ void ColumnPage::show_table_facts() {
   labTable.set_caption(text);
 }
 
+/// The program or format that a file is known as; "" for none. An adapted file shows the columns
+/// that it was made into, but users know it by what it was.
+std::string_view ColumnPage::source_name() const {
+  const ImportSource& source = shell_.source;
+  const std::string_view name = known_export_name(header_);
+  if (name.empty() || !source.converted) return name;
+  if (source.facts.kind == FileKind::kVcard) return "vCard";
+  return source.facts.labelled ? kLabelledExport : name;
+}
+
 void ColumnPage::offer_suggestion(bool fits) {
   const bool chosen = list(kNames).selected_count() > 0 || list(kNumbers).selected_count() > 0;
   const bool remembered = fits && chosen;
-  const std::string_view name = remembered ? std::string_view() : known_export_name(header_);
+  const std::string_view name = remembered ? std::string_view() : source_name();
   suggestion_offered_ = !name.empty();
   if (suggestion_offered_) {
     cmdSuggest.set_caption(text_of(app_, Finding{"Import_Button_Suggestion", {std::string(name)}}));
