@@ -88,8 +88,9 @@ inline ByteBlock ByteBlock::minus(ByteBlock other) const {
 }
 inline std::size_t ByteBlock::sum() const {
   const __m128i halves = _mm_sad_epu8(bytes_, _mm_setzero_si128());
-  return static_cast<std::size_t>(_mm_cvtsi128_si32(halves) +
-                                  _mm_cvtsi128_si32(_mm_unpackhi_epi64(halves, halves)));
+  const int low = _mm_cvtsi128_si32(halves);
+  const int high = _mm_cvtsi128_si32(_mm_unpackhi_epi64(halves, halves));
+  return static_cast<std::size_t>(low) + static_cast<std::size_t>(high);
 }
 inline std::uint32_t ByteBlock::top_bits() const {
   return static_cast<std::uint32_t>(_mm_movemask_epi8(bytes_));
