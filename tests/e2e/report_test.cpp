@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "platform/win32/handles.h"
 #include "tools/driver/wizard_test.h"
 
 namespace quenda {
@@ -40,6 +41,21 @@ TEST_F(Report, TheColumnFollowsTheOptions) {
   EXPECT_TRUE(becomes([&] { return results().front() == "ersetzt \"Bergs\""; }))
       << results().front();
   EXPECT_THAT(suite_.book(), HasSubstr("Bergs")) << "nothing is written";
+}
+
+TEST_F(Report, ADoubleClickOnABorderShowsWhatWasCutAndOpensNothing) {
+  start_by_phone_book();
+  go_to(Page::kEntries);
+  const Window list = final_list();
+  const auto width = [&](WPARAM column) {
+    return SendMessageW(list.handle(), LVM_GETCOLUMNWIDTH, column, 0);
+  };
+  const LRESULT addresses = width(2);
+  const auto border = static_cast<LONG>(width(0) + width(1) + addresses);
+  const Window header(from_lparam<HWND__>(SendMessageW(list.handle(), LVM_GETHEADER, 0, 0)));
+  double_click_at(header, {border, 8});
+  EXPECT_TRUE(becomes([&] { return width(2) > addresses; }));
+  EXPECT_TRUE(main_.enabled());
 }
 
 TEST_F(Report, IsLookedThroughSavedAndLeft) {

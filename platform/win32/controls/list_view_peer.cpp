@@ -1,11 +1,10 @@
 #include "platform/win32/controls/list_view_peer.h"
 
 #include <algorithm>
-#include <optional>
 #include <string>
 #include <utility>
-#include <vector>
 
+#include "platform/win32/controls/list_columns.h"
 #include "platform/win32/text_win32.h"
 #include "platform/win32/windows/dark_frame.h"
 #include "platform/win32/windows/form_window.h"
@@ -86,12 +85,12 @@ class NativeListView : public PeerOf<ListView> {
   void show(Aspect aspect) override {
     switch (aspect) {
       case Aspect::kColumns:
-        show_columns();
+        columns_.show(window());
         break;
       case Aspect::kRows:
         send(LVM_SETITEMCOUNT, typed().count(), LVSICF_NOSCROLL);
         // Whether there is a scroll bar decides how much room the columns have.
-        if (!shown_columns_.empty()) show_columns();
+        if (columns_.shown()) columns_.show(window());
         InvalidateRect(window(), nullptr, FALSE);
         show_selection();
         break;
@@ -103,29 +102,32 @@ class NativeListView : public PeerOf<ListView> {
     }
   }
 
-  /// Enter belongs to a list that listens to keys, not to the form's default button.
-  bool on_message(UINT message, WPARAM& /*wparam*/, LPARAM lparam, LRESULT& result) override {
-    if (message == WM_SIZE && !shown_columns_.empty()) show_columns();
-    if (message == WM_NOTIFY && form().dark()) {
-      const auto& notice = *from_lparam<NMHDR>(lparam);
-      if (notice.code != NM_CUSTOMDRAW || notice.hwndFrom != header()) return false;
-      result = draw_heading(*from_lparam<NMCUSTOMDRAW>(lparam));
-      return true;
+  bool on_message(UINT message, WPARAM& wparam, LPARAM lparam, LRESULT& result) override {
+    switch (message) {
+      case WM_SIZE:
+        if (columns_.shown()) columns_.show(window());
+        return false;
+      case WM_NOTIFY:
+        return from_lparam<NMHDR>(lparam)->hwndFrom == header() &&
+               on_heading(*from_lparam<NMHDR>(lparam), result);
+      case WM_KEYDOWN:
+        // The system's own way measures each of the rows.
+        if (wparam != VK_ADD || GetKeyState(VK_CONTROL) >= 0) return false;
+        columns_.fit_all(window());
+        return true;
+      case WM_GETDLGCODE: {
+        // Enter belongs to a list that listens to keys, not to the form's default button.
+        const auto* const key = from_lparam<MSG>(lparam);
+        if (key == nullptr || key->wParam != VK_RETURN || !typed().on_key_down) return false;
+        result = DLGC_WANTALLKEYS;
+        return true;
+      }
+      default:
+        return false;
     }
-    const auto* const key = from_lparam<MSG>(lparam);
-    if (message != WM_GETDLGCODE || key == nullptr || key->wParam != VK_RETURN) return false;
-    if (!typed().on_key_down) return false;
-    result = DLGC_WANTALLKEYS;
-    return true;
   }
 
  private:
-  struct ShownColumn {
-    std::wstring heading;
-    int width = 0;  // in pixels
-    friend bool operator==(const ShownColumn&, const ShownColumn&) = default;
-  };
-
   void give_text(LVITEMW& item) const {
     if ((item.mask & LVIF_TEXT) == 0 || item.cchTextMax <= 0) return;
     const std::size_t row = typed().order().row_at(static_cast<std::size_t>(item.iItem));
@@ -181,6 +183,29 @@ class NativeListView : public PeerOf<ListView> {
 
   [[nodiscard]] HWND header() const { return from_lparam<HWND__>(send(LVM_GETHEADER)); }
 
+  /// What the user does with the headings, and how they are drawn.
+  bool on_heading(NMHDR& notice, LRESULT& result) {
+    const auto& column = *from_lparam<NMHEADERW>(as_lparam(&notice));
+    switch (notice.code) {
+      case HDN_DIVIDERDBLCLICKW:
+        columns_.fit(window(), static_cast<std::size_t>(column.iItem));
+        return true;
+      case HDN_ENDTRACKW:
+        if (column.pitem == nullptr || (column.pitem->mask & HDI_WIDTH) == 0) return false;
+        // The heading takes the width itself, after this.
+        if (columns_.take_user_width(static_cast<std::size_t>(column.iItem), column.pitem->cxy)) {
+          refresh(Aspect::kColumns);
+        }
+        return false;
+      case NM_CUSTOMDRAW:
+        if (!form().dark()) return false;
+        result = draw_heading(*from_lparam<NMCUSTOMDRAW>(as_lparam(&notice)));
+        return true;
+      default:
+        return false;
+    }
+  }
+
   /// A heading by itself, and what no heading covers.
   [[nodiscard]] LRESULT draw_heading(const NMCUSTOMDRAW& drawn) const {
     const DarkPen with = pen(drawn.hdc);
@@ -191,8 +216,7 @@ class NativeListView : public PeerOf<ListView> {
         const auto column = static_cast<std::size_t>(drawn.dwItemSpec);
         const auto& key = typed().order().key();
         const int sorted = !key || key->column != column ? 0 : key->descending ? 1 : -1;
-        const bool known = column < shown_columns_.size();
-        quenda::draw_heading(with, drawn.rc, known ? shown_columns_[column].heading : L"", sorted);
+        quenda::draw_heading(with, drawn.rc, columns_.heading(column), sorted);
         return CDRF_SKIPDEFAULT;
       }
       case CDDS_POSTPAINT: {
@@ -228,91 +252,6 @@ class NativeListView : public PeerOf<ListView> {
                                                  static_cast<std::size_t>(shown_at_))));
   }
 
-  /// The widths asked for, in pixels. Columns that leave room share it, so that a larger window
-  /// cuts no names.
-  [[nodiscard]] std::vector<int> column_widths() const {
-    std::vector<int> widths;
-    int sum = 0;
-    for (const ListColumn& column : typed().columns()) {
-      widths.push_back(pixels_of(column.width, form().place().dpi()));
-      sum += widths.back();
-    }
-    RECT area{};
-    GetWindowRect(window(), &area);
-    const auto dpi = static_cast<UINT>(form().place().screen_dpi());
-    const bool scrolls = typed().count() > static_cast<std::size_t>(send(LVM_GETCOUNTPERPAGE));
-    const int room = static_cast<int>(area.right - area.left) -
-                     (scrolls ? GetSystemMetricsForDpi(SM_CXVSCROLL, dpi) : 0) -
-                     2 * GetSystemMetricsForDpi(SM_CXEDGE, dpi);
-    if (sum == 0 || sum >= room) return widths;
-    // Edges, not widths, are rounded: a sum that is a pixel too large brings a scroll bar.
-    int designed = 0;
-    int edge = 0;
-    for (int& width : widths) {
-      designed += width;
-      width = MulDiv(designed, room, sum) - edge;
-      edge += width;
-    }
-    return widths;
-  }
-
-  [[nodiscard]] std::vector<ShownColumn> wanted_columns() const {
-    const auto& columns = typed().columns();
-    const std::vector<int> widths = column_widths();
-    std::vector<ShownColumn> wanted(columns.size());
-    for (std::size_t i = 0; i < columns.size(); ++i) {
-      wanted[i] = {std::wstring(column_mark(columns[i].kind)), widths[i]};
-      wanted[i].heading += wide(columns[i].heading);
-    }
-    return wanted;
-  }
-
-  /// Only what differs is sent: a file may have thousands of columns, and the native heading places
-  /// all of them anew at each change.
-  void show_columns() {
-    std::vector<ShownColumn> wanted = wanted_columns();
-    const auto& sorted_by = typed().order().key();
-    if (wanted == shown_columns_ && sorted_by == shown_sorted_by_) return;
-    const HWND header = this->header();
-    const bool hidden = (GetWindowLongPtrW(window(), GWL_STYLE) & WS_VISIBLE) == 0;
-    send(WM_SETREDRAW, FALSE);
-    SendMessageW(header, WM_SETREDRAW, FALSE, 0);
-    std::size_t shown = shown_columns_.size();
-    while (shown > wanted.size()) send(LVM_DELETECOLUMN, --shown);
-    for (std::size_t i = 0; i < wanted.size(); ++i) {
-      LVCOLUMNW column{};
-      column.mask = LVCF_SUBITEM;
-      if (i >= shown || shown_columns_[i].heading != wanted[i].heading) column.mask |= LVCF_TEXT;
-      // A width that the user has dragged stays until the control asks for another.
-      if (i >= shown || shown_columns_[i].width != wanted[i].width) column.mask |= LVCF_WIDTH;
-      if (column.mask == LVCF_SUBITEM) continue;
-      column.cx = wanted[i].width;
-      column.iSubItem = static_cast<int>(i);
-      column.pszText = wanted[i].heading.data();
-      send(i < shown ? LVM_SETCOLUMNW : LVM_INSERTCOLUMNW, i, as_lparam(&column));
-    }
-    shown_columns_ = std::move(wanted);
-    shown_sorted_by_ = sorted_by;
-    if (typed().sortable()) mark_sorted(header);
-    SendMessageW(header, WM_SETREDRAW, TRUE, 0);
-    send(WM_SETREDRAW, TRUE);
-    if (hidden) ShowWindow(window(), SW_HIDE);  // to draw again is to be visible
-    RedrawWindow(window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
-  }
-
-  /// The arrow in the heading of the column that the rows are sorted by.
-  void mark_sorted(HWND header) const {
-    const auto& key = typed().order().key();
-    for (std::size_t i = 0; i < typed().columns().size(); ++i) {
-      HDITEMW item{};
-      item.mask = HDI_FORMAT;
-      SendMessageW(header, HDM_GETITEMW, i, as_lparam(&item));
-      item.fmt &= ~(HDF_SORTUP | HDF_SORTDOWN);
-      if (key && key->column == i) item.fmt |= key->descending ? HDF_SORTDOWN : HDF_SORTUP;
-      SendMessageW(header, HDM_SETITEMW, i, as_lparam(&item));
-    }
-  }
-
   void show_selection() {
     const int row = typed().selected();
     const int wanted =
@@ -330,9 +269,8 @@ class NativeListView : public PeerOf<ListView> {
     send(LVM_ENSUREVISIBLE, static_cast<WPARAM>(wanted), FALSE);
   }
 
-  int shown_at_ = -1;                       // position of the selected row
-  std::vector<ShownColumn> shown_columns_;  // as last asked for
-  std::optional<ViewOrder::Key> shown_sorted_by_;
+  int shown_at_ = -1;  // position of the selected row
+  ListColumns columns_{form(), typed()};
 };
 
 }  // namespace

@@ -1,4 +1,5 @@
 // Rules of controls that hold with and without a window.
+#include "platform/controls/column_fit.h"
 #include "platform/controls/progress_text.h"
 #include "platform/controls/splitter.h"
 #include "platform/controls/view_order.h"
@@ -52,6 +53,23 @@ TEST(BorderTest, KeysMoveItByStepsAndToTheEnds) {
   EXPECT_EQ(after(BorderMove::kToEnd), 908);
   EXPECT_EQ(after(BorderMove::kFarOn), 908);
   EXPECT_EQ(after(BorderMove::kToStart), 70);
+}
+
+TEST(ColumnFit, LooksAtAllOfAShortListAndAtWhatIsInViewOfALongOne) {
+  EXPECT_THAT(positions_to_fit(3, 1, 2), ElementsAre(0, 1, 2));
+  EXPECT_THAT(positions_to_fit(0, 0, 20), testing::IsEmpty());
+  const auto of_many = positions_to_fit(1'000'000, 999'990, 20);
+  EXPECT_LT(of_many.size(), 5000U);
+  EXPECT_THAT(of_many, testing::IsSupersetOf({0, 999'990, 999'999}));
+  EXPECT_THAT(of_many, testing::Each(testing::Lt(1'000'000U)));
+}
+
+TEST(ColumnFit, WhatTheUserLeavesOfTheRoomGoesToTheOtherColumns) {
+  EXPECT_THAT(widths_in({{100, 0}, {200, 0}}, 450), ElementsAre(150, 300));
+  EXPECT_THAT(widths_in({{100, 0}, {200, 0}}, 250), ElementsAre(100, 200)) << "no room to share";
+  EXPECT_THAT(widths_in({{100, 50}, {200, 0}, {100, 0}}, 650), ElementsAre(50, 400, 200));
+  EXPECT_THAT(widths_in({{100, 50}, {200, 300}}, 400), ElementsAre(50, 350));
+  EXPECT_THAT(widths_in({{100, 500}, {200, 0}}, 400), ElementsAre(500, 200));
 }
 
 class ViewOrderTest : public testing::Test {

@@ -150,6 +150,50 @@ TEST_F(FormWindowTest, ColumnsOfAListThatDoesNotScrollFillIt) {
             area.right);
 }
 
+TEST_F(FormWindowTest, ABorderFitsItsColumnToAMillionRowsAtOnceAndItStaysSo) {
+  form_.view.set_columns({{"Name", 500}, {"Nummer", 200}, {"Ort", 300}});
+  form_.view.set_place({0, 0, 6000, 900});
+  form_.view.set_source(&rows_);
+  show();
+  const auto width = [&](WPARAM column) {
+    return static_cast<int>(send(form_.view, LVM_GETCOLUMNWIDTH, column));
+  };
+  const auto tell = [&](UINT code, int column, int pixels) {
+    HDITEMW item{};
+    item.mask = HDI_WIDTH;
+    item.cxy = pixels;
+    NMHEADERW notice{};
+    notice.hdr = {from_lparam<HWND__>(send(form_.view, LVM_GETHEADER)), 0, code};
+    notice.iItem = column;
+    notice.pitem = &item;
+    send(form_.view, WM_NOTIFY, 0, as_lparam(&notice));
+    // What the heading does after it has told of a border that was dragged.
+    if (pixels > 0) send(form_.view, LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(column), pixels);
+    loop_.pump();
+  };
+  const int all = width(0) + width(1) + width(2);
+  const int first = width(0);
+  const ULONGLONG begin = GetTickCount64();
+  tell(HDN_DIVIDERDBLCLICKW, 1, 0);
+  EXPECT_LT(GetTickCount64() - begin, 1000U);
+  const int fitted = width(1);
+  EXPECT_GT(fitted,
+            static_cast<int>(send(form_.view, LVM_GETSTRINGWIDTHW, 0, as_lparam(L"999750/1"))));
+  EXPECT_LT(fitted, 120);
+  EXPECT_EQ(width(0), first);
+  EXPECT_EQ(width(0) + width(1) + width(2), all) << "the list stays filled";
+  form_.view.set_column_kinds({ColumnKind::kName});
+  form_.view.source_changed();
+  loop_.pump();
+  EXPECT_EQ(width(1), fitted);
+  tell(HDN_ENDTRACKW, 0, 30);
+  EXPECT_EQ(width(0) + width(1) + width(2), all);
+  EXPECT_EQ(width(1), fitted);
+  form_.view.set_columns({{"Name", 500}, {"Datum", 500}});
+  loop_.pump();
+  EXPECT_EQ(width(0), width(1)) << "a choice is about the columns that were seen";
+}
+
 TEST_F(FormWindowTest, AHeadingSortsWhatIsSeenAndTheRowsStay) {
   form_.view.set_sortable(true);
   form_.view.set_columns({{"Name", 500}, {"Nummer", 500}});
