@@ -176,12 +176,14 @@ std::vector<Finding> table_findings(const TableFacts& facts, const SourceLines& 
 std::vector<Finding> loss_findings(const LostCharacters& losses, const SourceLines& lines) {
   std::vector<Finding> findings;
   if (losses.changed > 0) {
-    findings.push_back({"Import_File_CharactersChanged",
-                        {std::to_string(losses.changed), line_list(losses.changed_in, lines)}});
+    findings.push_back(
+        {losses.changed == 1 ? "Import_File_CharacterChanged" : "Import_File_CharactersChanged",
+         {std::to_string(losses.changed), line_list(losses.changed_in, lines)}});
   }
   if (losses.lost > 0) {
-    findings.push_back({"Import_File_CharactersLost",
-                        {std::to_string(losses.lost), line_list(losses.lost_in, lines)}});
+    findings.push_back(
+        {losses.lost == 1 ? "Import_File_CharacterLost" : "Import_File_CharactersLost",
+         {std::to_string(losses.lost), line_list(losses.lost_in, lines)}});
   }
   return findings;
 }
@@ -195,8 +197,10 @@ std::vector<Finding> unchosen_findings(const std::vector<UnchosenNumbers>& uncho
     if (!headings.empty()) headings += ", ";
     headings += numbers.heading;
   }
-  return {{"Import_Table_UnchosenNumbers",
-           {std::to_string(count), std::to_string(unchosen.size()), headings}}};
+  std::string_view key = "Import_Table_UnchosenNumbers";
+  if (unchosen.size() == 1) key = "Import_Table_UnchosenInOneColumn";
+  if (count == 1) key = "Import_Table_UnchosenNumber";
+  return {{key, {std::to_string(count), std::to_string(unchosen.size()), headings}}};
 }
 
 }  // namespace quenda

@@ -76,7 +76,13 @@ inline constexpr std::array kFileReportKeys = {
     // What the adapting could not keep.
     LanguageKey{"Import_File_CharactersChanged",
                 u8"%1 Zeichen wurden durch ähnliche ersetzt (Zeile %2)."_de},
+    LanguageKey{"Import_File_CharacterChanged",
+                u8"1 Zeichen wurde durch ein ähnliches ersetzt (Zeile %2)."_de},
     LanguageKey{"Import_File_CharactersLost", u8"%1 Zeichen gingen verloren (Zeile %2)."_de},
+    LanguageKey{"Import_File_CharacterLost", "1 Zeichen ging verloren (Zeile %2)."},
+    LanguageKey{"Import_File_NoContacts",
+                u8"Die Datei enthält keine Kontakte: Keine ihrer Karten hat einen Namen oder eine "
+                u8"Rufnummer."_de},
     // The columns.
     LanguageKey{"Import_Table_NumberInHeader",
                 u8"Die erste Zeile enthält eine Rufnummer (\"%1\"): Fehlt der Datei die "
@@ -87,6 +93,8 @@ inline constexpr std::array kFileReportKeys = {
                 u8"Datensätze mit mehr oder weniger Feldern als die Kopfzeile: %1, der erste in "
                 u8"Zeile %2."_de},
     LanguageKey{"Import_Table_UnchosenNumbers", "%1 Nummern in %2 weiteren Spalten: %3"},
+    LanguageKey{"Import_Table_UnchosenInOneColumn", "%1 Nummern in 1 weiteren Spalte: %3"},
+    LanguageKey{"Import_Table_UnchosenNumber", "1 Nummer in 1 weiteren Spalte: %3"},
 };
 
 }  // namespace quenda

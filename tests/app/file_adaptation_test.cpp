@@ -104,6 +104,19 @@ TEST_F(FileAdaptation, WithTheTickAWorkbookIsNotReadAsText) {
   EXPECT_TRUE(form->cmdFor.enabled()) << "as it always was";
 }
 
+TEST_F(FileAdaptation, EmptyCardsAreCalledSo) {
+  start();
+  take_file("BEGIN:VCARD\nVERSION:3.0\nEND:VCARD\nBEGIN:VCARD\nN:;;;;\nEND:VCARD\n");
+  form->chkConvert.take_user_click();
+  forward();
+  ASSERT_EQ(machine.dialogs.boxes.size(), 1U) << "nothing about a header that the file never had";
+  EXPECT_TRUE(last_box().starts_with(u8"Die Datei enthält keine Kontakte"_de)) << last_box();
+  EXPECT_EQ(form->wizard.CurrentPage, Page::kSource);
+  take_file(kUtf8);
+  forward();
+  EXPECT_EQ(form->wizard.CurrentPage, Page::kColumns);
+}
+
 TEST_F(FileAdaptation, SourcesTakenInTurnAreNotAskedAboutAgain) {
   constexpr std::string_view kOther =
       "Kunde;Ort;Straße;Rufnummer\r\nBäcker;Köln;Ring 3;030 5550305\r\n";

@@ -11,6 +11,7 @@
 #include "platform/controls/lists.h"
 #include "platform/controls/simple_controls.h"
 #include "platform/controls/splitter.h"
+#include "platform/dialogs.h"
 #include "settings/header_memory.h"
 #include "settings/import_settings.h"
 #include "sources/column_suggestion.h"
@@ -63,6 +64,8 @@ class ColumnPage : public WizardPage {
  private:
   void design();
   void connect();
+  /// Says why there are no columns to be chosen, and leads back to the source page.
+  void refuse_file(std::string_view reason, MessageStyle style);
   void fill_header_lists(const std::vector<std::string>& header);
   /// False when the user has to choose, since the columns of the last import do not fit.
   bool select_saved_columns(const std::vector<std::string>& header);

@@ -65,13 +65,14 @@ void ColumnPage::ImpHeader() {
     suggestion_offered_ = false;
     const std::string_view header_record = source.ImportRows[0];
     if (header_record.find(source.Delimiter) == header_record.npos) {
-      fill_header_lists({});
-      app_.message_box(concat(texts["Import_Info_NoDelimiterFound"], kCrLf,
-                              texts["Import_Info_ImportNotAvailable"]),
-                       MessageStyle::kCritical);
-      shell_.wizard.CurrentPage = Page::kSource;
-      shell_.cmdBack_Click();
-      return;
+      return refuse_file(concat(texts["Import_Info_NoDelimiterFound"], kCrLf,
+                                texts["Import_Info_ImportNotAvailable"]),
+                         MessageStyle::kCritical);
+    }
+    // Of cards with nothing in them no column has come, of which some could be chosen.
+    if (source.made_table &&
+        header_record.find_first_not_of(source.Delimiter) == header_record.npos) {
+      return refuse_file(app_.text("Import_File_NoContacts"), MessageStyle::kExclamation);
     }
     const char delimiter = source.Delimiter.front();
     const std::vector<std::string> header =
@@ -87,6 +88,13 @@ void ColumnPage::ImpHeader() {
     show_table_facts();
     offer_suggestion(select_saved_columns(header));
   }).or_go_on();
+}
+
+void ColumnPage::refuse_file(std::string_view reason, MessageStyle style) {
+  fill_header_lists({});
+  app_.message_box(reason, style);
+  shell_.wizard.CurrentPage = Page::kSource;
+  shell_.cmdBack_Click();
 }
 
 void ColumnPage::fill_header_lists(const std::vector<std::string>& header) {

@@ -128,7 +128,7 @@ TEST_F(KnownExportsTest, ArriveWithNamesNumbersAndAddresses) {
   }
   list_of_sample("outlook_de.csv");
   EXPECT_THAT(errors_.str(),
-              HasSubstr("Warnung: 1 Nummern in 1 weiteren Spalten: Weiteres Telefon\n"));
+              HasSubstr("Warnung: 1 Nummer in 1 weiteren Spalte: Weiteres Telefon\n"));
   options_.report = "C:\\report.json";
   list_of_sample("outlook_de.csv");
   EXPECT_THAT(machine_.files.content("C:\\report.json"),
