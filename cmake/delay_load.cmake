@@ -13,8 +13,9 @@ function(quenda_delay_load target library)
   file(CONFIGURE OUTPUT ${folder}/${library}.def
     CONTENT "LIBRARY ${library}.dll\nEXPORTS\n${functions}\n")
   add_custom_command(OUTPUT ${folder}/lib${library}.a
-    COMMAND ${CMAKE_DLLTOOL} --input-def ${folder}/${library}.def
-            --output-delaylib ${folder}/lib${library}.a
+    # Symbols get the name of the import library, so that has to be the same in every folder.
+    COMMAND ${CMAKE_DLLTOOL} --input-def ${library}.def --output-delaylib lib${library}.a
+    WORKING_DIRECTORY ${folder}
     DEPENDS ${folder}/${library}.def)
   add_custom_target(delayed_${library} DEPENDS ${folder}/lib${library}.a)
   add_dependencies(${target} delayed_${library})
