@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "app/account/import_account.h"
+#include "app/account/list_rows.h"
 #include "app/account/source_numbers.h"
 #include "app/backup/book_backup.h"
 #include "app/merge_run.h"

@@ -1,5 +1,6 @@
 #include <string_view>
 
+#include "app/account/file_walk.h"
 #include "app/account/import_account.h"
 #include "app/account/report_file.h"
 #include "app/fMain.h"

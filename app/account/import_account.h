@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "app/account/list_rows.h"
 #include "app/account/source_numbers.h"
 #include "book/import_report.h"
 #include "book/merge_account.h"

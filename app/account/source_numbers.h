@@ -4,10 +4,8 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
-#include <string>
 #include <string_view>
 
-#include "app/account/list_rows.h"
 #include "book/fate.h"
 #include "sources/outlook_contacts.h"
 #include "sources/record_table.h"
@@ -15,7 +13,8 @@
 #include "wizard/composition.h"
 
 // Walks over every number of a source in its order, those that give no entry included, and tells
-// what the rules make of each before the merge. The rules are those of the import itself.
+// what the rules make of each before the merge. The rules are those of the import itself. The walk
+// over a delimited file is in file_walk.h. All return the count of records.
 namespace quenda {
 
 /// One number of the source. The texts are as the final list shows them, and good only while one is
@@ -37,23 +36,6 @@ struct SourceNumber {
 };
 using OnSourceNumber = std::function<void(const SourceNumber&)>;
 
-/// How a delimited file was composed.
-struct ComposedFile {
-  const RecordTable& records;  // after the cleaning
-  const SourceLines& lines;
-  char delimiter;
-  const Composition& composition;
-  const CleanNumber& clean;
-  bool suppress_short_names = false;
-  /// Nothing was composed of the records from here on: their numbers are unread.
-  std::size_t until = 0;
-};
-
-/// Walks over a delimited file. Returns the count of records behind the header; records of nothing
-/// but delimiters do not count. A record whose numbers all stand in the list is not composed again:
-/// nothing else has become of them.
-std::size_t walk_file(const ComposedFile& file, ListRows& listed, const OnSourceNumber& on_number);
-
 /// The lines of a call log.
 std::size_t walk_call_log(const RecordTable& lines, const SourceLines& source_lines,
                           std::string_view delimiter, const OnSourceNumber& on_number);
@@ -62,11 +44,5 @@ std::size_t walk_call_log(const RecordTable& lines, const SourceLines& source_li
 std::size_t walk_contacts(const ContactTable& contacts, const OutlookChoice& choice,
                           const CleanNumber& clean, bool suppress_short_names,
                           const OnSourceNumber& on_number);
-
-/// The number that an entry of a file was made of, as the file has it: of a cell with several
-/// numbers the one that cleans to `number`, and `number` itself where none does (it was edited).
-std::string number_in_file(const RecordTable& records, std::uint32_t origin, char delimiter,
-                           const Composition& composition, const CleanNumber& clean,
-                           std::string_view number);
 
 }  // namespace quenda
