@@ -18,6 +18,10 @@ std::unique_ptr<Clock> native_clock();
 std::unique_ptr<System> native_system();
 std::unique_ptr<Automation> native_automation();
 
+/// Lets memory that was given back be used again, instead of asking the system for new pages: it
+/// clears each before it hands it out. For a program that ends when its work is done.
+void keep_memory();
+
 /// Whether a person sits at the terminal: reads what goes to stderr and can type on stdin.
 bool console_is_interactive();
 /// Whether what goes to stderr is read on a terminal, where a progress line can be redrawn.

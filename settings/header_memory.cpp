@@ -2,10 +2,11 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cstdint>
+#include <cstring>
 
 #include "settings/modAPI_INI.h"
 #include "text/text.h"
-#include "text/view_index.h"
 
 namespace quenda {
 namespace {
@@ -17,11 +18,26 @@ constexpr std::size_t kParts = 11;
 
 std::string key_of(int position) { return concat("Header", std::to_string(position)); }
 
+/// A hash that stands in settings files, and so may never change.
+std::uint64_t kept_hash_of(std::string_view text) {
+  constexpr std::uint64_t kFactor = 0x9E3779B97F4A7C15U;
+  std::uint64_t hash = text.size() * kFactor;
+  while (!text.empty()) {
+    std::uint64_t word = 0;
+    const std::string_view part = text.substr(0, sizeof word);
+    std::memcpy(&word, part.data(), part.size());
+    hash = (hash ^ word) * kFactor;
+    hash ^= hash >> 29U;
+    text.remove_prefix(part.size());
+  }
+  return hash ^ (hash >> 32U);
+}
+
 /// Tells headers apart: how many columns, and a hash of their names.
 std::string header_mark(const std::vector<std::string>& header) {
   std::string names;
   for (const std::string& name : header) names.append(name).append("\n");
-  return concat(std::to_string(header.size()), "-", std::to_string(hash_of(names)));
+  return concat(std::to_string(header.size()), "-", std::to_string(kept_hash_of(names)));
 }
 
 /// A number that is below `end`.

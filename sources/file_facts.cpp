@@ -76,13 +76,32 @@ void look_at_characters(const char* bytes, std::size_t count, ByteFlags& flags) 
   flags.broken = flags.broken || any(broken);
 }
 
+/// The same where a broken byte has been found already: only whether there is a sequence is open.
+void look_for_sequence(const char* bytes, std::size_t count, ByteFlags& flags) {
+  ByteBlock sequence = nothing();
+  for (std::size_t at = 0; at < count; at += ByteBlock::kSize) {
+    const ByteBlock block = ByteBlock::load(bytes + at);
+    const ByteBlock wanted = ByteBlock::load(bytes + at - 1).above('\xC1') |
+                             ByteBlock::load(bytes + at - 2).above('\xDF') |
+                             ByteBlock::load(bytes + at - 3).above('\xEF');
+    const ByteBlock follows = block & block.up_to('\xBF');
+    sequence = sequence | follows.without(wanted.equal_to('\0'));
+  }
+  flags.sequence = flags.sequence || any(sequence);
+}
+
 void look_at_block(const char* bytes, std::size_t count, ByteFlags& flags) {
   const bool high_before = std::exchange(flags.high, false);
   look_at_lines(bytes, count, flags);
   // A block behind one with letters may begin within one.
   const bool within = std::any_of(bytes - 3, bytes, [](char c) { return (c & '\x80') != 0; });
-  const bool decided = flags.sequence && flags.broken;
-  if ((flags.high || within) && !decided) look_at_characters(bytes, count, flags);
+  if (flags.high || within) {
+    if (!flags.broken) {
+      look_at_characters(bytes, count, flags);
+    } else if (!flags.sequence) {
+      look_for_sequence(bytes, count, flags);
+    }
+  }
   flags.high = flags.high || high_before;
 }
 

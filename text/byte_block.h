@@ -28,6 +28,8 @@ class ByteBlock {
   [[nodiscard]] ByteBlock equal_to(ByteBlock other) const;
   /// The same for bytes that are not above the character, as codes from 0 to 255.
   [[nodiscard]] ByteBlock up_to(char c) const;
+  /// How much each byte is above the character, as codes from 0 to 255; 0 where it is not.
+  [[nodiscard]] ByteBlock above(char c) const;
   ByteBlock operator|(ByteBlock other) const;
   ByteBlock operator&(ByteBlock other) const;
   /// The bits of this block that the other one lacks.
@@ -74,6 +76,9 @@ inline ByteBlock ByteBlock::equal_to(ByteBlock other) const {
 inline ByteBlock ByteBlock::up_to(char c) const {
   return ByteBlock(_mm_cmpeq_epi8(_mm_min_epu8(bytes_, _mm_set1_epi8(c)), bytes_));
 }
+inline ByteBlock ByteBlock::above(char c) const {
+  return ByteBlock(_mm_subs_epu8(bytes_, _mm_set1_epi8(c)));
+}
 inline ByteBlock ByteBlock::operator|(ByteBlock other) const {
   return ByteBlock(_mm_or_si128(bytes_, other.bytes_));
 }
@@ -113,6 +118,9 @@ inline ByteBlock ByteBlock::equal_to(ByteBlock other) const {
 inline ByteBlock ByteBlock::up_to(char c) const {
   return combined(*this, filled_with(c),
                   [](unsigned a, unsigned b) { return a <= b ? 0xFFU : 0U; });
+}
+inline ByteBlock ByteBlock::above(char c) const {
+  return combined(*this, filled_with(c), [](unsigned a, unsigned b) { return a > b ? a - b : 0U; });
 }
 inline ByteBlock ByteBlock::operator|(ByteBlock other) const {
   return combined(*this, other, [](unsigned a, unsigned b) { return a | b; });

@@ -2,6 +2,8 @@
 
 #include <charconv>
 #include <cmath>
+#include <cstdint>
+#include <cstring>
 #include <limits>
 #include <string>
 #include <system_error>
@@ -24,6 +26,29 @@ constexpr bool is_sign(char c) { return c == '+' || c == '-'; }
 const char* skip_digits(const char* at, const char* end) {
   while (at != end && is_digit(*at)) ++at;
   return at;
+}
+
+/// Whether all of the eight characters from there on are digits.
+bool are_eight_digits(const char* at) {
+  constexpr std::uint64_t kHighHalves = 0xF0F0F0F0F0F0F0F0U;
+  constexpr std::uint64_t kZeros = 0x3030303030303030U;
+  constexpr std::uint64_t kSixes = 0x0606060606060606U;
+  std::uint64_t eight = 0;
+  std::memcpy(&eight, at, sizeof eight);
+  // A digit has 3 as its high half, also when 6 is added. The carry of a character above 0xF9 does
+  // not matter: that one is found out by itself.
+  return (eight & kHighHalves) == kZeros && ((eight + kSixes) & kHighHalves) == kZeros;
+}
+
+/// Whether a text is made of digits alone, as nearly all numbers are; at least eight of them.
+bool is_long_digits(std::string_view text) {
+  constexpr std::size_t kAtOnce = sizeof(std::uint64_t);
+  if (text.size() < kAtOnce) return false;
+  const std::size_t last = text.size() - kAtOnce;  // may overlap the eight before
+  for (std::size_t at = 0; at < last; at += kAtOnce) {
+    if (!are_eight_digits(text.data() + at)) return false;
+  }
+  return are_eight_digits(text.data() + last);
 }
 
 std::string_view view(const char* begin, const char* end) {
@@ -92,10 +117,7 @@ int short_number(std::string_view text) {
 }  // namespace
 
 bool is_numeric(std::string_view text) {
-  if (!text.empty() &&
-      skip_digits(text.data(), text.data() + text.size()) == text.data() + text.size()) {
-    return true;
-  }
+  if (is_long_digits(text)) return true;
   NumberParts parts;
   return scan(text, parts);
 }

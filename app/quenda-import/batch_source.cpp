@@ -8,7 +8,6 @@
 #include "platform/files.h"
 #include "sources/delimited_text.h"
 #include "sources/file_facts.h"
-#include "sources/table_facts.h"
 #include "support/procedure.h"
 #include "text/literal_1252.h"
 #include "text/text.h"
@@ -86,8 +85,7 @@ void BatchRun::choose_columns() {
   }
   const ImportSource& source = main_.source;
   const char delimiter = source.Delimiter.front();
-  warn(
-      table_findings(look_at_table(source.ImportRows, delimiter, source.made_table), source.lines));
+  warn(table_findings(main_.table_facts(), source.lines));
   warn(loss_findings(source.losses, source.lines));
   if (options_.auto_columns) {
     if (!main_.take_suggestion()) {

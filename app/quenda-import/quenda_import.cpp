@@ -8,6 +8,7 @@
 int main(int argc, char** argv) {
   using namespace quenda;
   try {
+    keep_memory();
     const BatchCommand command = read_batch_command(console_arguments(argc, argv));
     if (!command.options) {
       std::ostream& stream = command.status == kExitDone ? std::cout : std::cerr;

@@ -2,11 +2,15 @@
 
 #include <fcntl.h>
 #include <unistd.h>
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 
 #include <array>
 #include <chrono>
 #include <csignal>
 #include <ctime>
+#include <limits>
 
 #include "platform/native_services.h"
 #include "platform/no_automation.h"
@@ -87,6 +91,13 @@ std::unique_ptr<Files> native_files() { return std::make_unique<PosixFiles>(); }
 std::unique_ptr<Clock> native_clock() { return std::make_unique<PosixClock>(); }
 std::unique_ptr<System> native_system() { return std::make_unique<PosixSystem>(); }
 std::unique_ptr<Automation> native_automation() { return std::make_unique<NoAutomation>(); }
+
+void keep_memory() {
+#ifdef __GLIBC__
+  ::mallopt(M_MMAP_MAX, 0);
+  ::mallopt(M_TRIM_THRESHOLD, std::numeric_limits<int>::max());
+#endif
+}
 
 bool console_is_interactive() {
   return ::isatty(STDIN_FILENO) == 1 && ::isatty(STDERR_FILENO) == 1;

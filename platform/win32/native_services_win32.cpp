@@ -36,6 +36,10 @@ std::unique_ptr<Automation> native_automation() {
   return std::make_unique<ComAutomation>([] {});
 }
 
+void keep_memory() {
+  // The system's own heap decides.
+}
+
 bool console_is_interactive() {
   return is_terminal(STD_INPUT_HANDLE) && is_terminal(STD_ERROR_HANDLE);
 }

@@ -43,6 +43,10 @@ TEST(HeaderMemory, OnlyTheSameHeaderGetsAChoiceBack) {
   EXPECT_FALSE(read_header_choice(other, line));
 }
 
+TEST(HeaderMemory, ALineOfAnEarlierVersionIsUnderstood) {
+  EXPECT_TRUE(read_header_choice(kHeader, "5-5107112627519857831;0;1;;;0;0;000000;;;;"));
+}
+
 TEST(HeaderMemory, ALineThatMakesNoSenseIsNone) {
   const std::string mark = header_choice_text(kHeader, {});
   const std::string begin = mark.substr(0, mark.find(';'));

@@ -82,6 +82,31 @@ TEST(BuildRecords, AgreesWithTheSlowRuleOnRandomTexts) {
   }
 }
 
+TEST(BuildRecords, AgreesWithTheSlowRuleAmongRegularRecords) {
+  // Most records are looked at 64 bytes at a time, and one that is not regular may stand anywhere.
+  constexpr std::string_view kUsual[] = {"Falk;1;\"Weg 1\"\r\n", "\"Ida\";\"22\";\"\"\r\n",
+                                         ";;\r\n", "Otto;333;Ulm und um Ulm herum\r\n", "\r\n"};
+  constexpr std::string_view kOthers[] = {"a\"b\";c\r\n",    ";\"d;e\"\r\n", "\"f;g\";h\r\n",
+                                          ";\"i\nj\";k\r\n", "\n",           "l\rm\r\n",
+                                          ";\"n\"o;p\r\n",   "q;\"",         "r\"\r\n",
+                                          "\"s\rt\"\r\n",    "\"\n",         ";\"u\r\n\";v\r\n"};
+  unsigned seed = 1999;
+  const auto below = [&](std::size_t limit) {
+    seed = seed * 1664525U + 1013904223U;
+    return (seed >> 16U) % limit;
+  };
+  for (unsigned round = 0; round < 3000; ++round) {
+    std::string text;
+    for (std::size_t pieces = below(40); pieces > 0; --pieces) {
+      const bool usual = below(8) > 0;
+      text += usual ? kUsual[below(std::size(kUsual))] : kOthers[below(std::size(kOthers))];
+    }
+    remove_doubled_quotes(text);
+    ASSERT_EQ(records_of(text), slow_records(slow_clean(text, ';'), ';'))
+        << testing::PrintToString(text);
+  }
+}
+
 TEST(RemoveDoubledQuotes, SeesPairsWhereBlocksOfALargeTextMeet) {
   constexpr std::size_t kMegabyte = 1024UL * 1024;
   for (std::size_t at = kMegabyte - 3; at <= kMegabyte + 1; ++at) {

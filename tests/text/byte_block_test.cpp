@@ -35,6 +35,8 @@ TEST(ByteBlock, ComparesEachByteAsACodeFrom0To255) {
       EXPECT_EQ(block.up_to(c).top_bits(), bits_of(bytes, [&](unsigned b) { return b <= limit; }));
       EXPECT_EQ(block.equal_to(c).top_bits(),
                 bits_of(bytes, [&](unsigned b) { return b == limit; }));
+      EXPECT_EQ(block.above(c).equal_to('\0').top_bits(),
+                bits_of(bytes, [&](unsigned b) { return b <= limit; }));
     }
   }
 }

@@ -26,13 +26,35 @@ TEST(IsNumeric, DecidesAndConvertsAlike) {
                                                          {"1E5", 100000},
                                                          {"1e+2", 100},
                                                          {"2,5E-1", 0.25},
-                                                         {"1E-999", 0}};
+                                                         {"1E-999", 0},
+                                                         {"0301234567890123", 301234567890123}};
   for (const auto& [text, value] : numbers) {
     EXPECT_TRUE(is_numeric(text)) << text;
     EXPECT_DOUBLE_EQ(to_number(text), value) << text;
   }
-  for (const auto* text : {"", "   ", "4 9", "-", "-7-", ".", ",", "1,2,3", "1,2.3", "E5", "1E",
-                           "1E+", "1E5E", "12a", "\t5", "0x1F", "\xB2", "1E5,5"}) {
+  for (const auto* text : {"",
+                           "   ",
+                           "4 9",
+                           "-",
+                           "-7-",
+                           ".",
+                           ",",
+                           "1,2,3",
+                           "1,2.3",
+                           "E5",
+                           "1E",
+                           "1E+",
+                           "1E5E",
+                           "0301234:",
+                           "03012/45",
+                           "030123456a",
+                           "0301234567890\xFA"
+                           "1",
+                           "12a",
+                           "\t5",
+                           "0x1F",
+                           "\xB2",
+                           "1E5,5"}) {
     EXPECT_FALSE(is_numeric(text)) << text;
     EXPECT_EQ(fault_of([&] { to_number(text); }), kFaultTypeMismatch) << text;
   }

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstddef>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -15,6 +16,7 @@
 #include "settings/header_memory.h"
 #include "settings/import_settings.h"
 #include "sources/column_suggestion.h"
+#include "sources/table_facts.h"
 #include "wizard/composition.h"
 #include "wizard/header_columns.h"
 #include "wizard/pages/record_preview.h"
@@ -60,6 +62,8 @@ class ColumnPage : public WizardPage {
   std::function<void(const HeaderChoice& choice)> on_remembered;
   /// The column names of the file.
   [[nodiscard]] const std::vector<std::string>& header() const { return header_; }
+  /// What the records of the file whose header is shown say about themselves.
+  [[nodiscard]] const TableFacts& table_facts();
 
  private:
   void design();
@@ -83,6 +87,7 @@ class ColumnPage : public WizardPage {
   RecordPreview preview_;
   bool header_shown_ = false;
   std::vector<std::string> header_;
+  std::optional<TableFacts> table_facts_;
   bool suggestion_offered_ = false;
 };
 

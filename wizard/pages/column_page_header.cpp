@@ -10,7 +10,6 @@
 #include "sources/delimited_text.h"
 #include "sources/file_findings.h"
 #include "sources/known_exports.h"
-#include "sources/table_facts.h"
 #include "support/procedure.h"
 #include "text/text.h"
 #include "wizard/pages/column_page.h"
@@ -62,6 +61,7 @@ void ColumnPage::ImpHeader() {
     const MainTexts& texts = shell_.texts;
     header_shown_ = false;
     header_.clear();
+    table_facts_.reset();
     suggestion_offered_ = false;
     const std::string_view header_record = source.ImportRows[0];
     if (header_record.find(source.Delimiter) == header_record.npos) {
@@ -159,10 +159,17 @@ void ColumnPage::show_table_facts() {
       text += text_of(app_, finding);
     }
   };
-  add(table_findings(look_at_table(source.ImportRows, source.Delimiter.front(), source.made_table),
-                     source.lines));
+  add(table_findings(table_facts(), source.lines));
   add(loss_findings(source.losses, source.lines));
   labTable.set_caption(text);
+}
+
+const TableFacts& ColumnPage::table_facts() {
+  const ImportSource& source = shell_.source;
+  if (!table_facts_) {
+    table_facts_ = look_at_table(source.ImportRows, source.Delimiter.front(), source.made_table);
+  }
+  return *table_facts_;
 }
 
 /// The program or format that a file is known as; "" for none. An adapted file shows the columns
