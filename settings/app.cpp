@@ -55,7 +55,11 @@ void App::show_fault(std::string_view message, const std::string& report) {
 
 void App::tell_fault(const std::string& report) {
   const std::string trace = errors.written_trace();
-  if (trace.empty()) {
+  if (trace.empty() && errors.tracing()) {
+    message_box(concat(report, kCrLf, kCrLf, text("Import_Msg_TraceNotWritten"), kCrLf,
+                       errors.trace_path()),
+                MessageStyle::kInformation);
+  } else if (trace.empty()) {
     message_box(concat(report, kCrLf, kCrLf, text("Import_Msg_NoTraceLog"), kCrLf,
                        "\\Quendaspec.ini ([Debug] - TraceMode=1)"),
                 MessageStyle::kInformation);

@@ -184,6 +184,8 @@ void clsErrorHandling::Trace_Flush() {
   if (oTraceQueue_ && oTraceQueue_->Count() > 0) WriteTraceQueue();
 }
 
+std::string clsErrorHandling::trace_path() const { return log_path(kTraceLog); }
+
 std::string clsErrorHandling::written_trace() {
   std::string path;
   if (!tracing()) return path;

@@ -88,6 +88,8 @@ class clsErrorHandling {
   /// The line of the last report, as a log would show it; empty before the first report.
   [[nodiscard]] const std::string& last_report() const { return last_report_; }
 
+  /// The path of the trace log, whether it is there or not.
+  [[nodiscard]] std::string trace_path() const;
   /// The path of the trace log, with all that has been traced so far in it; empty while nothing is
   /// traced or it cannot be written.
   [[nodiscard]] std::string written_trace();

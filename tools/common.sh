@@ -34,9 +34,11 @@ start_display() {
   set_wine_value 'HKCU\Software\Wine\X11 Driver' Managed REG_SZ N || die "Wine does not start."
 }
 
-# Prepares the prefix in use for pictures of windows with so many dots per inch.
+# Prepares the prefix in use for pictures of windows with so many dots per inch, in a look of
+# tools/pictures/looks: light unless given.
 prepare_pictures() {
   set_wine_value 'HKCU\Control Panel\Desktop' LogPixels REG_DWORD "$1"
+  (cd "$root/tools/pictures/looks" && "$root/tools/wine" reg import "${2:-light}.reg") >/dev/null 2>&1
   # The signs on the frames' buttons.
   cp /usr/share/wine/fonts/marlett.ttf "$QUENDA_WINE_PREFIX/drive_c/windows/Fonts/"
   WINEPREFIX=$QUENDA_WINE_PREFIX wineserver -k -w || true

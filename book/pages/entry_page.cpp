@@ -94,7 +94,7 @@ EntryPage::EntryPage(WizardShell& shell) : WizardPage(shell) {
 
 void EntryPage::design() {
   apply_design(*this, kDesign, &shell_.frmImp(4));
-  lstImpFinal.set_columns({{"", 1950}, {"", 1500}, {"", 1850}, {"", 1700}}, kEntryColumns);
+  lstImpFinal.set_columns({{"", 1950}, {"", 1400}, {"", 1690}, {"", 1960}}, kEntryColumns);
   lstImpFinal.set_sortable(true);
 }
 

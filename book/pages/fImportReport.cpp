@@ -21,12 +21,16 @@ constexpr DesignRow<fImportReport> kDesign[] = {
     {.control = control_at<&fImportReport::labFate>, .place = {180, 825, 1200, 255}, .tab = 0},
     {.control = control_at<&fImportReport::cmbFate>, .place = {1440, 765, 3600, 345}, .tab = 1},
     {.control = control_at<&fImportReport::lstReport>,
-     .place = {180, 1230, 10140, 4200},
+     .place = {180, 1230, 10140, 3690},
      .tab = 2,
      .across = Anchor::kBoth,
      .down = Anchor::kBoth},
+    {.control = control_at<&fImportReport::labReason>,
+     .place = {180, 4995, 10140, 465},
+     .across = Anchor::kBoth,
+     .down = Anchor::kEnd},
     {.control = control_at<&fImportReport::labHint>,
-     .place = {180, 5520, 10140, 255},
+     .place = {180, 5535, 10140, 255},
      .across = Anchor::kBoth,
      .down = Anchor::kEnd},
     {.control = control_at<&fImportReport::cmdSave>,
@@ -59,13 +63,14 @@ void fImportReport::design() {
   apply_design(*this, kDesign);
   set_place({0, 0, 10500, 6450});
   set_resizable(true);
-  lstReport.set_columns({{"", 750}, {"", 2000}, {"", 1650}, {"", 1900}, {"", 1350}, {"", 2900}});
+  lstReport.set_columns({{"", 700}, {"", 1850}, {"", 1450}, {"", 1600}, {"", 1600}, {"", 2600}});
   default_button = &cmdClose;
   cancel_button = &cmdClose;
 }
 
 void fImportReport::connect() {
   cmbFate.on_click = [this] { cmbFate_Click(); };
+  lstReport.on_select = [this] { lstReport_Select(); };
   lstReport.on_double_click = [this] { lstReport_DblClick(); };
   lstReport.on_key_down = [this](std::int16_t code) { lstReport_KeyDown(code); };
   lstReport.on_copy = [this] { lstReport_Copy(); };
@@ -174,6 +179,16 @@ void fImportReport::cmbFate_Click() {
       }
     }
     lstReport.set_source(&shown_);
+    lstReport_Select();
+  }).or_go_on();
+}
+
+void fImportReport::lstReport_Select() {
+  procedure(app_.errors, "fImportReport.lstReport_Select", {}, [&] {
+    const int chosen = lstReport.selected();
+    if (chosen < 0) return labReason.set_caption("");
+    const ReportRow row = rows_.row(number_at(static_cast<std::size_t>(chosen)));
+    labReason.set_caption(concat(texts_.word(row.fate), ": ", texts_.reason(row)));
   }).or_go_on();
 }
 

@@ -32,6 +32,7 @@ class fImportReport : public Form {
   void Form_Load();
   void Language();
   void cmbFate_Click();
+  void lstReport_Select();
   void lstReport_DblClick();
   void lstReport_KeyDown(std::int16_t code);
   void lstReport_Copy();
@@ -46,6 +47,7 @@ class fImportReport : public Form {
   Button cmdSave{*this, "cmdSave"};
   Button cmdClose{*this, "cmdClose"};
   Button cmdHelp{*this, "cmdHelp"};
+  Label labReason{*this, "labReason"};  // in full, of the row that is chosen
 
  private:
   /// The rows that are shown.

@@ -88,10 +88,24 @@ void ListView::take_user_heading(std::size_t column) {
   refresh(Aspect::kRows);
 }
 
+void ListView::made_cells_changed() {
+  const auto& key = order_.key();
+  if (key && key->column >= table_.columns()) {
+    const std::size_t column = key->column;
+    order_.sort_again(table_.rows(), [&](std::size_t row) { return cell(row, column); });
+  }
+  refresh(Aspect::kRows);
+}
+
 void ListView::select(int row) {
   if (row < -1 || row >= static_cast<int>(count())) raise_fault(kFaultIndexRange);
   selected_ = row;
   refresh(Aspect::kIndex);
+}
+
+void ListView::take_user_select(int row) {
+  selected_ = row;
+  if (on_select) on_select();
 }
 
 void ListView::take_user_double_click() {

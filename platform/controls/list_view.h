@@ -63,8 +63,8 @@ class ListView : public Control {
   void clear();
   /// The text of a cell that the list's own rows do not hold, made when the row is shown.
   std::function<std::string(std::size_t row, std::size_t column)> made_cell;
-  /// Such texts are others now.
-  void made_cells_changed() { refresh(Aspect::kRows); }
+  /// Such texts are others now: rows that are sorted by them are sorted anew.
+  void made_cells_changed();
   /// Shows the rows of a source from now on, until the list is cleared or given rows of its own.
   /// The source has to live that long, and a change of it is told with `source_changed`.
   void set_source(const RowSource* source);
@@ -83,12 +83,14 @@ class ListView : public Control {
   [[nodiscard]] int selected() const { return selected_; }
   void select(int row);
 
+  /// The user chose another row, or none.
+  std::function<void()> on_select;
   std::function<void()> on_double_click;
   /// The virtual key code of a pressed key; 46 is Delete, 13 Enter.
   std::function<void(std::int16_t code)> on_key_down;
   /// Ctrl+C was pressed.
   std::function<void()> on_copy;
-  void take_user_select(int row) { selected_ = row; }
+  void take_user_select(int row);
   void take_user_double_click();
   void take_user_key_down(std::int16_t code);
   void take_user_copy();

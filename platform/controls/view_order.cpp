@@ -36,6 +36,11 @@ void ViewOrder::sort_by(std::size_t column, std::size_t rows,
   const bool again = key_ && key_->column == column;
   if (again && key_->descending) return reset();
   key_ = Key{column, again};
+  sort_again(rows, text);
+}
+
+void ViewOrder::sort_again(std::size_t rows, const std::function<std::string(std::size_t)>& text) {
+  if (!key_) return;
   std::vector<std::string> keys(rows);
   for (std::size_t row = 0; row < keys.size(); ++row) keys[row] = sort_key(text(row));
   rows_.resize(rows);

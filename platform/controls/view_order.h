@@ -25,6 +25,8 @@ class ViewOrder {
   /// column again turns the order round, and a third time leads back to that of the rows.
   void sort_by(std::size_t column, std::size_t rows,
                const std::function<std::string(std::size_t row)>& text);
+  /// By the same column in the same direction, whose texts are others now.
+  void sort_again(std::size_t rows, const std::function<std::string(std::size_t row)>& text);
   void row_added(std::size_t row);
   void row_removed(std::size_t row);
 

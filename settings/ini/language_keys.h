@@ -217,6 +217,9 @@ inline constexpr std::array kLanguageKeys = {
     LanguageKey{"Import_Button_Details", "Details"},
     LanguageKey{"Import_Msg_NoTraceLog",
                 "Eine Datei mit dem Fehler entsteht nur bei eingeschalteter Ablaufverfolgung:"},
+    LanguageKey{
+        "Import_Msg_TraceNotWritten",
+        u8"Die Ablaufverfolgung ist eingeschaltet, aber diese Datei lässt sich nicht schreiben:"_de},
     LanguageKey{"Import_Label_QuestionOf", "%1 von %2"},
     LanguageKey{"Import_Label_RowOf", "Zeile %1 von %2"},
     LanguageKey{"Import_Label_AnswerOne",

@@ -127,6 +127,19 @@ TEST_F(LastPage, FaultyBookLineStopsTheImportBeforeAnythingIsWritten) {
   EXPECT_EQ(book(), std::string(kOldLine) + line("Huber", "0897654321"));
 }
 
+TEST_F(LastPage, ATraceWithoutItsFolderIsNamedInsteadOfTheSwitchThatIsOn) {
+  machine.files.put("C:\\Quenda\\Quendaspec.ini", "[Debug]\r\nTraceMode=1\r\n");
+  machine.files.refuse_writing("C:\\Quenda\\log\\trace.log", kFaultPathNotFound);
+  machine.files.put(kBookPath, "Kurz;0305\r\n");
+  enter();
+  forward();
+  machine.dialogs.more.on_click();
+  EXPECT_TRUE(
+      last_box().ends_with(u8"eingeschaltet, aber diese Datei lässt sich nicht schreiben:\r\n"
+                           u8"C:\\Quenda\\log\\trace.log"_de))
+      << last_box();
+}
+
 TEST_F(LastPage, BookWithLineFeedsOnlyIsReadAndWrittenWithCrLf) {
   machine.files.put(kBookPath, "A;1;0;0;0;0;;;[vcd()vcd]\nB;2;0;0;0;0;;;[vcd(x\ny)vcd]\n");
   enter();

@@ -54,8 +54,12 @@ TEST_F(ReportDialog, TellsOfEveryNumberAndShowsTheOnesOfOneFate) {
                concat("5|Falk|0405550199|R\xFC", "ckfrage|die Nummer ist unter anderem Namen ",
                       "da: Sie werden gefragt (im Telefonbuch: \"Alt\")"),
                "6|Ida|0305550302|entfernt|von Ihnen aus der Liste genommen"}));
+    EXPECT_EQ(dialog.labReason.caption(), "neu: wird in das Telefonbuch aufgenommen");
+    dialog.lstReport.take_user_select(1);
+    EXPECT_EQ(dialog.labReason.caption(), "ohne Rufnummer: keine Rufnummer in der Spalte");
     EXPECT_EQ(dialog.cmbFate.items().at(3), "wiederholt (1)");
     dialog.cmbFate.take_user_index(3);
+    EXPECT_THAT(dialog.labReason.caption(), HasSubstr("(Zeile 2)"));
     EXPECT_THAT(lines(dialog), testing::ElementsAre(HasSubstr("wiederholt")));
     dialog.lstReport.take_user_copy();
     dialog.cmdClose.take_user_click();

@@ -136,5 +136,31 @@ TEST_F(Results, DoubtfulNumbersAreMarked) {
   EXPECT_EQ(form->lstImpFinal.order().row_at(0), 3U);
 }
 
+TEST_F(Results, RowsSortedByThemFollowThem) {
+  machine.files.put(kBookPath, kBook);
+  enter();
+  tick();
+  form->lstImpFinal.take_user_heading(3);
+  const auto seen = [&] {
+    Texts texts;
+    for (std::size_t at = 0; at < 3; ++at) {
+      texts.push_back(results().at(form->lstImpFinal.order().row_at(at)));
+    }
+    return texts;
+  };
+  form->lstImpFinal.select(0);
+  form->optAsk(2).take_user_click();
+  tick();
+  EXPECT_EQ(seen(), (Texts{"beh\xE4lt \"Alt\"", "neu", "schon vorhanden"}));
+  form->optAsk(1).take_user_click();
+  tick();
+  EXPECT_EQ(seen(), (Texts{"ersetzt \"Alt\"", "neu", "schon vorhanden"}));
+  form->lstImpFinal.select(1);
+  form->cmdDel.take_user_click();
+  tick();
+  EXPECT_EQ(form->lstImpFinal.order().row_at(1), 1U);
+  EXPECT_EQ(form->lstImpFinal.cell(0, 0), "Neu") << "the rows themselves keep their order";
+}
+
 }  // namespace
 }  // namespace quenda

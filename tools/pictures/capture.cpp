@@ -4,7 +4,10 @@
 // gdiplus.h needs objidl.h first.
 #include <gdiplus.h>
 
+#include <algorithm>
+#include <cstring>
 #include <optional>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -35,29 +38,61 @@ class Graphics {
 /// What the screen shows at a place.
 class Picture {
  public:
-  explicit Picture(const RECT& place) {
-    const int width = static_cast<int>(place.right - place.left);
-    const int height = static_cast<int>(place.bottom - place.top);
+  explicit Picture(const RECT& place)
+      : width_(static_cast<int>(place.right - place.left)),
+        height_(static_cast<int>(place.bottom - place.top)) {
     const WindowDc screen(nullptr);
     const MemoryDc memory(CreateCompatibleDC(screen.get()));
-    bitmap_.reset(CreateCompatibleBitmap(screen.get(), width, height));
+    bitmap_.reset(CreateCompatibleBitmap(screen.get(), width_, height_));
     {
       const Selected selected(memory.get(), bitmap_.get());
-      BitBlt(memory.get(), 0, 0, width, height, screen.get(), place.left, place.top, SRCCOPY);
+      BitBlt(memory.get(), 0, 0, width_, height_, screen.get(), place.left, place.top, SRCCOPY);
     }
     BITMAPINFO layout{};
-    layout.bmiHeader = {sizeof(BITMAPINFOHEADER), width, height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-    colors_.resize(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
-    GetDIBits(memory.get(), bitmap_.get(), 0, static_cast<UINT>(height), colors_.data(), &layout,
+    layout.bmiHeader = {sizeof(BITMAPINFOHEADER), width_, -height_, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+    colors_.resize(static_cast<std::size_t>(width_) * static_cast<std::size_t>(height_));
+    GetDIBits(memory.get(), bitmap_.get(), 0, static_cast<UINT>(height_), colors_.data(), &layout,
               DIB_RGB_COLORS);
   }
 
   [[nodiscard]] bool shows_the_same(const Picture& other) const { return colors_ == other.colors_; }
-  [[nodiscard]] HBITMAP bitmap() const { return bitmap_.get(); }
+  /// As a PNG file, with a palette where that holds all colours: it takes half of the space.
+  [[nodiscard]] bool save(const std::string& path) const {
+    const Graphics graphics;
+    std::vector<DWORD> palette = colors_;
+    std::sort(palette.begin(), palette.end());
+    palette.erase(std::unique(palette.begin(), palette.end()), palette.end());
+    const auto write = [&](Gdiplus::Bitmap& image) {
+      return image.Save(wide(path).c_str(), &kPngEncoder, nullptr) == Gdiplus::Ok;
+    };
+    if (palette.size() > kMostColors) {
+      Gdiplus::Bitmap image(bitmap_.get(), nullptr);
+      return write(image);
+    }
+    const int stride = (width_ + 3) / 4 * 4;  // lines begin at multiples of four
+    std::vector<BYTE> places(static_cast<std::size_t>(stride) * static_cast<std::size_t>(height_));
+    for (std::size_t at = 0; at < colors_.size(); ++at) {
+      const auto found = std::lower_bound(palette.begin(), palette.end(), colors_[at]);
+      const std::size_t line = at / static_cast<std::size_t>(width_);
+      places[line * static_cast<std::size_t>(stride) + at % static_cast<std::size_t>(width_)] =
+          static_cast<BYTE>(found - palette.begin());
+    }
+    std::vector<DWORD> listed = {0, static_cast<DWORD>(palette.size())};  // flags, count
+    for (const DWORD color : palette) listed.push_back(color | kOpaque);
+    Gdiplus::Bitmap image(width_, height_, stride, PixelFormat8bppIndexed, places.data());
+    static_assert(sizeof(Gdiplus::ColorPalette) == 3 * sizeof(DWORD));
+    image.SetPalette(reinterpret_cast<const Gdiplus::ColorPalette*>(listed.data()));
+    return write(image);
+  }
 
  private:
+  static constexpr std::size_t kMostColors = 256;
+  static constexpr DWORD kOpaque = 0xFF000000;
+
+  int width_;
+  int height_;
   Bitmap bitmap_;
-  std::vector<DWORD> colors_;
+  std::vector<DWORD> colors_;  // line by line from the top, 0x00RRGGBB
 };
 
 }  // namespace
@@ -74,9 +109,7 @@ bool capture(const Window& window, const std::string& path) {
     return before && before->shows_the_same(*last);
   });
   if (!still) return false;
-  const Graphics graphics;
-  Gdiplus::Bitmap image(last->bitmap(), nullptr);
-  return image.Save(wide(path).c_str(), &kPngEncoder, nullptr) == Gdiplus::Ok;
+  return last->save(path);
 }
 
 }  // namespace quenda

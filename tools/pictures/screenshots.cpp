@@ -1,8 +1,11 @@
 // Walks a sample import through the whole wizard and leaves a picture of every page and dialog.
-// Usage: screenshots FOLDER [LANGUAGE [MARK]]; the mark becomes part of the file names.
+// Usage: screenshots FOLDER [LANGUAGE [MARK [NAME...]]]; the mark becomes part of the file names.
+// With names, only those of the one import through all pages are left.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
+#include <vector>
 
 #include "platform/win32/text_win32.h"
 #include "text/text.h"
@@ -17,6 +20,7 @@ struct Options {
   std::string folder = "out";
   std::string language = "de";
   std::string mark = "96";
+  std::vector<std::string> names;  // empty for all
 };
 
 Options& options() {
@@ -56,6 +60,8 @@ class Screenshots : public WizardTest {
   }
 
   static void keep(const Window& window, std::string_view name) {
+    const auto& names = options().names;
+    if (!names.empty() && std::find(names.begin(), names.end(), name) == names.end()) return;
     const std::string file =
         concat(options().folder, "\\", options().language, "_", options().mark, "_", name, ".png");
     EXPECT_TRUE(capture(window, file)) << file;
@@ -169,5 +175,11 @@ int main(int count, char** words) {
   if (count > 1) options.folder = words[1];
   if (count > 2) options.language = words[2];
   if (count > 3) options.mark = words[3];
+  if (count > 4) {
+    options.names.assign(words + 4, words + count);
+    testing::GTEST_FLAG(filter) = "*EveryPageAndDialog";
+  }
+  // Each press waits for it; the setting is not stored.
+  quenda::set_double_click_time(120);
   return RUN_ALL_TESTS();
 }
