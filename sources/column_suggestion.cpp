@@ -172,20 +172,26 @@ NameStandIns name_stand_ins(const std::vector<std::string>& header) {
           find_named(readable, {"Firma", "Company", "Organisation", "Organization"})};
 }
 
-std::vector<UnchosenNumbers> unchosen_numbers(const std::vector<std::string>& header,
-                                              const RecordTable& records, char delimiter,
-                                              const std::vector<std::size_t>& chosen) {
-  std::vector<UnchosenNumbers> unchosen;
+std::vector<ColumnNumbers> count_numbers(const std::vector<std::string>& header,
+                                         const RecordTable& records, char delimiter) {
+  std::vector<ColumnNumbers> numbers;
   const auto layout = find_export_layout(header);
-  if (!layout) return unchosen;
+  if (!layout) return numbers;
   const Columns filled = filled_cells(records, delimiter, header.size());
+  const std::vector<std::string> headings = readable_headings(header);
   for (const ExportLayout::Number& number : layout->numbers) {
-    const bool taken = std::find(chosen.begin(), chosen.end(), number.column) != chosen.end();
-    if (!taken && filled[number.column] > 0) {
-      unchosen.push_back({readable_headings(header)[number.column], filled[number.column]});
-    }
+    const std::size_t column = number.column;
+    if (filled[column] > 0) numbers.push_back({column, headings[column], filled[column]});
   }
-  return unchosen;
+  return numbers;
+}
+
+std::vector<ColumnNumbers> unchosen_numbers(std::vector<ColumnNumbers> numbers,
+                                            const std::vector<std::size_t>& chosen) {
+  std::erase_if(numbers, [&](const ColumnNumbers& in) {
+    return std::find(chosen.begin(), chosen.end(), in.column) != chosen.end();
+  });
+  return numbers;
 }
 
 }  // namespace quenda

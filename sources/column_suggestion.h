@@ -12,8 +12,9 @@
 // Which columns of a known export are names, numbers and addresses.
 namespace quenda {
 
-/// Numbers that stand in columns nobody chose.
-struct UnchosenNumbers {
+/// The numbers that stand in one column of a known export.
+struct ColumnNumbers {
+  std::size_t column = 0;
   std::string heading;
   std::size_t count = 0;
 };
@@ -48,9 +49,13 @@ std::optional<ColumnSuggestion> suggest_columns(const std::vector<std::string>& 
 /// What stands in for a name: of a known export its own columns, else those that are called so.
 NameStandIns name_stand_ins(const std::vector<std::string>& header);
 
-/// How many numbers stand in the columns of a known export that are not among the chosen ones.
-std::vector<UnchosenNumbers> unchosen_numbers(const std::vector<std::string>& header,
-                                              const RecordTable& records, char delimiter,
-                                              const std::vector<std::size_t>& chosen);
+/// How many numbers stand in each number column of a known export; columns without any are left
+/// out.
+std::vector<ColumnNumbers> count_numbers(const std::vector<std::string>& header,
+                                         const RecordTable& records, char delimiter);
+
+/// Those that stand in columns nobody chose.
+std::vector<ColumnNumbers> unchosen_numbers(std::vector<ColumnNumbers> numbers,
+                                            const std::vector<std::size_t>& chosen);
 
 }  // namespace quenda

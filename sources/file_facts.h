@@ -35,6 +35,7 @@ struct FileFacts {
   char sep_delimiter = 0;  // the one it names, 0 for none that the tool knows
   bool labelled = false;   // the kind of each number stands in a column of its own
   bool nul_bytes = false;  // in a text that is not UTF-16
+  bool odd_cells = false;  // fields that lose something (has_cells_to_adapt), once that was asked
   std::string sample;      // a word with a letter beyond ASCII, as its bytes stand in the file
 
   [[nodiscard]] bool is_utf16() const {

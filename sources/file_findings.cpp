@@ -121,13 +121,14 @@ std::string finding_text(std::string_view text, const std::vector<std::string>& 
 }
 
 bool is_adaptable(const FileFacts& facts) {
-  return facts.readable() && (facts.mark || !adaptations(facts).empty());
+  return facts.readable() && (facts.mark || facts.odd_cells || !adaptations(facts).empty());
 }
 
 std::vector<Finding> file_findings(const FileFacts& facts, bool convert) {
   std::vector<Finding> findings;
   if (const std::string_view key = kind_key(facts.kind); !key.empty()) return {{key, {}}};
   if (convert) {
+    if (facts.odd_cells) return {{"Import_File_CellsAdapted", {}}};
     if (is_adaptable(facts)) findings.push_back({"Import_File_Adapted", {adaptations(facts)}});
     return findings;
   }
@@ -141,6 +142,7 @@ std::vector<Finding> file_findings(const FileFacts& facts, bool convert) {
   }
   if (facts.sep_line) findings.push_back({"Import_File_SepLine", {}});
   if (facts.nul_bytes) findings.push_back({"Import_File_NulBytes", {}});
+  if (facts.odd_cells) findings.push_back({"Import_File_Cells", {}});
   return findings;
 }
 
@@ -188,11 +190,11 @@ std::vector<Finding> loss_findings(const LostCharacters& losses, const SourceLin
   return findings;
 }
 
-std::vector<Finding> unchosen_findings(const std::vector<UnchosenNumbers>& unchosen) {
+std::vector<Finding> unchosen_findings(const std::vector<ColumnNumbers>& unchosen) {
   if (unchosen.empty()) return {};
   std::size_t count = 0;
   std::string headings;
-  for (const UnchosenNumbers& numbers : unchosen) {
+  for (const ColumnNumbers& numbers : unchosen) {
     count += numbers.count;
     if (!headings.empty()) headings += ", ";
     headings += numbers.heading;

@@ -40,6 +40,6 @@ std::vector<Finding> table_findings(const TableFacts& facts, const SourceLines& 
 std::vector<Finding> loss_findings(const LostCharacters& losses, const SourceLines& lines);
 
 /// Numbers that will not be taken since their columns are not chosen.
-std::vector<Finding> unchosen_findings(const std::vector<UnchosenNumbers>& unchosen);
+std::vector<Finding> unchosen_findings(const std::vector<ColumnNumbers>& unchosen);
 
 }  // namespace quenda

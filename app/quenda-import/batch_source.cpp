@@ -84,17 +84,15 @@ void BatchRun::choose_columns() {
     refuse(concat("Die Datei hat mehr als ", std::to_string(kMostFields), " Spalten."));
   }
   const ImportSource& source = main_.source;
-  const char delimiter = source.Delimiter.front();
   warn(table_findings(main_.table_facts(), source.lines));
   warn(loss_findings(source.losses, source.lines));
   if (options_.auto_columns) {
     if (!main_.take_suggestion()) {
       refuse(u8"Die Kopfzeile der Datei ist von keinem bekannten Export (--columns auto)."_de);
     }
-    const std::vector<UnchosenNumbers> unchosen = unchosen_numbers(
-        main_.header(), source.ImportRows, delimiter, main_.ColumnPage::choice().numbers);
+    const std::vector<ColumnNumbers> unchosen = main_.unchosen_numbers();
     warn(unchosen_findings(unchosen));
-    for (const UnchosenNumbers& column : unchosen) {
+    for (const ColumnNumbers& column : unchosen) {
       report_.head.unchosen.emplace_back(column.heading, column.count);
     }
   }

@@ -16,6 +16,9 @@ inline constexpr std::array kFileReportKeys = {
     // What is going to be adapted: "UTF-8, LF".
     LanguageKey{"Import_File_Adapted", "Die Datei wird beim Einlesen angepasst (%1)."},
     LanguageKey{"Import_File_Besides", u8"Außerdem anzupassen: %1."_de},
+    LanguageKey{"Import_File_CellsAdapted",
+                u8"Fehlende Namen werden ersetzt, Felder mit mehreren Nummern oder Zusätzen "
+                u8"angepasst."_de},
     // What would come out wrong.
     LanguageKey{"Import_File_Utf8",
                 u8"Die Datei ist in UTF-8 geschrieben: Umlaute kämen falsch an."_de},
@@ -40,6 +43,9 @@ inline constexpr std::array kFileReportKeys = {
         u8"Die erste Zeile nennt das Trennzeichen (\"sep=\"): Sie käme als Kopfzeile an."_de},
     LanguageKey{"Import_File_NulBytes",
                 u8"Die Datei enthält NUL-Zeichen: Sie ist vielleicht beschädigt."_de},
+    LanguageKey{"Import_File_Cells",
+                u8"Manche Kontakte kämen nicht richtig an: Namen fehlen, oder Felder haben "
+                u8"mehrere Nummern oder Zusätze."_de},
     LanguageKey{"Import_File_Vcard",
                 u8"Die Datei enthält Kontakte als vCard: Sie müssen beim Einlesen angepasst "
                 u8"werden."_de},

@@ -67,6 +67,8 @@ class SourcePage : public WizardPage {
   /// Whether all of it could be read.
   bool read_file(const std::string& path);
   bool detect_delimiter();
+  /// Finds out whether the fields of a file want adapting that has nothing else to adapt.
+  void look_at_cells();
   void show_facts();
   void build_converted();
   void show_detection(bool failed);

@@ -7,6 +7,7 @@
 
 #include "platform/files.h"
 #include "settings/app.h"
+#include "sources/cell_findings.h"
 #include "sources/delimited_text.h"
 #include "sources/file_conversion.h"
 #include "sources/file_findings.h"
@@ -52,6 +53,7 @@ void SourcePage::txtImpFile_Change() {
     if (!source.IsISpyFile) {
       status.set_panel(2, shell_.texts["Import_Info_GetDelimiter"]);
       delimiter_found = detect_delimiter();
+      look_at_cells();
       source.FileChecked = true;
     }
     show_facts();
@@ -85,6 +87,15 @@ bool SourcePage::detect_delimiter() {
     shell_.ObjectEnable(false, cmbLimiter);
   }
   return found;
+}
+
+void SourcePage::look_at_cells() {
+  FileFacts& facts = shell_.source.facts;
+  // Where all of the file is adapted anyway, its fields are, too.
+  const int chosen = cmbLimiter.list_index();
+  if (!file_read_ || chosen < 0 || facts.kind != FileKind::kTable || is_adaptable(facts)) return;
+  const char delimiter = kDelimiters.at(static_cast<std::size_t>(chosen));
+  facts.odd_cells = has_cells_to_adapt(*shell_.source.ImportText, delimiter);
 }
 
 bool SourcePage::converts() const {

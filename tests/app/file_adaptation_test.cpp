@@ -104,6 +104,35 @@ TEST_F(FileAdaptation, WithTheTickAWorkbookIsNotReadAsText) {
   EXPECT_TRUE(form->cmdFor.enabled()) << "as it always was";
 }
 
+TEST_F(FileAdaptation, AKnownExportWithOddFieldsCanBeAdapted) {
+  constexpr std::string_view kOdd =
+      "Vorname;Nachname;Firma;Telefon (privat);Mobiltelefon;Telefon Firma;Pager\r\n"
+      "Ida;Falk;;030 5550301;0171 5550302;;030 5550305\r\n"
+      ";;Falk KG;030 5550303 (Zentrale);;030 5550304;\r\n";
+  start();
+  take_file(kOdd);
+  ASSERT_TRUE(form->chkConvert.visible());
+  EXPECT_NE(form->labFacts.caption().find("Namen fehlen"), std::string::npos);
+  form->chkConvert.take_user_click();
+  EXPECT_NE(form->labFacts.caption().find("Fehlende Namen"), std::string::npos);
+  forward();
+  form->cmdSuggest.take_user_click();
+  EXPECT_EQ(form->labTable.caption(), "1 Nummer in 1 weiteren Spalte: Pager");
+  EXPECT_TRUE(form->labTable.visible());
+  form->lstHeader(1).take_user_selection(3, false);
+  EXPECT_EQ(form->labTable.caption(), "3 Nummern in 2 weiteren Spalten: Telefon (privat), Pager");
+  form->lstHeader(1).take_user_selection(5, false);
+  form->lstHeader(1).take_user_selection(3, true);
+  form->lstHeader(1).take_user_selection(6, true);
+  EXPECT_EQ(form->labTable.caption(), "1 Nummer in 1 weiteren Spalte: Telefon Firma");
+  forward();
+  forward();
+  forward();
+  EXPECT_EQ(rows(), (Texts{"Falk Ida (privat)|0305550301|", "Falk Ida (mobil)|01715550302|",
+                           "Falk Ida|0305550305|", "Falk KG (privat)|0305550303|"}))
+      << "suffixes stay with the rows";
+}
+
 TEST_F(FileAdaptation, EmptyCardsAreCalledSo) {
   start();
   take_file("BEGIN:VCARD\nVERSION:3.0\nEND:VCARD\nBEGIN:VCARD\nN:;;;;\nEND:VCARD\n");

@@ -142,7 +142,7 @@ TEST(UnchosenNumbers, AreCountedByColumn) {
   const auto chosen = suggest_columns(file.header, file.records, file.delimiter);
   ASSERT_TRUE(chosen);
   const auto unchosen =
-      unchosen_numbers(file.header, file.records, file.delimiter, chosen->numbers);
+      unchosen_numbers(count_numbers(file.header, file.records, file.delimiter), chosen->numbers);
   ASSERT_EQ(unchosen.size(), 1U);
   EXPECT_EQ(unchosen[0].heading, "Weiteres Telefon");
   EXPECT_EQ(unchosen[0].count, 1U);

@@ -81,7 +81,7 @@ TEST(OtherFindings, TellWhatIsLeftOut) {
       told(loss_findings(losses, lines)),
       u8"2 Zeichen wurden durch ähnliche ersetzt (Zeile 3).\n2 Zeichen gingen verloren (Zeile "
       u8"6).\n"_de);
-  EXPECT_EQ(told(unchosen_findings({{"Weiteres Telefon", 9}, {"Pager", 3}})),
+  EXPECT_EQ(told(unchosen_findings({{0, "Weiteres Telefon", 9}, {1, "Pager", 3}})),
             "12 Nummern in 2 weiteren Spalten: Weiteres Telefon, Pager\n");
   LostCharacters single;
   single.count_changed(1);
@@ -89,8 +89,8 @@ TEST(OtherFindings, TellWhatIsLeftOut) {
   EXPECT_EQ(told(loss_findings(single, lines)),
             u8"1 Zeichen wurde durch ein ähnliches ersetzt (Zeile 3).\n"
             u8"1 Zeichen ging verloren (Zeile 3).\n"_de);
-  EXPECT_EQ(told(unchosen_findings({{"Pager", 2}})), "2 Nummern in 1 weiteren Spalte: Pager\n");
-  EXPECT_EQ(told(unchosen_findings({{"Pager", 1}})), "1 Nummer in 1 weiteren Spalte: Pager\n");
+  EXPECT_EQ(told(unchosen_findings({{0, "Pager", 2}})), "2 Nummern in 1 weiteren Spalte: Pager\n");
+  EXPECT_EQ(told(unchosen_findings({{0, "Pager", 1}})), "1 Nummer in 1 weiteren Spalte: Pager\n");
   EXPECT_TRUE(unchosen_findings({}).empty());
 }
 

@@ -60,6 +60,10 @@ constexpr DesignRow<ColumnPage> kDesign[] = {
      .down = Anchor::kBoth},
 };
 
+/// What there is to say about the records, beside the button of the suggestion or in its place.
+constexpr Place kBesideButton = {2650, 2460, 5140, 255};
+constexpr Place kBesideNothing = {2650, 2460, kPageWidth - 2650, 255};
+
 /// Below the page, shared with the next one.
 constexpr DesignRow<ColumnPage> kPreviewDesign[] = {
     {.control = control_at<&ColumnPage::labShow>,
@@ -67,7 +71,7 @@ constexpr DesignRow<ColumnPage> kPreviewDesign[] = {
      .tab = 100,
      .caption = "Import_Label_PreviewData"},
     {.control = control_at<&ColumnPage::labTable>,
-     .place = {2650, 2460, 5140, 255},
+     .place = kBesideButton,
      .across = Anchor::kBoth,
      .down = Anchor::kShareStart},
     {.control = control_at<&ColumnPage::cmdSuggest>,
@@ -143,6 +147,7 @@ void ColumnPage::show_below_lists() {
   const bool shown = shell_.wizard.CurrentPage == Page::kColumns;
   labTable.set_visible(shown && !labTable.caption().empty());
   cmdSuggest.set_visible(shown && suggestion_offered_);
+  labTable.set_place(suggestion_offered_ ? kBesideButton : kBesideNothing);
 }
 
 bool ColumnPage::can_go_on() const {

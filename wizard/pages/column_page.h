@@ -60,6 +60,8 @@ class ColumnPage : public WizardPage {
   std::function<void(const ColumnSuggestion& suggestion)> on_suggestion;
   /// Told of the choice made before for this header: what it says about the pages after this one.
   std::function<void(const HeaderChoice& choice)> on_remembered;
+  /// The numbers of a file whose suggestion was taken that stand in columns which are not chosen.
+  [[nodiscard]] std::vector<ColumnNumbers> unchosen_numbers() const;
   /// The column names of the file.
   [[nodiscard]] const std::vector<std::string>& header() const { return header_; }
   /// What the records of the file whose header is shown say about themselves.
@@ -89,6 +91,7 @@ class ColumnPage : public WizardPage {
   std::vector<std::string> header_;
   std::optional<TableFacts> table_facts_;
   bool suggestion_offered_ = false;
+  std::vector<ColumnNumbers> numbers_;  // of the file, once its suggestion was taken
 };
 
 }  // namespace quenda

@@ -63,6 +63,7 @@ void ColumnPage::ImpHeader() {
     header_.clear();
     table_facts_.reset();
     suggestion_offered_ = false;
+    numbers_.clear();
     const std::string_view header_record = source.ImportRows[0];
     if (header_record.find(source.Delimiter) == header_record.npos) {
       return refuse_file(concat(texts["Import_Info_NoDelimiterFound"], kCrLf,
@@ -159,6 +160,7 @@ void ColumnPage::show_table_facts() {
       text += text_of(app_, finding);
     }
   };
+  add(unchosen_findings(unchosen_numbers()));
   add(table_findings(table_facts(), source.lines));
   add(loss_findings(source.losses, source.lines));
   labTable.set_caption(text);
@@ -203,10 +205,16 @@ bool ColumnPage::take_suggestion() {
                     suggestion->addresses[1]});
     if (on_suggestion) on_suggestion(*suggestion);
     suggestion_offered_ = false;
+    numbers_ = count_numbers(header_, shell_.source.ImportRows, shell_.source.Delimiter.front());
+    show_table_facts();
     show_below_lists();
     taken = true;
   }).or_go_on();
   return taken;
+}
+
+std::vector<ColumnNumbers> ColumnPage::unchosen_numbers() const {
+  return quenda::unchosen_numbers(numbers_, chosen_columns(kNumbers));
 }
 
 void ColumnPage::lstHeader_Click(int index) {
@@ -218,6 +226,10 @@ void ColumnPage::lstHeader_Click(int index) {
     } else if (list.selected_count() > kMostColumns.at(kind)) {
       // One address column too many: the entry just selected gives way.
       list.set_selected(list.list_index(), false);
+    }
+    if (kind == kNumbers && !numbers_.empty()) {
+      show_table_facts();
+      show_below_lists();
     }
     ListColor();
   }).or_go_on();
