@@ -30,6 +30,13 @@ class ChangeBuilder {
     }
   }
 
+  /// The line of an entry that is new.
+  void add_new_line(std::string_view name_and_number, std::string_view address) {
+    std::string& block = block_with_room(book_line_size(name_and_number, address));
+    append_new_book_line(block, name_and_number, address);
+    if (in_front_) compare_with_old(block);
+  }
+
   void add_line(const BookEntry& entry) {
     std::string& block = block_with_room(book_line_size(entry));
     append_book_line(block, entry);
@@ -89,7 +96,11 @@ BookChange compose_book(std::string_view old_text, const BookList& list,
       change.add_run(list.start(first), list.start(i));
       continue;
     }
-    if (list.written(i)) change.add_line(list.entry(i));
+    if (list.is_new(i)) {
+      change.add_new_line(list.name_and_number(i), list.contact(i).address);
+    } else if (list.written(i)) {
+      change.add_line(list.entry(i));
+    }
     on_step(++i, total);
   }
   return change.finish();

@@ -13,14 +13,10 @@
 namespace quenda {
 namespace {
 
-constexpr std::string_view kCardOpen = "[vcd(";
-constexpr std::string_view kCardClose = ")vcd]";
-constexpr std::size_t kFields = 8;
+constexpr std::size_t kMostBesidesTexts = 64;  // separators, flags, count, marks of the card
 
-using Fields = std::array<std::string_view, kFields>;
-
-Fields split_fields(std::string_view line) {
-  Fields fields;
+BookFields split_fields(std::string_view line) {
+  BookFields fields;
   PlaceFinder separators(line, ';');
   std::size_t start = 0;
   for (std::string_view& field : fields) {
@@ -30,29 +26,6 @@ Fields split_fields(std::string_view line) {
     start = end + 1;
   }
   return fields;
-}
-
-/// Splits a line of the usual form, as the tool writes it: eight fields, then a card block that
-/// ends the line, and no mark of a card elsewhere. False for any other line.
-bool split_usual_line(std::string_view line, Fields& fields) {
-  PlaceFinder marks(line, ';', '[', ')');
-  std::size_t start = 0;
-  std::size_t mark = 0;
-  const auto is_at_mark = [&](std::string_view card_mark) {
-    return line.substr(mark).starts_with(card_mark);
-  };
-  for (std::string_view& field : fields) {
-    do {
-      mark = marks.next();
-      if (mark == line.size() || is_at_mark(kCardOpen) || is_at_mark(kCardClose)) return false;
-    } while (line[mark] != ';');
-    field = line.substr(start, mark - start);
-    start = mark + 1;
-  }
-  mark = marks.next();
-  if (mark != start || !is_at_mark(kCardOpen)) return false;
-  while (mark < line.size() && !is_at_mark(kCardClose)) mark = marks.next();
-  return mark + kCardClose.size() == line.size();
 }
 
 /// A card block ends at the first closing mark after its opening; one that only has a closing mark
@@ -114,18 +87,21 @@ BookEntry read_book_line(std::string_view line) {
   return entry;
 }
 
-ExaminedLine examine_book_line(std::string_view line) {
-  Fields fields;
-  const bool usual = split_usual_line(line, fields);
-  if (!usual) fields = split_fields(line);
+ExaminedLine examine_fields(const BookFields& fields, bool ends_plainly) {
   const bool plain = plain_flag(fields[3]) && plain_count(fields[4]) && plain_flag(fields[5]);
   if (!plain) {
     to_boolean(fields[3]);
     to_int16(fields[4]);
     to_boolean(fields[5]);
   }
-  const bool ends_plainly = usual ? fields[7].empty() : plain_end(line, fields[7]);
   return {fields[1], plain && ends_plainly};
+}
+
+ExaminedLine examine_book_line(std::string_view line) {
+  const BookFields fields = split_fields(line);
+  ExaminedLine examined = examine_fields(fields, true);
+  examined.plain = plain_end(line, fields.back()) && examined.plain;
+  return examined;
 }
 
 std::string_view book_line_number(std::string_view text) {
@@ -144,9 +120,12 @@ BookContact book_line_contact(std::string_view text) {
 }
 
 std::size_t book_line_size(const BookEntry& entry) {
-  constexpr std::size_t kMostBesidesTexts = 64;  // separators, flags, count, marks of the card
   return entry.Name.size() + entry.Number.size() + entry.Tag.size() + entry.Address.size() +
          entry.CardData.size() + kMostBesidesTexts;
+}
+
+std::size_t book_line_size(std::string_view name_and_number, std::string_view address) {
+  return name_and_number.size() + address.size() + kMostBesidesTexts;
 }
 
 void append_book_line(std::string& text, const BookEntry& entry) {
@@ -156,6 +135,13 @@ void append_book_line(std::string& text, const BookEntry& entry) {
   append_pieces(text, {entry.Name, ";", entry.Number, ";", entry.Tag, ";", flag_text(entry.Flag1),
                        ";", count, ";", flag_text(entry.Flag2), ";", entry.Address, ";;", kCardOpen,
                        entry.CardData, kCardClose, kCrLf});
+}
+
+void append_new_book_line(std::string& text, std::string_view name_and_number,
+                          std::string_view address) {
+  constexpr std::string_view kBetween = ";0;0;0;0;";
+  constexpr std::string_view kEnd = ";;[vcd()vcd]\r\n";
+  text.append(name_and_number).append(kBetween).append(address).append(kEnd);
 }
 
 }  // namespace quenda

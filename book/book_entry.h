@@ -1,11 +1,19 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
 
 namespace quenda {
+
+/// What a contact card stands between.
+inline constexpr std::string_view kCardOpen = "[vcd(";
+inline constexpr std::string_view kCardClose = ")vcd]";
+
+/// The fields of a line: name, number, tag, first flag, count, second flag, address, extra.
+using BookFields = std::array<std::string_view, 8>;
 
 /// One entry of the phone book. The texts are views into the text that the entry was read from.
 struct BookEntry {
@@ -32,6 +40,9 @@ struct ExaminedLine {
 
 /// Looks a line over without making an entry of it; the faults are those of `read_book_line`.
 ExaminedLine examine_book_line(std::string_view line);
+/// The same for a line that is split already. `ends_plainly`: nothing stands behind the address but
+/// an empty field and the card.
+ExaminedLine examine_fields(const BookFields& fields, bool ends_plainly);
 
 /// What two entries of one number are compared by.
 struct BookContact {
@@ -45,10 +56,14 @@ BookContact book_line_contact(std::string_view text);
 
 /// Bytes that the entry's line has at most.
 std::size_t book_line_size(const BookEntry& entry);
+std::size_t book_line_size(std::string_view name_and_number, std::string_view address);
 
 /// Adds the entry's line, with its CR LF, to the text. `Extra` is not written: the tool leaves that
 /// field empty whatever the book held there. Nothing is escaped; a ";" inside a text shifts the
 /// fields of the line.
 void append_book_line(std::string& text, const BookEntry& entry);
+/// The same for an entry that has nothing but name, number and address.
+void append_new_book_line(std::string& text, std::string_view name_and_number,
+                          std::string_view address);
 
 }  // namespace quenda

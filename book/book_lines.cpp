@@ -1,13 +1,11 @@
 #include <algorithm>
 
+#include "book/book_entry.h"
 #include "book/book_lines.h"
 #include "text/text.h"
 
 namespace quenda {
 namespace {
-
-constexpr std::string_view kCardOpen = "[vcd(";
-constexpr std::string_view kCardClose = ")vcd]";
 
 /// The end of the card block that opens at a place; npos when it is not closed before the next one
 /// opens.

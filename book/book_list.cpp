@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "book/book_scanner.h"
 #include "book/entry_list.h"
 #include "text/text.h"
 #include "text/view_index.h"
@@ -14,7 +15,7 @@ void BookList::read_book(std::string_view& line, const OnStep& on_step) {
   hashes_.reserve(lines + rows_.rows());
   marks_.reserve(lines + rows_.rows());
   const std::size_t line_end = end_ == LineEnd::kCrLf ? kCrLf.size() : 1;
-  BookLines reader(book_, end_);
+  BookScanner reader(book_, end_);
   std::size_t characters = 0;
   std::size_t next_start = 0;
   while (reader.next(line)) {
@@ -24,7 +25,7 @@ void BookList::read_book(std::string_view& line, const OnStep& on_step) {
     // An empty line in front of it goes when the book is written.
     if (start != next_start && size() > 0) compose_last();
     next_start = start + line.size() + line_end;
-    const ExaminedLine read = examine_book_line(line);
+    const ExaminedLine read = reader.examined();
     add(read.number, read.plain && end_ == LineEnd::kCrLf ? Mark::kPlain : Mark::kComposed);
     places_.push_back(start);
     on_step(characters, book_.size());
@@ -76,6 +77,12 @@ std::string_view BookList::name(std::size_t entry) const {
   if (entry >= in_book_) return rows_.cell(row(entry), kEntryName);
   const std::string_view line = book_.substr(places_[entry]);
   return line.substr(0, line.find(';'));
+}
+
+std::string_view BookList::name_and_number(std::size_t entry) const {
+  const std::string_view line = rows_.line(row(entry));
+  const std::size_t behind = rows_.cell(row(entry), kEntryAddress).size() + 1;
+  return line.substr(0, line.size() - behind);
 }
 
 BookEntry BookList::entry(std::size_t entry) const {

@@ -41,6 +41,12 @@ class BookList {
   [[nodiscard]] std::string_view name(std::size_t entry) const;
   /// The line of an entry of the book, as it stands there.
   [[nodiscard]] std::string_view line(std::size_t entry) const;
+  /// Whether an entry is written as a row of the final list alone makes it.
+  [[nodiscard]] bool is_new(std::size_t entry) const {
+    return entry >= in_book_ && marks_[entry] == Mark::kComposed;
+  }
+  /// Name and number of a row, with the ";" between them.
+  [[nodiscard]] std::string_view name_and_number(std::size_t entry) const;
   /// The entry as it is written, with what it has taken over.
   [[nodiscard]] BookEntry entry(std::size_t entry) const;
 

@@ -74,15 +74,19 @@ void clean_number(std::string_view number, std::string_view own_country_code,
   const std::size_t size = 2 * number.size() + 1;
   if (size > few.size()) many.resize(size);
   char* const room = size > few.size() ? many.data() : few.data();
-  char* const first = room + 1;  // behind room for a leading "0"
+  char* first = room + 1;  // behind room for a leading "0"
   char* end = put_without_punctuation(number, first);
   const std::string_view all(first, static_cast<std::size_t>(end - first));
   if (!own_country_code.empty() && all.starts_with(own_country_code)) {
-    end = put_without(all, own_country_code, first);
+    // Further ones are rare.
+    first += own_country_code.size();
+    const std::string_view rest = all.substr(own_country_code.size());
+    if (rest.find(own_country_code) != rest.npos) {
+      end = put_without(rest, own_country_code, first);
+    }
   }
-  *room = '0';
-  const char* const start = end > first && *first == '0' ? first : room;
-  cleaned.assign(start, static_cast<std::size_t>(end - start));
+  if (end == first || *first != '0') *--first = '0';
+  cleaned.assign(first, static_cast<std::size_t>(end - first));
 }
 
 std::string clean_number(std::string_view number, std::string_view own_country_code) {

@@ -5,7 +5,6 @@
 #include <iterator>
 #include <utility>
 
-#include "text/fault.h"
 #include "text/place_finder.h"
 #include "text/text.h"
 
@@ -13,12 +12,6 @@ namespace quenda {
 
 RecordTable::RecordTable(std::shared_ptr<const std::string> text, std::vector<std::size_t> starts)
     : text_(std::move(text)), starts_(std::move(starts)) {}
-
-std::string_view RecordTable::operator[](std::size_t record) const {
-  if (record >= size()) raise_fault(kFaultIndexRange);
-  const std::size_t start = starts_[record];
-  return std::string_view(*text_).substr(start, starts_[record + 1] - kCrLf.size() - start);
-}
 
 void RecordTable::pad(std::size_t delimiters, std::size_t until) {
   padding_ = delimiters;
@@ -35,26 +28,31 @@ std::string RecordTable::padded_text(std::size_t record, char delimiter) const {
 
 void RecordFields::split(const RecordTable& table, std::size_t record, char delimiter,
                          std::size_t last) {
-  fields_.resize(std::max(fields_.size(), last + 1));
-  count_ = 0;
+  if (fields_.size() <= last) fields_.resize(last + 1);
   padded_ = table.padded_delimiters(record);
   const std::string_view text = table[record];
   PlaceFinder marks(text, delimiter, '"', '\r', '\n');
+  marks.allow_reading(table.from(record).size());
+  std::size_t count = 0;
   std::size_t start = 0;
-  RecordField field;
+  std::uint32_t quotes = 0;
+  bool breaks = false;
   bool more = true;
-  while (more && count_ <= last) {
+  while (more && count <= last) {
     const std::size_t mark = marks.next();
     more = mark < text.size();
     if (more && text[mark] != delimiter) {
-      (text[mark] == '"' ? field.quotes : field.breaks) = true;
+      const bool quote = text[mark] == '"';
+      quotes += quote ? 1 : 0;
+      breaks = breaks || !quote;
       continue;
     }
-    field.text = {text.data() + start, mark - start};
-    fields_[count_++] = field;
+    fields_[count++] = {text.substr(start, mark - start), quotes, breaks};
     start = mark + 1;
-    field = {};
+    quotes = 0;
+    breaks = false;
   }
+  count_ = count;
   has_delimiter_ = more || count_ > 1 || padded_ > 0;
 }
 

@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+#include "text/fault.h"
+
 namespace quenda {
 
 /// The records of a delimited file or the lines of a log: one text and the places where its records
@@ -23,7 +25,14 @@ class RecordTable {
   /// Bytes of all records and the line breaks between them.
   [[nodiscard]] std::size_t bytes() const { return starts_.empty() ? 0 : starts_.back(); }
   /// The record as it stands in the text, without what padding added. Fault 9 beyond the end.
-  [[nodiscard]] std::string_view operator[](std::size_t record) const;
+  [[nodiscard]] std::string_view operator[](std::size_t record) const {
+    return from(record).substr(0, starts_[record + 1] - kLineBreak - starts_[record]);
+  }
+  /// The whole text from the record's beginning on. Fault 9 beyond the end.
+  [[nodiscard]] std::string_view from(std::size_t record) const {
+    if (record >= size()) raise_fault(kFaultIndexRange);
+    return std::string_view(*text_).substr(starts_[record]);
+  }
 
   /// Gives the records before `until` at least `delimiters` delimiters. Nothing is copied: fields
   /// beyond a record's own text are then empty instead of missing.
@@ -36,6 +45,8 @@ class RecordTable {
   [[nodiscard]] std::string padded_text(std::size_t record, char delimiter) const;
 
  private:
+  static constexpr std::size_t kLineBreak = 2;  // bytes between records
+
   std::shared_ptr<const std::string> text_;
   std::vector<std::size_t> starts_;
   std::size_t padding_ = 0;
@@ -45,10 +56,10 @@ class RecordTable {
 /// A field as it stands in its record.
 struct RecordField {
   std::string_view text;
-  bool quotes = false;  // it has some
-  bool breaks = false;  // it has line breaks, or halves of them
+  std::uint32_t quotes = 0;  // how many it has
+  bool breaks = false;       // it has line breaks, or halves of them
 
-  [[nodiscard]] bool plain() const { return !quotes && !breaks; }
+  [[nodiscard]] bool plain() const { return quotes == 0 && !breaks; }
 };
 
 /// The fields of one record, split as far as asked for.

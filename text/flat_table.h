@@ -8,6 +8,8 @@
 #include <string_view>
 #include <vector>
 
+#include "text/fault.h"
+
 namespace quenda {
 
 /// Rows of texts in one buffer: a million rows are three allocations, and reading a cell copies
@@ -29,6 +31,12 @@ class FlatTable {
   void reserve(std::size_t rows, std::size_t bytes);
   /// Missing cells are empty.
   void add_row(std::span<const std::string_view> cells, std::uint32_t origin = 0);
+  /// Where a row of so many bytes at most can be written, its cells one byte apart, which
+  /// `add_written_row` fills. Good until the table is changed.
+  [[nodiscard]] char* room_for_row(std::size_t most_bytes);
+  /// Adds the row that was written there; the cells tell where in it they lie, one behind the
+  /// other.
+  void add_written_row(std::span<const std::string_view> cells, std::uint32_t origin);
   void set_cell(std::size_t row, std::size_t column, std::string_view text);
   void remove_row(std::size_t row);
   void clear();
@@ -41,11 +49,12 @@ class FlatTable {
   void keep_rows(Keep keep);
   /// The same where `rewrite(cells)` may also narrow the cells or move them forward: each cell it
   /// leaves behind has to be a part of the row's line, and one character at least has to lie
-  /// between one and the next.
+  /// between one and the next. What a row no longer has stays in the buffer, as do rows that went:
+  /// to close the gaps would cost more than they do.
   template <class Rewrite>
   void rewrite_rows(Rewrite rewrite);
-  /// Whether a cell has a ";" inside, so that a row's line does not tell its cells. Only for a
-  /// table that rows were added to, kept in and rewritten, and nothing else.
+  /// Whether a cell of the rows that were added has a ";" inside, so that a row's line does not
+  /// tell its cells. Only for a table that rows were added to and kept in, and nothing else.
   [[nodiscard]] bool has_separators_inside() const;
   /// Puts one character for another in all cells. Neither may be ";".
   void replace(char from, char to);
@@ -58,14 +67,16 @@ class FlatTable {
     return std::span(lengths_).subspan(row * columns_, columns_);
   }
   [[nodiscard]] std::size_t size_of(std::size_t row) const;
-  /// Lets the place have the row's text and cells. What is packed never overtakes what is read.
-  void pack(std::size_t row, std::size_t place, std::size_t& written);
-  void pack(std::span<const std::string_view> cells, std::size_t row, std::size_t place,
-            std::size_t& written);
-  void cut(std::size_t rows, std::size_t bytes);
+  /// Writes cells that are parts of the row's line as its line.
+  void rewrite_row(std::size_t row, std::span<const std::string_view> cells);
+  /// Lets an earlier place have the row.
+  void move_row(std::size_t row, std::size_t place);
+  void cut(std::size_t rows);
 
   std::size_t columns_;
-  std::string buffer_;
+  std::string buffer_;                  // with room behind what is used of it
+  std::size_t used_ = 0;                // bytes
+  std::size_t added_ = 0;               // rows since the table was empty
   std::vector<std::size_t> starts_;     // one per row
   std::vector<std::uint32_t> origins_;  // one per row
   std::vector<std::uint32_t> lengths_;  // one per cell, row by row
@@ -74,17 +85,15 @@ class FlatTable {
 template <class Keep>
 void FlatTable::keep_rows(Keep keep) {
   std::size_t kept = 0;
-  std::size_t written = 0;
   for (std::size_t row = 0; row < rows(); ++row) {
-    if (keep(row, kept)) pack(row, kept++, written);
+    if (keep(row, kept)) move_row(row, kept++);
   }
-  cut(kept, written);
+  cut(kept);
 }
 
 template <class Rewrite>
 void FlatTable::rewrite_rows(Rewrite rewrite) {
   std::size_t kept = 0;
-  std::size_t written = 0;
   std::vector<std::string_view> before(columns_);
   std::vector<std::string_view> cells(columns_);
   const auto is_same = [](std::string_view a, std::string_view b) {
@@ -93,18 +102,45 @@ void FlatTable::rewrite_rows(Rewrite rewrite) {
   for (std::size_t row = 0; row < rows(); ++row) {
     const char* start = buffer_.data() + starts_[row];
     for (std::size_t i = 0; i < columns_; ++i) {
-      before[i] = {start, lengths_[row * columns_ + i]};
+      before[i] = cells[i] = {start, lengths_[row * columns_ + i]};
       start += before[i].size() + 1;
     }
-    std::copy(before.begin(), before.end(), cells.begin());
     if (!rewrite(std::span(cells))) continue;
-    if (std::equal(cells.begin(), cells.end(), before.begin(), is_same)) {
-      pack(row, kept++, written);
-    } else {
-      pack(cells, row, kept++, written);
-    }
+    if (!std::equal(cells.begin(), cells.end(), before.begin(), is_same)) rewrite_row(row, cells);
+    move_row(row, kept++);
   }
-  cut(kept, written);
+  cut(kept);
+}
+
+inline void FlatTable::move_row(std::size_t row, std::size_t place) {
+  if (place == row) return;
+  starts_[place] = starts_[row];
+  origins_[place] = origins_[row];
+  std::copy_n(&lengths_[row * columns_], columns_, &lengths_[place * columns_]);
+}
+
+inline std::size_t FlatTable::size_of(std::size_t row) const {
+  std::size_t size = columns_ - 1;
+  const std::uint32_t* const length = &lengths_[row * columns_];
+  for (std::size_t i = 0; i < columns_; ++i) size += length[i];
+  return size;
+}
+
+inline void FlatTable::check(std::size_t row, std::size_t column) const {
+  if (row >= rows() || column >= columns_) raise_fault(kFaultIndexRange);
+}
+
+inline std::string_view FlatTable::line(std::size_t row) const {
+  check(row, 0);
+  return {buffer_.data() + starts_[row], size_of(row)};
+}
+
+inline std::string_view FlatTable::cell(std::size_t row, std::size_t column) const {
+  check(row, column);
+  std::size_t start = starts_[row] + column;
+  const std::uint32_t* const length = lengths_.data() + row * columns_;
+  for (std::size_t i = 0; i < column; ++i) start += length[i];
+  return {buffer_.data() + start, length[column]};
 }
 
 }  // namespace quenda

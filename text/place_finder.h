@@ -21,7 +21,11 @@ class PlaceFinder {
  public:
   template <std::same_as<char>... Characters>
   explicit PlaceFinder(std::string_view text, Characters... characters)
-      : text_(text), patterns_{ByteBlock::filled_with(characters)...} {}
+      : text_(text), readable_(text.size()), patterns_{ByteBlock::filled_with(characters)...} {}
+
+  /// Lets bytes behind the text be read, too, so that its end costs nothing: so many can be read
+  /// from its beginning on.
+  void allow_reading(std::size_t bytes) { readable_ = bytes; }
 
   /// Goes on from a place behind the one found last.
   void go_to(std::size_t place) {
@@ -46,11 +50,13 @@ class PlaceFinder {
 
   /// One bit for each of the sixteen bytes from a place on that is one of the characters.
   [[nodiscard]] std::uint32_t look_at(std::size_t start) const {
-    if (text_.size() - start >= kBlock) return matches(text_.data() + start);
-    char last[kBlock] = {};
     const std::size_t left = text_.size() - start;
+    if (left >= kBlock) return matches(text_.data() + start);
+    const std::uint32_t in_text = (1U << left) - 1;
+    if (readable_ - start >= kBlock) return matches(text_.data() + start) & in_text;
+    char last[kBlock] = {};
     std::memcpy(last, text_.data() + start, left);
-    return matches(last) & ((1U << left) - 1);
+    return matches(last) & in_text;
   }
 
   [[nodiscard]] std::uint32_t matches(const char* block) const {
@@ -63,6 +69,7 @@ class PlaceFinder {
   }
 
   std::string_view text_;
+  std::size_t readable_;
   std::array<ByteBlock, kCharacters> patterns_;
   std::size_t block_ = 0;    // where the block to be looked at next begins
   std::uint32_t found_ = 0;  // places of the block before it that have not been returned

@@ -1,6 +1,7 @@
 #include "wizard/composition.h"
 
 #include <algorithm>
+#include <cstring>
 #include <optional>
 #include <utility>
 
@@ -13,20 +14,30 @@
 namespace quenda {
 namespace {
 
-/// Adds a field as the cell of an entry has it: without quotes, with a blank for a line break.
-void append_cell(std::string& out, const RecordField& field) {
-  if (field.breaks) {
-    append_cell(out, {without_line_breaks(field.text), field.quotes});
-    return;
-  }
-  std::string_view text = field.text;
-  if (field.quotes) {
-    for (auto at = text.find('"'); at != text.npos; at = text.find('"')) {
-      out += text.substr(0, at);
-      text.remove_prefix(at + 1);
-    }
-  }
-  out += text;
+/// A field as the cell of an entry has it: without quotes, with a blank for a line break. `changed`
+/// is used where it does not stand so in the record.
+std::string_view cell_of(const RecordField& field, std::string& changed) {
+  const std::string_view text = field.text;
+  if (field.plain()) return text;
+  const bool in_quotes = field.quotes == 2 && text.front() == '"' && text.back() == '"';
+  if (in_quotes && !field.breaks) return text.substr(1, text.size() - 2);
+  changed = field.breaks ? without_line_breaks(text) : std::string(text);
+  changed.erase(std::remove(changed.begin(), changed.end(), '"'), changed.end());
+  return changed;
+}
+
+/// Puts the text there; returns where it ends.
+char* put(char* to, std::string_view text) { return std::copy(text.begin(), text.end(), to); }
+
+std::string_view view(const char* start, const char* end) {
+  return {start, static_cast<std::size_t>(end - start)};
+}
+
+/// Trims a text that has been put there; it begins at the same place then.
+std::string_view trim_there(char* start, const char* end) {
+  const std::string_view trimmed = trim(view(start, end));
+  if (trimmed.data() != start) std::memmove(start, trimmed.data(), trimmed.size());
+  return {start, trimmed.size()};
 }
 
 }  // namespace
@@ -81,7 +92,7 @@ EntryComposer::EntryComposer(Composition composition, char delimiter, CleanNumbe
 }
 
 void EntryComposer::compose(const RecordTable& records, std::size_t record, FlatTable& entries) {
-  name_.clear();
+  name_ = {};
   fields_.split(records, record, delimiter_, last_column_);
   if (!fields_.has_delimiter()) return;
   compose_name();
@@ -94,32 +105,33 @@ void EntryComposer::compose_name() {
   const auto name_part = [&](std::size_t part) {
     return part < columns.names.size() ? fields_[columns.names[part]] : RecordField();
   };
-  append_cell(name_, name_part(composition_.flip_name ? 1 : 0));
-  name_ += ' ';
-  append_cell(name_, name_part(composition_.flip_name ? 0 : 1));
-  if (!composition_.adapt) return;
+  const RecordField first = name_part(composition_.flip_name ? 1 : 0);
+  const RecordField second = name_part(composition_.flip_name ? 0 : 1);
+  const std::size_t most = first.text.size() + 1 + second.text.size();
+  if (name_room_.size() < most) name_room_.resize(most);
+  char* end = put(name_room_.data(), cell_of(first, changed_));
+  *end++ = ' ';
+  end = put(end, cell_of(second, changed_));
+  name_ = view(name_room_.data(), end);
+  if (composition_.adapt) adapt_name();
+}
+
+void EntryComposer::adapt_name() {
   const auto stand_in = [&](const std::optional<std::size_t>& column) {
-    std::string text;
-    if (column && fields_.has(*column)) append_cell(text, fields_[*column]);
-    return text;
+    const bool there = column && fields_.has(*column);
+    return there ? std::string(cell_of(fields_[*column], changed_)) : std::string();
   };
   if (trim(name_).empty()) {
     const std::string display = stand_in(composition_.stand_ins.display);
     const std::string company = stand_in(composition_.stand_ins.company);
-    name_ = name_or_stand_in({}, display, company);
+    name_ = adapted_name_ = name_or_stand_in({}, display, company);
   }
-  if (needs_adapting(name_)) name_ = adapted_text(name_);
+  if (needs_adapting(name_)) name_ = adapted_name_ = adapted_text(name_);
   nameless_ = trim(name_).empty();
 }
 
 void EntryComposer::compose_numbers(std::size_t record, std::size_t row, FlatTable& entries) {
-  const RecordField& field = fields_[composition_.columns.numbers[row]];
-  std::string_view cell = field.text;
-  if (!field.plain()) {
-    number_.clear();
-    append_cell(number_, field);
-    cell = number_;
-  }
+  const std::string_view cell = cell_of(fields_[composition_.columns.numbers[row]], number_);
   if (cell.empty()) return;
   if (!composition_.adapt || is_plain_number(cell)) {
     clean_(cell, cleaned_);
@@ -135,38 +147,75 @@ std::string_view EntryComposer::name() const { return trim(name_); }
 
 void EntryComposer::add_entry(std::size_t record, std::size_t row, std::string_view number,
                               FlatTable& entries) {
-  const std::string_view address = address_of(row);
+  const AddressParts parts = address_parts(row);
   const bool numeric = is_numeric(number);
   if (!numeric && !on_number) return;
-  const std::size_t name_size = name_.size();
-  const std::string& suffix = composition_.suffixes[row];
+  std::size_t address_size = size_of_address(parts);
+  if (composition_.adapt) {
+    adapt_address(parts, address_size);
+    address_size = address_.size();
+  }
   // A suffix alone is no name.
-  if (!suffix.empty() && !nameless_) name_.append(" ").append(suffix);
-  const std::string_view name = trim(name_);
+  const std::string_view suffix = nameless_ ? std::string_view() : composition_.suffixes[row];
+  constexpr std::size_t kBetween = 3;
+  char* to =
+      entries.room_for_row(name_.size() + suffix.size() + number.size() + address_size + kBetween);
+  char* end = put(to, name_);
+  if (!suffix.empty()) {
+    *end++ = ' ';
+    end = put(end, suffix);
+  }
+  const std::string_view name = trim_there(to, end);
+  to += name.size() + 1;
+  end = put(to, number);
+  const std::string_view digits = view(to, end);
+  to = end + 1;
+  end = composition_.adapt ? put(to, address_) : put_address(to, parts);
+  const std::string_view address = trim_there(to, end);
   if (on_number) {
     const std::string_view raw = fields_[composition_.columns.numbers[row]].text;
-    on_number({row, raw, number, name, address, numeric});
+    on_number({row, raw, digits, name, address, numeric});
   }
-  if (numeric) entries.add_row(std::array{name, number, address}, entry_origin(record, row + 1));
-  name_.resize(name_size);
+  if (numeric) {
+    entries.add_written_row(std::array{name, digits, address}, entry_origin(record, row + 1));
+  }
 }
 
-std::string_view EntryComposer::address_of(std::size_t row) {
+EntryComposer::AddressParts EntryComposer::address_parts(std::size_t row) {
+  AddressParts parts;
   const Binding binding = composition_.bindings[row];
-  if (binding == Binding::kNone) return {};
+  if (binding == Binding::kNone) return parts;
   const auto& positions = composition_.columns.addresses[binding == Binding::kAddress2 ? 1 : 0];
-  std::array<RecordField, kAddressParts> parts;
-  for (std::size_t i = 0; i < std::min(positions.size(), parts.size()); ++i) {
-    parts[i] = fields_[positions[i]];
+  std::array<RecordField, kAddressParts> fields;
+  for (std::size_t i = 0; i < std::min(positions.size(), fields.size()); ++i) {
+    fields[i] = fields_[positions[i]];
   }
   const AddressOrder& order = composition_.address_order;
-  address_.clear();
-  for (std::size_t i = 0; i < order.size(); ++i) {
-    if (i > 0) address_ += ' ';
-    append_cell(address_, parts[order.size() == 1 ? 0 : order[i]]);
+  for (const std::size_t part : order) {
+    parts.fields[parts.count++] = fields[order.size() == 1 ? 0 : part];
   }
-  if (composition_.adapt && needs_adapting(address_)) address_ = adapted_text(address_);
-  return trim(address_);
+  return parts;
+}
+
+std::size_t EntryComposer::size_of_address(const AddressParts& parts) {
+  std::size_t size = parts.count;
+  for (const RecordField& field : parts.fields) size += field.text.size();
+  return size;
+}
+
+char* EntryComposer::put_address(char* to, const AddressParts& parts) {
+  for (std::size_t i = 0; i < parts.count; ++i) {
+    if (i > 0) *to++ = ' ';
+    to = put(to, cell_of(parts.fields[i], changed_));
+  }
+  return to;
+}
+
+void EntryComposer::adapt_address(const AddressParts& parts, std::size_t most_bytes) {
+  address_.resize(most_bytes);
+  const char* const end = put_address(address_.data(), parts);
+  address_.resize(view(address_.data(), end).size());
+  if (needs_adapting(address_)) address_ = adapted_text(address_);
 }
 
 }  // namespace quenda

@@ -89,20 +89,35 @@ class EntryComposer {
   [[nodiscard]] std::string_view name() const;
 
  private:
+  /// The parts of an address in the order in which they are joined.
+  struct AddressParts {
+    std::array<RecordField, kAddressParts> fields;
+    std::size_t count = 0;
+  };
+
   void compose_name();
+  void adapt_name();
   void compose_numbers(std::size_t record, std::size_t row, FlatTable& entries);
   void add_entry(std::size_t record, std::size_t row, std::string_view number, FlatTable& entries);
-  [[nodiscard]] std::string_view address_of(std::size_t row);
+  [[nodiscard]] AddressParts address_parts(std::size_t row);
+  /// Bytes that an address has at most.
+  static std::size_t size_of_address(const AddressParts& parts);
+  /// Puts the address there; returns where it ends.
+  char* put_address(char* to, const AddressParts& parts);
+  void adapt_address(const AddressParts& parts, std::size_t most_bytes);
 
   Composition composition_;
   char delimiter_;
   CleanNumber clean_;
   std::size_t last_column_ = 0;
   RecordFields fields_;
-  std::string name_;
+  std::string_view name_;  // in one of the two:
+  std::string name_room_;  // as large as the largest name so far
+  std::string adapted_name_;
   std::string number_;
   std::string cleaned_;
-  std::string address_;
+  std::string address_;    // adapted records only
+  std::string changed_;    // a cell that does not stand in its record as it is needed
   bool nameless_ = false;  // adapted records only
 };
 

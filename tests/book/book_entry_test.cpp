@@ -29,6 +29,18 @@ TEST(BookLine, IsWrittenWithNumbersForFlagsAndWithoutExtra) {
   EXPECT_EQ(read_book_line(cases[0].first).Extra, "keep");
 }
 
+TEST(BookLine, OfANewEntryIsThatOfAnEntryWithNothingElse) {
+  BookEntry entry;
+  entry.Name = "Falk";
+  entry.Number = "030";
+  entry.Address = "Weg 1";
+  std::string usual;
+  append_book_line(usual, entry);
+  std::string quick;
+  append_new_book_line(quick, "Falk;030", "Weg 1");
+  EXPECT_EQ(quick, usual);
+}
+
 TEST(BookLine, IsPlainWhenWrittenAnewItIsTheSame) {
   const std::string_view fields = "A (b) [c];1;x;-1;7;0;Street";
   const std::pair<std::string_view, bool> ends[] = {

@@ -27,6 +27,14 @@ TEST(PlaceFinder, FindsEachPlaceWhereverBlocksBeginAndEnd) {
     for (auto at = finder.next(); at < size; at = finder.next()) found.push_back(at);
     EXPECT_EQ(found, expected) << text;
     EXPECT_EQ(finder.next(), size);
+    // The same where what stands behind the text may be read.
+    PlaceFinder reading(seen, ';', '"', '\xFF');
+    text.append(ByteBlock::kSize, ';');
+    reading = PlaceFinder(std::string_view(text).substr(0, size), ';', '"', '\xFF');
+    reading.allow_reading(text.size());
+    found.clear();
+    for (auto at = reading.next(); at < size; at = reading.next()) found.push_back(at);
+    EXPECT_EQ(found, expected) << text;
   }
 }
 

@@ -2,8 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -66,6 +68,31 @@ TEST(RemoveRepeatedLines, FindsRepeatsAmongManyLinesOfAllLengths) {
   const std::vector<std::string> once = without_repeats(lines);
   lines.resize(5000);
   EXPECT_EQ(once, lines);
+}
+
+TEST(FlatTable, WrittenRowsAndRewrittenOnesStandAsTheyWere) {
+  FlatTable rows(2);
+  for (int i = 0; i < 4; ++i) {
+    char* const room = rows.room_for_row(8);
+    const std::string_view text = "ab-12;5";
+    std::copy(text.begin(), text.end(), room);
+    rows.add_written_row(std::array{std::string_view(room, 2), std::string_view(room + 3, i + 1U)},
+                         static_cast<std::uint32_t>(i));
+  }
+  EXPECT_TRUE(rows.has_separators_inside());
+  EXPECT_EQ(rows.line(3), "ab;12;5");
+  EXPECT_EQ(rows.line(2), "ab;12;");
+  rows.keep_rows([](std::size_t row, std::size_t) { return row != 1; });
+  rows.rewrite_rows([](std::span<std::string_view> cells) {
+    cells[0] = cells[0].substr(1);
+    return cells[1].size() != 3;
+  });
+  ASSERT_EQ(rows.rows(), 2U);
+  EXPECT_EQ(rows.line(0), "b;1");
+  EXPECT_EQ(rows.line(1), "b;12;5");
+  EXPECT_EQ(rows.origin(1), 3U);
+  rows.replace('5', '6');
+  EXPECT_EQ(rows.cell(1, 1), "12;6");
 }
 
 TEST(ViewIndex, GrowsFindsAndReplaces) {

@@ -118,12 +118,8 @@ void WizardShell::show_buttons() {
   cmdBack.set_enabled(!at_start && !way_back_locked_);
 }
 
-void WizardShell::step(std::size_t done, std::size_t total) {
-  // A record takes well under a microsecond: to look at the clock for each would cost more than the
-  // work itself. The wish to end is seen at once.
-  constexpr unsigned kStepsPerLook = 64;
+void WizardShell::show_step(std::size_t done, std::size_t total) {
   if (wizard.abort) throw EndProgram();
-  if (++steps_ % kStepsPerLook != 0 && done < total) return;
   modProgress_Show(PicProgress, static_cast<std::int64_t>(done), 1,
                    static_cast<std::int64_t>(total));
   answer_events();
