@@ -1,7 +1,8 @@
+#include "book/book_lines.h"
+
 #include <algorithm>
 
 #include "book/book_entry.h"
-#include "book/book_lines.h"
 #include "text/text.h"
 
 namespace quenda {

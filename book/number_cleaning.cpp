@@ -12,7 +12,7 @@ constexpr std::size_t kLongestLocalNumber = 8;
 constexpr std::size_t kShortestCode = 3;
 
 /// What becomes of a character of a number.
-enum class Cleaning : std::uint8_t { kDropped, kKept, kDecided };
+enum class Cleaning : std::uint8_t { kDropped = 0, kKept = 1, kDecided = 2 };
 
 constexpr std::array<Cleaning, 256> make_cleaning_table() {
   std::array<Cleaning, 256> table{};
@@ -34,7 +34,7 @@ char* put_without_punctuation(std::string_view number, char* to) {
     // punctuation follow each other too irregularly for a branch.
     const Cleaning cleaning = kCleaning[static_cast<unsigned char>(c)];
     *to = c;
-    to += cleaning == Cleaning::kKept ? 1 : 0;
+    to += static_cast<std::uint8_t>(cleaning) & 1U;
     if (cleaning != Cleaning::kDecided) continue;
     if (c == '+') {
       *to++ = '0';
@@ -47,6 +47,16 @@ char* put_without_punctuation(std::string_view number, char* to) {
     }
   }
   return to;
+}
+
+/// Whether a text has a part somewhere. The last character is compared first: country codes begin
+/// with zeros, which numbers have many of.
+bool has_part(std::string_view text, std::string_view part) {
+  const std::size_t behind = part.size() - 1;
+  for (std::size_t last = behind; last < text.size(); ++last) {
+    if (text[last] == part.back() && text.substr(last - behind, part.size()) == part) return true;
+  }
+  return false;
 }
 
 /// Puts a text there without any occurrence of a part; returns where it ends. It may be the place
@@ -81,7 +91,7 @@ void clean_number(std::string_view number, std::string_view own_country_code,
     // Further ones are rare.
     first += own_country_code.size();
     const std::string_view rest = all.substr(own_country_code.size());
-    if (rest.find(own_country_code) != rest.npos) {
+    if (has_part(rest, own_country_code)) {
       end = put_without(rest, own_country_code, first);
     }
   }

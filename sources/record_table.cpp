@@ -47,7 +47,7 @@ void RecordFields::split(const RecordTable& table, std::size_t record, char deli
       breaks = breaks || !quote;
       continue;
     }
-    fields_[count++] = {text.substr(start, mark - start), quotes, breaks};
+    fields_[count++] = {{text.data() + start, mark - start}, quotes, breaks};
     start = mark + 1;
     quotes = 0;
     breaks = false;

@@ -20,6 +20,8 @@ class ByteBlock {
 
   /// The sixteen bytes from there on.
   static ByteBlock load(const char* from);
+  /// Fewer bytes, with zeros behind them; not for where time counts.
+  static ByteBlock load_part(const char* from, std::size_t count);
   static ByteBlock filled_with(char c);
   void store(char* to) const;
 

@@ -5,7 +5,6 @@
 #include <concepts>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <string_view>
 #include <utility>
 
@@ -50,17 +49,15 @@ class PlaceFinder {
 
   /// One bit for each of the sixteen bytes from a place on that is one of the characters.
   [[nodiscard]] std::uint32_t look_at(std::size_t start) const {
+    const char* const from = text_.data() + start;
     const std::size_t left = text_.size() - start;
-    if (left >= kBlock) return matches(text_.data() + start);
-    const std::uint32_t in_text = (1U << left) - 1;
-    if (readable_ - start >= kBlock) return matches(text_.data() + start) & in_text;
-    char last[kBlock] = {};
-    std::memcpy(last, text_.data() + start, left);
-    return matches(last) & in_text;
+    const bool readable = readable_ - start >= kBlock;
+    const std::uint32_t found =
+        matches(readable ? ByteBlock::load(from) : ByteBlock::load_part(from, left));
+    return left >= kBlock ? found : found & ((1U << left) - 1);
   }
 
-  [[nodiscard]] std::uint32_t matches(const char* block) const {
-    const ByteBlock bytes = ByteBlock::load(block);
+  [[nodiscard]] std::uint32_t matches(ByteBlock bytes) const {
     // Not a loop, so that the compiler keeps the patterns in registers.
     return [&]<std::size_t... I>(std::index_sequence<I...>) {
       return (bytes.equal_to(patterns_[I]) | ...).top_bits();

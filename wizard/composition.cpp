@@ -14,16 +14,20 @@
 namespace quenda {
 namespace {
 
-/// A field as the cell of an entry has it: without quotes, with a blank for a line break. `changed`
-/// is used where it does not stand so in the record.
-std::string_view cell_of(const RecordField& field, std::string& changed) {
+/// A field that is not plain, as `cell_of` gives it.
+std::string_view changed_cell_of(const RecordField& field, std::string& changed) {
   const std::string_view text = field.text;
-  if (field.plain()) return text;
   const bool in_quotes = field.quotes == 2 && text.front() == '"' && text.back() == '"';
   if (in_quotes && !field.breaks) return text.substr(1, text.size() - 2);
   changed = field.breaks ? without_line_breaks(text) : std::string(text);
   changed.erase(std::remove(changed.begin(), changed.end(), '"'), changed.end());
   return changed;
+}
+
+/// A field as the cell of an entry has it: without quotes, with a blank for a line break. `changed`
+/// is used where it does not stand so in the record.
+std::string_view cell_of(const RecordField& field, std::string& changed) {
+  return field.plain() ? field.text : changed_cell_of(field, changed);
 }
 
 /// Puts the text there; returns where it ends.
@@ -186,9 +190,10 @@ EntryComposer::AddressParts EntryComposer::address_parts(std::size_t row) {
   const Binding binding = composition_.bindings[row];
   if (binding == Binding::kNone) return parts;
   const auto& positions = composition_.columns.addresses[binding == Binding::kAddress2 ? 1 : 0];
-  std::array<RecordField, kAddressParts> fields;
+  static const RecordField kEmpty;
+  std::array<const RecordField*, kAddressParts> fields = {&kEmpty, &kEmpty, &kEmpty};
   for (std::size_t i = 0; i < std::min(positions.size(), fields.size()); ++i) {
-    fields[i] = fields_[positions[i]];
+    fields[i] = &fields_[positions[i]];
   }
   const AddressOrder& order = composition_.address_order;
   for (const std::size_t part : order) {
@@ -199,14 +204,14 @@ EntryComposer::AddressParts EntryComposer::address_parts(std::size_t row) {
 
 std::size_t EntryComposer::size_of_address(const AddressParts& parts) {
   std::size_t size = parts.count;
-  for (const RecordField& field : parts.fields) size += field.text.size();
+  for (std::size_t i = 0; i < parts.count; ++i) size += parts.fields[i]->text.size();
   return size;
 }
 
 char* EntryComposer::put_address(char* to, const AddressParts& parts) {
   for (std::size_t i = 0; i < parts.count; ++i) {
     if (i > 0) *to++ = ' ';
-    to = put(to, cell_of(parts.fields[i], changed_));
+    to = put(to, cell_of(*parts.fields[i], changed_));
   }
   return to;
 }

@@ -91,7 +91,7 @@ class EntryComposer {
  private:
   /// The parts of an address in the order in which they are joined.
   struct AddressParts {
-    std::array<RecordField, kAddressParts> fields;
+    std::array<const RecordField*, kAddressParts> fields{};
     std::size_t count = 0;
   };
 
