@@ -50,6 +50,7 @@ void fMain::adopt(const ColumnSuggestion& suggestion) {
 }
 
 bool fMain::Scramble() {
+  constexpr std::size_t kSample = 1000;  // records that tell how large the entries become
   bool listed = false;
   const bool came_through = procedure(app_.errors, "fMain.Scramble", {}, [&] {
     const BusyWork busy(*this);
@@ -60,10 +61,10 @@ bool fMain::Scramble() {
     composed_records_ = 0;
     EntryComposer composer(composition(), source.Delimiter.front(), number_cleaner());
     const std::size_t count = source.ImportRows.size();
-    entries_.reserve(count, source.ImportRows.bytes());
     for (std::size_t record = 0; record < count; ++record) {
       composer.compose(source.ImportRows, record, entries_);
       composed_records_ = record + 1;
+      if (composed_records_ == kSample) entries_.expect_the_rest(kSample, count);
       step(record + 1, count);
     }
     StatusBar.set_panel(2, texts["Import_Info_EraseMultible"]);

@@ -27,7 +27,7 @@ void BookList::read_book(std::string_view& line, const OnStep& on_step) {
     next_start = start + line.size() + line_end;
     const ExaminedLine read = reader.examined();
     add(read.number, read.plain && end_ == LineEnd::kCrLf ? Mark::kPlain : Mark::kComposed);
-    places_.push_back(start);
+    places_.push_back(static_cast<std::uint32_t>(start));
     on_step(characters, book_.size());
   }
   if (next_start != book_.size() && size() > 0) compose_last();

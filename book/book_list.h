@@ -86,7 +86,7 @@ class BookList {
   LineEnd end_;
   const FlatTable& rows_;
   std::size_t in_book_ = 0;
-  std::vector<std::size_t> places_;    // of the book's entries in its text
+  std::vector<std::uint32_t> places_;  // of the book's entries in its text, which has 2 GB at most
   std::vector<std::uint32_t> hashes_;  // of the numbers
   std::vector<Mark> marks_;
   std::vector<Inheritance> inheritances_;  // in the order of the heirs

@@ -14,11 +14,27 @@ constexpr std::string_view kMark = "\xEF\xBB\xBF";
 constexpr std::string_view kCsvHeader =
     "Zeile;Datensatz;Rufnummer Nr.;Name;Rufnummer;Rufnummer im Export;Adresse;Ergebnis;Grund\r\n";
 
+constexpr std::string_view kBreaking = ";\"\r\n";
+
+/// Whether a text is a cell of CSV in UTF-8 as it stands: all ASCII, and nothing that wants quotes.
+bool is_plain_cell(std::string_view text) {
+  static constexpr std::array<bool, 256> kPlain = [] {
+    std::array<bool, 256> plain{};
+    for (std::size_t code = 0; code < 0x80; ++code) plain[code] = true;
+    for (const char c : kBreaking) plain[static_cast<unsigned char>(c)] = false;
+    return plain;
+  }();
+  return std::all_of(text.begin(), text.end(),
+                     [](char c) { return kPlain[static_cast<unsigned char>(c)]; });
+}
+
 /// A cell in quotes where a reader of CSV needs them.
 void append_csv_cell(std::string& out, std::string_view text) {
-  static constexpr CharacterSet kBreaking(";\"\r\n");
-  const bool quoted =
-      std::any_of(text.begin(), text.end(), [](char c) { return kBreaking.contains(c); });
+  if (is_plain_cell(text)) {
+    out += text;
+    return;
+  }
+  const bool quoted = text.find_first_of(kBreaking) != text.npos;
   if (!quoted) return append_utf8(out, text);
   std::string_view part;
   for (bool first = true; next_part(text, "\"", part); first = false) {
@@ -26,6 +42,25 @@ void append_csv_cell(std::string& out, std::string_view text) {
     append_utf8(out, part);
   }
   out += '"';
+}
+
+/// What a fate is called, as cells.
+struct FateCells {
+  std::string word;
+  std::string reason;
+};
+
+const FateCells& cells_of(Fate fate) {
+  static const std::array<FateCells, kFates> kCells = [] {
+    std::array<FateCells, kFates> cells;
+    for (std::size_t i = 0; i < kFates; ++i) {
+      const FateWords& words = words_of(static_cast<Fate>(i));
+      append_csv_cell(cells.at(i).word, words.word);
+      append_csv_cell(cells.at(i).reason, words.reason);
+    }
+    return cells;
+  }();
+  return kCells.at(static_cast<std::size_t>(fate));
 }
 
 void append_number(std::string& out, std::uint64_t number) {
@@ -155,15 +190,17 @@ void append_csv_row(std::string& out, const ReportRow& row) {
     append_number(out, number);
     out += ';';
   }
-  for (const std::string_view cell :
-       {row.name, row.number, row.raw, row.address, words_of(row.fate).word}) {
+  for (const std::string_view cell : {row.name, row.number, row.raw, row.address}) {
     append_csv_cell(out, cell);
     out += ';';
   }
+  const FateCells& fate = cells_of(row.fate);
+  out += fate.word;
+  out += ';';
   if (row.with || row.existing) {
     append_csv_cell(out, reason_of(row.fate, row.with, row.existing));
   } else {
-    append_csv_cell(out, words_of(row.fate).reason);
+    out += fate.reason;
   }
   out += kCrLf;
 }

@@ -28,6 +28,16 @@ void FlatTable::reserve(std::size_t rows, std::size_t bytes) {
   buffer_.reserve(bytes + kRoom);
 }
 
+void FlatTable::expect_the_rest(std::size_t done, std::size_t total) {
+  const auto expected = [&](std::size_t until_now) {
+    const double all =
+        static_cast<double>(until_now) / static_cast<double>(done) * static_cast<double>(total);
+    constexpr double kMargin = 1.125;
+    return static_cast<std::size_t>(all * kMargin) + 1;
+  };
+  reserve(expected(rows()), expected(used_));
+}
+
 char* FlatTable::room_for_row(std::size_t most_bytes) {
   // One more, for what would follow the last cell.
   if (buffer_.size() - used_ <= most_bytes) buffer_.resize(used_ + most_bytes + kRoom);

@@ -29,6 +29,9 @@ class FlatTable {
   /// The row's cells with ";" between them; fault 9 beyond the end.
   [[nodiscard]] std::string_view line(std::size_t row) const;
   void reserve(std::size_t rows, std::size_t bytes);
+  /// Makes room for what is to come, once a part of the source has been done: as if the rest gave
+  /// as much. Room that is not used costs next to nothing.
+  void expect_the_rest(std::size_t done, std::size_t total);
   /// Missing cells are empty.
   void add_row(std::span<const std::string_view> cells, std::uint32_t origin = 0);
   /// Where a row of so many bytes at most can be written, its cells one byte apart, which

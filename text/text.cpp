@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
+#include <cstdint>
 
 #include "text/character_counts.h"
 #include "text/code_page_1252.h"
@@ -22,6 +24,18 @@ constexpr std::array<char, 256> make_lower_table() {
 }
 
 constexpr auto kLower = make_lower_table();
+
+/// How many characters of ASCII a text begins with.
+std::size_t ascii_at_start(std::string_view text) {
+  constexpr std::size_t kSize = ByteBlock::kSize;
+  std::size_t at = 0;
+  for (; text.size() - at >= kSize; at += kSize) {
+    const std::uint32_t others = ByteBlock::load(text.data() + at).top_bits();
+    if (others != 0) return at + static_cast<std::size_t>(std::countr_zero(others));
+  }
+  while (at < text.size() && static_cast<unsigned char>(text[at]) < 0x80) ++at;
+  return at;
+}
 
 void append_character(std::string& out, char32_t code_point) {
   if (code_point < 0x80) {
@@ -107,10 +121,8 @@ std::string to_utf8(std::string_view text) {
 }
 
 void append_utf8(std::string& out, std::string_view text) {
-  const auto is_ascii = [](char c) { return static_cast<unsigned char>(c) < 0x80; };
   while (!text.empty()) {
-    const auto end = std::find_if_not(text.begin(), text.end(), is_ascii);
-    const auto ascii = static_cast<std::size_t>(end - text.begin());
+    const std::size_t ascii = ascii_at_start(text);
     out += text.substr(0, ascii);
     if (ascii == text.size()) return;
     append_character(out, unicode_of_1252(static_cast<unsigned char>(text[ascii])));

@@ -72,11 +72,11 @@ TEST(RemoveRepeatedLines, FindsRepeatsAmongManyLinesOfAllLengths) {
 
 TEST(FlatTable, WrittenRowsAndRewrittenOnesStandAsTheyWere) {
   FlatTable rows(2);
-  for (int i = 0; i < 4; ++i) {
+  for (std::size_t i = 0; i < 4; ++i) {
     char* const room = rows.room_for_row(8);
     const std::string_view text = "ab-12;5";
     std::copy(text.begin(), text.end(), room);
-    rows.add_written_row(std::array{std::string_view(room, 2), std::string_view(room + 3, i + 1U)},
+    rows.add_written_row(std::array{std::string_view(room, 2), std::string_view(room + 3, i + 1)},
                          static_cast<std::uint32_t>(i));
   }
   EXPECT_TRUE(rows.has_separators_inside());
