@@ -15,6 +15,7 @@ namespace quenda {
 namespace {
 
 constexpr std::size_t kMostBytes = 8UL * 1024 * 1024;
+constexpr std::size_t kLongestHeader = 64UL * 1024;  // a file without line ends has no header
 
 /// Looks at the records of one layout.
 class CellCheck {
@@ -98,6 +99,7 @@ RecordTable first_records(std::string_view text, char delimiter) {
 
 bool has_cells_to_adapt(std::string_view text, char delimiter) {
   const std::string_view header = text.substr(0, text.find_first_of("\r\n"));
+  if (header.size() > kLongestHeader) return false;
   if (!find_export_layout(shown_fields(header, delimiter))) return false;
   const RecordTable records = first_records(text, delimiter);
   if (records.empty()) return false;

@@ -30,11 +30,12 @@ struct FileFacts {
   FileKind kind = FileKind::kTable;
   FileEncoding encoding = FileEncoding::kAscii;
   LineEnds line_ends = LineEnds::kNone;
-  bool mark = false;       // a byte order mark at the beginning
-  bool sep_line = false;   // a first line "sep=" and a delimiter
-  char sep_delimiter = 0;  // the one it names, 0 for none that the tool knows
-  bool labelled = false;   // the kind of each number stands in a column of its own
-  bool nul_bytes = false;  // in a text that is not UTF-16
+  bool mark = false;          // a byte order mark at the beginning
+  bool sep_line = false;      // a first line "sep=" and a delimiter
+  char sep_delimiter = 0;     // the one it names, 0 for none that the tool knows
+  bool labelled = false;      // the kind of each number stands in a column of its own
+  bool nul_bytes = false;     // in a text that is not UTF-16
+  bool empty_column = false;  // the header ends with the delimiter, once that was asked
   bool odd_cells = false;  // fields that lose something (has_cells_to_adapt), once that was asked
   std::string sample;      // a word with a letter beyond ASCII, as its bytes stand in the file
 

@@ -121,14 +121,17 @@ std::string finding_text(std::string_view text, const std::vector<std::string>& 
 }
 
 bool is_adaptable(const FileFacts& facts) {
-  return facts.readable() && (facts.mark || facts.odd_cells || !adaptations(facts).empty());
+  return facts.readable() &&
+         (facts.mark || facts.empty_column || facts.odd_cells || !adaptations(facts).empty());
 }
 
 std::vector<Finding> file_findings(const FileFacts& facts, bool convert) {
   std::vector<Finding> findings;
   if (const std::string_view key = kind_key(facts.kind); !key.empty()) return {{key, {}}};
   if (convert) {
-    if (facts.odd_cells) return {{"Import_File_CellsAdapted", {}}};
+    if (facts.empty_column) findings.push_back({"Import_File_ColumnDropped", {}});
+    if (facts.odd_cells) findings.push_back({"Import_File_CellsAdapted", {}});
+    if (!findings.empty()) return findings;
     if (is_adaptable(facts)) findings.push_back({"Import_File_Adapted", {adaptations(facts)}});
     return findings;
   }
@@ -142,7 +145,11 @@ std::vector<Finding> file_findings(const FileFacts& facts, bool convert) {
   }
   if (facts.sep_line) findings.push_back({"Import_File_SepLine", {}});
   if (facts.nul_bytes) findings.push_back({"Import_File_NulBytes", {}});
-  if (facts.odd_cells) findings.push_back({"Import_File_Cells", {}});
+  if (facts.odd_cells) {
+    findings.push_back({"Import_File_Cells", {}});
+  } else if (facts.empty_column) {
+    findings.push_back({"Import_File_EmptyColumn", {}});
+  }
   return findings;
 }
 

@@ -23,6 +23,10 @@ class Label : public Control {
   /// Whether the caption ends where the label does. Part of the design, too.
   [[nodiscard]] bool at_end() const { return at_end_; }
   void set_at_end(bool at_end) { at_end_ = at_end; }
+  /// Whether a caption that is too long ends in "..." instead of going on in a second line. Part of
+  /// the design.
+  [[nodiscard]] bool one_line() const { return one_line_; }
+  void set_one_line() { one_line_ = true; }
   /// Whether a screen reader says by itself what the label says, as soon as that is seen or
   /// changes. Part of the design.
   [[nodiscard]] bool announced() const { return announced_; }
@@ -31,6 +35,7 @@ class Label : public Control {
  private:
   bool shows_data_ = false;
   bool at_end_ = false;
+  bool one_line_ = false;
   bool announced_ = false;
 };
 

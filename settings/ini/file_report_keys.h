@@ -16,6 +16,8 @@ inline constexpr std::array kFileReportKeys = {
     // What is going to be adapted: "UTF-8, LF".
     LanguageKey{"Import_File_Adapted", "Die Datei wird beim Einlesen angepasst (%1)."},
     LanguageKey{"Import_File_Besides", u8"Außerdem anzupassen: %1."_de},
+    LanguageKey{"Import_File_ColumnDropped",
+                "Eine leere Spalte am Ende wird beim Einlesen weggelassen."},
     LanguageKey{"Import_File_CellsAdapted",
                 u8"Fehlende Namen werden ersetzt, Felder mit mehreren Nummern oder Zusätzen "
                 u8"angepasst."_de},
@@ -43,6 +45,9 @@ inline constexpr std::array kFileReportKeys = {
         u8"Die erste Zeile nennt das Trennzeichen (\"sep=\"): Sie käme als Kopfzeile an."_de},
     LanguageKey{"Import_File_NulBytes",
                 u8"Die Datei enthält NUL-Zeichen: Sie ist vielleicht beschädigt."_de},
+    LanguageKey{
+        "Import_File_EmptyColumn",
+        u8"Die Kopfzeile endet mit einem Trennzeichen: Eine Spalte ohne Namen käme dazu."_de},
     LanguageKey{"Import_File_Cells",
                 u8"Manche Kontakte kämen nicht richtig an: Namen fehlen, oder Felder haben "
                 u8"mehrere Nummern oder Zusätze."_de},

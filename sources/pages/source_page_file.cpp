@@ -95,7 +95,9 @@ void SourcePage::look_at_cells() {
   const int chosen = cmbLimiter.list_index();
   if (!file_read_ || chosen < 0 || facts.kind != FileKind::kTable || is_adaptable(facts)) return;
   const char delimiter = kDelimiters.at(static_cast<std::size_t>(chosen));
-  facts.odd_cells = has_cells_to_adapt(*shell_.source.ImportText, delimiter);
+  const std::string_view text = *shell_.source.ImportText;
+  facts.odd_cells = has_cells_to_adapt(text, delimiter);
+  facts.empty_column = text.substr(0, text.find_first_of("\r\n")).ends_with(delimiter);
 }
 
 bool SourcePage::converts() const {

@@ -133,6 +133,18 @@ TEST_F(FileAdaptation, AKnownExportWithOddFieldsCanBeAdapted) {
       << "suffixes stay with the rows";
 }
 
+TEST_F(FileAdaptation, AnEmptyColumnAtTheEndCanBeLeftOut) {
+  start();
+  take_file("Name;Telefon;\r\nIda Falk;030 5550301;\r\n");
+  ASSERT_TRUE(form->chkConvert.visible());
+  EXPECT_NE(form->labFacts.caption().find("Spalte ohne Namen"), std::string::npos);
+  form->chkConvert.take_user_click();
+  EXPECT_NE(form->labFacts.caption().find("weggelassen"), std::string::npos);
+  forward();
+  EXPECT_EQ(form->header().size(), 2U);
+  EXPECT_TRUE(machine.dialogs.boxes.empty()) << "the header is complete";
+}
+
 TEST_F(FileAdaptation, EmptyCardsAreCalledSo) {
   start();
   take_file("BEGIN:VCARD\nVERSION:3.0\nEND:VCARD\nBEGIN:VCARD\nN:;;;;\nEND:VCARD\n");

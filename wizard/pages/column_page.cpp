@@ -107,6 +107,9 @@ void ColumnPage::design() {
   apply_design(*this, kDesign, &shell_.frmImp(1));
   apply_design(*this, kPreviewDesign, &shell_.frmPages);
   labTable.set_visible(false);
+  labTable.set_announced();
+  labTable.set_shows_data(true);
+  labTable.set_one_line();
   cmdSuggest.set_visible(false);
   splPreview.set_visible(false);
   splPreview.set_least(kLeastLists, kLeastPreview);

@@ -39,7 +39,8 @@ class NativeLabel : public PeerOf<Label> {
   [[nodiscard]] WindowSpec spec() const override {
     const DWORD prefix = typed().shows_data() ? SS_NOPREFIX : 0;
     const DWORD side = typed().at_end() ? SS_RIGHT : SS_LEFT;
-    return {WC_STATICW, false, side | prefix, 0, form().captions().of(typed())};
+    const DWORD cut = typed().one_line() ? SS_ENDELLIPSIS : 0;
+    return {WC_STATICW, false, side | prefix | cut, 0, form().captions().of(typed())};
   }
   void show(Aspect aspect) override {
     if (aspect == Aspect::kCaption) set_window_text(form().captions().of(typed()));
