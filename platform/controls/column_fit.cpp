@@ -1,6 +1,7 @@
 #include "platform/controls/column_fit.h"
 
 #include <algorithm>
+#include <cstdint>
 
 namespace quenda {
 
@@ -31,13 +32,13 @@ std::vector<int> widths_in(const std::vector<ColumnWidth>& columns, int room) {
     return widths;
   }
   // Edges, not widths, are rounded: a sum that is a pixel too large brings a scroll bar.
-  const double growth = static_cast<double>(room - sum + shared) / shared;
-  int designed = 0;
+  const std::int64_t shared_room = room - sum + shared;
+  std::int64_t designed = 0;
   int edge = 0;
   for (std::size_t i = 0; i < columns.size(); ++i) {
     if (columns[i].chosen > 0) continue;
     designed += columns[i].designed;
-    widths[i] = static_cast<int>(designed * growth + 0.5) - edge;
+    widths[i] = static_cast<int>((designed * shared_room + shared / 2) / shared) - edge;
     edge += widths[i];
   }
   return widths;
