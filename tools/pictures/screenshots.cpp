@@ -73,6 +73,18 @@ class Screenshots : public WizardTest {
     keep(main_, name);
   }
 
+  /// Leaves a dialog by Escape, once more where the key got lost: it does right after a window came
+  /// up.
+  void leave(const Window& dialog) {
+    wait_until_active(dialog);
+    for (int attempt = 0; attempt < 3 && dialog.exists(); ++attempt) {
+      press(Key::kEscape);
+      becomes([&] { return !dialog.exists(); }, 3);
+    }
+    ASSERT_TRUE(becomes([&] { return main_.enabled(); }));
+    wait_until_active(main_);
+  }
+
   /// Takes the file of contacts from where a user would have it.
   void take_file() {
     const std::string file = "C:\\Kontakte\\kontakte.csv";
@@ -112,15 +124,11 @@ TEST_F(Screenshots, EveryPageAndDialog) {
   click_button(words_.report);
   const Window report = dialog_over(main_);
   keep(report, "10_report");
-  press(Key::kEscape);
-  ASSERT_TRUE(becomes([&] { return main_.enabled(); }));
-  wait_until_active(main_);
+  leave(report);
   click_button(words_.edit);
   const Window editor = dialog_over(main_);
   keep(editor, "7_edit");
-  press(Key::kEscape);
-  ASSERT_TRUE(becomes([&] { return main_.enabled(); }));
-  wait_until_active(main_);
+  leave(editor);
   click_button(words_.apply);
   const Window question = dialog_over(main_);
   keep(question, "8_number_exists");
