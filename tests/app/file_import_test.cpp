@@ -269,6 +269,15 @@ TEST_F(FileImport, RecordsThatLackAChosenColumnStopTheComposition) {
   EXPECT_FALSE(form->cmdFor.enabled());
 }
 
+TEST_F(FileImport, AnEndlessColumnNameIsNotKeptByEachList) {
+  start();
+  take_file("Name;" + std::string(100'000, 'x') + "\r\n");
+  form->cmbLimiter.take_user_index(0);
+  forward();
+  ASSERT_EQ(form->lstHeader(0).count(), 2);
+  EXPECT_EQ(form->lstHeader(0).item(1).size(), 65'536U);
+}
+
 TEST_F(FileImport, UnreadableFileLeavesForwardDisabled) {
   start();
   machine.files.put(kContactsPath, "a;b\r\n");

@@ -53,6 +53,17 @@ std::vector<ListColumn> preview_columns(const std::vector<std::string>& header,
   return columns;
 }
 
+/// The column names of the header. A name longer than 64 KB is a file without line ends, which has
+/// to fit into memory several times less than its lists would take.
+std::vector<std::string> column_names(const RecordTable& records, char delimiter) {
+  constexpr std::size_t kLongestName = 64UL * 1024;
+  std::vector<std::string> names = shown_fields(records.padded_text(0, delimiter), delimiter);
+  for (std::string& name : names) {
+    if (name.size() > kLongestName) name = name.substr(0, kLongestName);
+  }
+  return names;
+}
+
 }  // namespace
 
 void ColumnPage::ImpHeader() {
@@ -76,8 +87,7 @@ void ColumnPage::ImpHeader() {
       return refuse_file(app_.text("Import_File_NoContacts"), MessageStyle::kExclamation);
     }
     const char delimiter = source.Delimiter.front();
-    const std::vector<std::string> header =
-        shown_fields(source.ImportRows.padded_text(0, delimiter), delimiter);
+    const std::vector<std::string> header = column_names(source.ImportRows, delimiter);
     fill_header_lists(header);
     if (std::any_of(header.begin(), header.end(), [](const auto& text) { return text.empty(); })) {
       app_.message_box(
