@@ -61,12 +61,4 @@ std::string fate_summary(const FateCounts& counts) {
   return concat(grouped(total), total == 1 ? " Nummer gelesen" : " Nummern gelesen", parts, ".");
 }
 
-std::string reason_of(Fate fate, std::optional<std::uint64_t> with,
-                      std::optional<std::string_view> existing) {
-  std::string reason(words_of(fate).reason);
-  if (with) reason += concat(" (Zeile ", std::to_string(*with), ")");
-  if (existing) reason += concat(" (im Telefonbuch: \"", *existing, "\")");
-  return reason;
-}
-
 }  // namespace quenda

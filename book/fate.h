@@ -3,7 +3,6 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -50,10 +49,5 @@ struct FateWords {
 /// The fates of a source in one German sentence: "1.204 Nummern gelesen: 1.150 neu, 31 leer."
 /// Fates that no number has are left out.
 [[nodiscard]] std::string fate_summary(const FateCounts& counts);
-
-/// Why a number has its fate, in German. `with` is the source's line of the entry that it gave way
-/// to, `existing` the name in the book, where there is one.
-[[nodiscard]] std::string reason_of(Fate fate, std::optional<std::uint64_t> with,
-                                    std::optional<std::string_view> existing);
 
 }  // namespace quenda

@@ -1,10 +1,9 @@
 #include "book/import_report.h"
 
-#include <algorithm>
 #include <array>
-#include <charconv>
 #include <initializer_list>
 
+#include "book/report_cells.h"
 #include "text/text.h"
 
 namespace quenda {
@@ -14,124 +13,75 @@ constexpr std::string_view kMark = "\xEF\xBB\xBF";
 constexpr std::string_view kCsvHeader =
     "Zeile;Datensatz;Rufnummer Nr.;Name;Rufnummer;Rufnummer im Export;Adresse;Ergebnis;Grund\r\n";
 
-constexpr std::string_view kBreaking = ";\"\r\n";
+/// How the entry that a number gave way to is told behind the reason.
+constexpr std::string_view kBeforeLine = " (Zeile ";
+constexpr std::string_view kBehindLine = ")";
+constexpr std::string_view kBeforeName = " (im Telefonbuch: \"";
+constexpr std::string_view kBehindName = "\")";
 
-/// Whether a text is a cell of CSV in UTF-8 as it stands: all ASCII, and nothing that wants quotes.
-bool is_plain_cell(std::string_view text) {
-  static constexpr std::array<bool, 256> kPlain = [] {
-    std::array<bool, 256> plain{};
-    for (std::size_t code = 0; code < 0x80; ++code) plain[code] = true;
-    for (const char c : kBreaking) plain[static_cast<unsigned char>(c)] = false;
-    return plain;
-  }();
-  return std::all_of(text.begin(), text.end(),
-                     [](char c) { return kPlain[static_cast<unsigned char>(c)]; });
-}
-
-/// A cell in quotes where a reader of CSV needs them.
-void append_csv_cell(std::string& out, std::string_view text) {
-  if (is_plain_cell(text)) {
-    out += text;
-    return;
-  }
-  const bool quoted = text.find_first_of(kBreaking) != text.npos;
-  if (!quoted) return append_utf8(out, text);
-  std::string_view part;
-  for (bool first = true; next_part(text, "\"", part); first = false) {
-    out += first ? "\"" : "\"\"";
-    append_utf8(out, part);
-  }
-  out += '"';
-}
-
-/// What a fate is called, as cells.
+/// What is the same in all rows of a fate.
 struct FateCells {
-  std::string word;
-  std::string reason;
+  std::string plain;   // word and reason
+  std::string quoted;  // the same, with a quote that is still open
 };
+
+std::string in_quotes(std::string_view text) {
+  std::string quoted(room_for_csv(text), '\0');
+  quoted.resize(static_cast<std::size_t>(put_csv_quoted(quoted.data(), text) - quoted.data()));
+  return quoted;
+}
 
 const FateCells& cells_of(Fate fate) {
   static const std::array<FateCells, kFates> kCells = [] {
     std::array<FateCells, kFates> cells;
     for (std::size_t i = 0; i < kFates; ++i) {
+      // None of these words needs quotes by itself.
       const FateWords& words = words_of(static_cast<Fate>(i));
-      append_csv_cell(cells.at(i).word, words.word);
-      append_csv_cell(cells.at(i).reason, words.reason);
+      const std::string reason = to_utf8(words.reason);
+      cells.at(i) = {concat(to_utf8(words.word), ";", reason),
+                     concat(to_utf8(words.word), ";\"", reason)};
     }
     return cells;
   }();
-  return kCells.at(static_cast<std::size_t>(fate));
-}
-
-void append_number(std::string& out, std::uint64_t number) {
-  std::array<char, 20> digits{};
-  const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
-  out.append(digits.data(), end);
-}
-
-void append_json_text(std::string& out, std::string_view text) {
-  constexpr std::string_view kHex = "0123456789abcdef";
-  const auto is_plain = [](char c) {
-    const auto code = static_cast<unsigned char>(c);
-    return code >= 0x20 && code != 0x7F && c != '"' && c != '\\';
-  };
-  out += '"';
-  while (!text.empty()) {
-    const auto end = std::find_if_not(text.begin(), text.end(), is_plain);
-    const auto plain = static_cast<std::size_t>(end - text.begin());
-    append_utf8(out, text.substr(0, plain));
-    if (plain == text.size()) break;
-    const char c = text[plain];
-    const auto code = static_cast<unsigned char>(c);
-    out += '\\';
-    if (c == '"' || c == '\\') {
-      out += c;
-    } else {
-      out += "u00";
-      out += kHex[code >> 4U];
-      out += kHex[code & 0xFU];
-    }
-    text.remove_prefix(plain + 1);
-  }
-  out += '"';
+  return kCells[static_cast<std::size_t>(fate)];
 }
 
 /// One object of JSON; members are added in the order of the calls.
 class JsonObject {
  public:
-  explicit JsonObject(std::string& out) : out_(out) { out_ += '{'; }
+  explicit JsonObject(ReportText& out) : out_(out) { out_.add("{"); }
   void text(std::string_view key, std::string_view value) {
     name(key);
-    append_json_text(out_, value);
+    out_.end_at(put_json_text(out_.room(room_for_json(value)), value));
   }
   /// A number, true, false or null.
   void plain(std::string_view key, std::string_view value) {
     name(key);
-    out_ += value;
+    out_.add(value);
   }
   void number(std::string_view key, std::uint64_t value) {
     name(key);
-    append_number(out_, value);
+    out_.end_at(put_number(out_.room(kMostDigits), value));
   }
   JsonObject object(std::string_view key) {
     name(key);
     return JsonObject(out_);
   }
-  void end() { out_ += '}'; }
+  void end() { out_.add("}"); }
 
  private:
   void name(std::string_view key) {
-    if (!first_) out_ += ',';
+    if (!first_) out_.add(",");
     first_ = false;
-    append_json_text(out_, key);
-    out_ += ':';
+    out_.end_at(put_json_text(out_.room(room_for_json(key)), key));
+    out_.add(":");
   }
 
-  std::string& out_;
+  ReportText& out_;
   bool first_ = true;
 };
 
-void append_json_head(std::string& out, const ReportHead& head) {
+void append_json_head(ReportText& out, const ReportHead& head) {
   std::size_t numbers = 0;
   for (const std::size_t count : head.fates) numbers += count;
   JsonObject object(out);
@@ -157,10 +107,10 @@ void append_json_head(std::string& out, const ReportHead& head) {
     unchosen.end();
   }
   object.end();
-  out += '\n';
+  out.add("\n");
 }
 
-void append_json_row(std::string& out, const ReportRow& row) {
+void append_json_row(ReportText& out, const ReportRow& row) {
   JsonObject object(out);
   object.number("line", row.line);
   object.number("record", row.record);
@@ -181,28 +131,47 @@ void append_json_row(std::string& out, const ReportRow& row) {
     object.plain("existing", "null");
   }
   object.end();
-  out += '\n';
+  out.add("\n");
 }
 
-void append_csv_row(std::string& out, const ReportRow& row) {
+/// The last cells of a row: what became of the number, and why.
+char* put_fate(char* to, const ReportRow& row) {
+  const FateCells& cells = cells_of(row.fate);
+  to = put(to, row.existing ? cells.quoted : cells.plain);
+  if (row.with) {
+    to = put(to, kBeforeLine);
+    to = put_number(to, *row.with);
+    to = put(to, kBehindLine);
+  }
+  if (row.existing) {
+    // The name has quotes around it, and so the cell has some, too.
+    static const std::string kBefore = in_quotes(kBeforeName);
+    static const std::string kBehind = in_quotes(kBehindName) + '"';
+    to = put(to, kBefore);
+    to = put_csv_quoted(to, *row.existing);
+    to = put(to, kBehind);
+  }
+  return to;
+}
+
+void append_csv_row(ReportText& out, const ReportRow& row) {
+  constexpr std::size_t kRoomBesideTexts = 512;
+  const std::array cells = {row.name, row.number, row.raw, row.address};
+  std::size_t room = kRoomBesideTexts;
+  for (const std::string_view cell : cells) room += room_for_csv(cell);
+  if (row.existing) room += room_for_csv(*row.existing);
+  char* to = out.room(room);
   for (const std::uint64_t number :
        {row.line, static_cast<std::uint64_t>(row.record), static_cast<std::uint64_t>(row.row)}) {
-    append_number(out, number);
-    out += ';';
+    to = put_number(to, number);
+    *to++ = ';';
   }
-  for (const std::string_view cell : {row.name, row.number, row.raw, row.address}) {
-    append_csv_cell(out, cell);
-    out += ';';
+  for (const std::string_view cell : cells) {
+    to = put_csv_cell(to, cell);
+    *to++ = ';';
   }
-  const FateCells& fate = cells_of(row.fate);
-  out += fate.word;
-  out += ';';
-  if (row.with || row.existing) {
-    append_csv_cell(out, reason_of(row.fate, row.with, row.existing));
-  } else {
-    out += fate.reason;
-  }
-  out += kCrLf;
+  to = put_fate(to, row);
+  out.end_at(put(to, kCrLf));
 }
 
 }  // namespace
@@ -212,16 +181,16 @@ ReportFormat report_format(std::string_view path) {
                                                         : ReportFormat::kCsv;
 }
 
-void append_report_head(std::string& out, ReportFormat format, const ReportHead& head) {
+void append_report_head(ReportText& out, ReportFormat format, const ReportHead& head) {
   if (format == ReportFormat::kJsonLines) {
     append_json_head(out, head);
   } else {
-    out += kMark;
-    out += kCsvHeader;
+    out.add(kMark);
+    out.add(kCsvHeader);
   }
 }
 
-void append_report_row(std::string& out, ReportFormat format, const ReportRow& row) {
+void append_report_row(ReportText& out, ReportFormat format, const ReportRow& row) {
   if (format == ReportFormat::kJsonLines) {
     append_json_row(out, row);
   } else {

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "book/fate.h"
+#include "book/report_text.h"
 
 // The report of an import: one line for each number of the source. As CSV for people and their
 // spreadsheets, as JSON lines for programs. UTF-8, unlike all other texts of the tool.
@@ -48,7 +49,7 @@ struct ReportRow {
 };
 
 /// What stands before the rows.
-void append_report_head(std::string& out, ReportFormat format, const ReportHead& head);
-void append_report_row(std::string& out, ReportFormat format, const ReportRow& row);
+void append_report_head(ReportText& out, ReportFormat format, const ReportHead& head);
+void append_report_row(ReportText& out, ReportFormat format, const ReportRow& row);
 
 }  // namespace quenda

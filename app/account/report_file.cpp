@@ -16,25 +16,25 @@ ReportTrouble ReportFile::trouble(const Files& files, std::string_view source,
 }
 
 std::string ReportFile::text(const TellRows& tell_rows) const {
-  std::string text;
+  ReportText text;
   append_report_head(text, format_, head);
   tell_rows([&](const ReportRow& row) { append_report_row(text, format_, row); });
-  return text;
+  return std::string(text.text());
 }
 
 void ReportFile::write(Files& files, const TellRows& tell_rows) const {
   constexpr std::size_t kPart = 1024UL * 1024;
-  std::string part;
+  ReportText part;
   append_report_head(part, format_, head);
-  files.write(path_, part);
+  files.write(path_, part.text());
   part.clear();
   tell_rows([&](const ReportRow& row) {
     append_report_row(part, format_, row);
     if (part.size() < kPart) return;
-    files.append(path_, part);
+    files.append(path_, part.text());
     part.clear();
   });
-  files.append(path_, part);
+  files.append(path_, part.text());
 }
 
 }  // namespace quenda
