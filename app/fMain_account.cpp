@@ -150,8 +150,9 @@ bool fMain::write_report_to(const std::string& path, bool dry_run) {
     report.head.result = end == End::kWritten || end == End::kToBeWritten ? "data"
                          : end == End::kFailed                            ? "refused"
                                                                           : "nodata";
-    report.head.records = account([&](const ReportRow& row) { report.count(row); });
-    report.write(app_.machine.files, [&](const auto& on_row) { account(on_row); });
+    const auto tell_rows = [this](const ReportFile::OnRow& on_row) { return account(on_row); };
+    report.count(app_.machine.files, tell_rows);
+    report.write(app_.machine.files, tell_rows);
   });
 }
 

@@ -1,7 +1,6 @@
 #include "book/import_report.h"
 
 #include <array>
-#include <initializer_list>
 
 #include "book/report_cells.h"
 #include "text/text.h"
@@ -154,22 +153,35 @@ char* put_fate(char* to, const ReportRow& row) {
   return to;
 }
 
-void append_csv_row(ReportText& out, const ReportRow& row) {
+/// Bytes that a row has to have room for.
+std::size_t room_for_row(const ReportRow& row) {
   constexpr std::size_t kRoomBesideTexts = 512;
-  const std::array cells = {row.name, row.number, row.raw, row.address};
-  std::size_t room = kRoomBesideTexts;
-  for (const std::string_view cell : cells) room += room_for_csv(cell);
-  if (row.existing) room += room_for_csv(*row.existing);
-  char* to = out.room(room);
-  for (const std::uint64_t number :
-       {row.line, static_cast<std::uint64_t>(row.record), static_cast<std::uint64_t>(row.row)}) {
-    to = put_number(to, number);
-    *to++ = ';';
-  }
-  for (const std::string_view cell : cells) {
-    to = put_csv_cell(to, cell);
-    *to++ = ';';
-  }
+  return kRoomBesideTexts + room_for_csv(row.name) + room_for_csv(row.number) +
+         room_for_csv(row.raw) + room_for_csv(row.address) +
+         (row.existing ? room_for_csv(*row.existing) : 0);
+}
+
+char* put_field(char* to, std::uint64_t number) {
+  to = put_number(to, number);
+  *to++ = ';';
+  return to;
+}
+
+char* put_field(char* to, std::string_view text) {
+  to = put_csv_cell(to, text);
+  *to++ = ';';
+  return to;
+}
+
+void append_csv_row(ReportText& out, const ReportRow& row) {
+  char* to = out.room(room_for_row(row));
+  to = put_field(to, row.line);
+  to = put_field(to, std::uint64_t{row.record});
+  to = put_field(to, static_cast<std::uint64_t>(row.row));
+  to = put_field(to, row.name);
+  to = put_field(to, row.number);
+  to = put_field(to, row.raw);
+  to = put_field(to, row.address);
   to = put_fate(to, row);
   out.end_at(put(to, kCrLf));
 }

@@ -20,6 +20,11 @@ enum class ReportFormat { kCsv, kJsonLines };
 /// By the ending of the path: ".json" in any letter case, or else CSV.
 [[nodiscard]] ReportFormat report_format(std::string_view path);
 
+/// Whether the head tells how many records and fates there are.
+[[nodiscard]] constexpr bool head_tells_counts(ReportFormat format) {
+  return format == ReportFormat::kJsonLines;
+}
+
 /// What the import was, and what came of it.
 struct ReportHead {
   std::string version;      // "1.17"

@@ -1,6 +1,7 @@
 #include "book/report_cells.h"
 
 #include <array>
+#include <bit>
 #include <cstring>
 
 #include "text/code_page_1252.h"
@@ -93,20 +94,28 @@ constexpr Spelling kJson(json_letter);
 /// What a cell needs: nothing, letters beyond ASCII, or quotes, maybe with such letters.
 enum class CellKind { kPlain, kForeign, kQuoted };
 
-/// Whole blocks are read.
-CellKind kind_of(const char* cell, std::size_t size) {
-  constexpr std::size_t kSize = ByteBlock::kSize;
+struct CellLook {
   CellKind kind = CellKind::kPlain;
+  std::size_t plain = 0;  // where the first letter beyond ASCII stands, if there are any
+};
+
+/// Whole blocks are read.
+CellLook look_at(const char* cell, std::size_t size) {
+  constexpr std::size_t kSize = ByteBlock::kSize;
+  CellLook look;
   for (std::size_t at = 0; at < size; at += kSize) {
     const ByteBlock bytes = ByteBlock::load(cell + at);
     const ByteBlock breaking =
         bytes.equal_to(';') | bytes.equal_to('"') | bytes.equal_to('\r') | bytes.equal_to('\n');
     const std::uint32_t own = size - at < kSize ? (1U << (size - at)) - 1 : ~0U;
-    if (((bytes | breaking).top_bits() & own) == 0) continue;
-    if ((breaking.top_bits() & own) != 0) return CellKind::kQuoted;
-    kind = CellKind::kForeign;
+    const std::uint32_t found = (bytes | breaking).top_bits() & own;
+    if (found == 0) continue;
+    if ((breaking.top_bits() & own) != 0) return {CellKind::kQuoted, 0};
+    if (look.kind == CellKind::kPlain) {
+      look = {CellKind::kForeign, at + static_cast<std::size_t>(std::countr_zero(found))};
+    }
   }
-  return kind;
+  return look;
 }
 
 }  // namespace
@@ -119,9 +128,9 @@ char* put_csv_quoted(char* to, std::string_view text) { return kCsv.put(to, text
 char* put_csv_cell(char* to, std::string_view text) {
   // As it stands at first, since most cells stay so.
   char* const end = put(to, text);
-  const CellKind kind = kind_of(to, text.size());
-  if (kind == CellKind::kPlain) return end;
-  if (kind == CellKind::kForeign) return kCsv.put(to, text);
+  const CellLook look = look_at(to, text.size());
+  if (look.kind == CellKind::kPlain) return end;
+  if (look.kind == CellKind::kForeign) return kCsv.put(to + look.plain, text.substr(look.plain));
   *to++ = '"';
   to = kCsv.put(to, text);
   *to++ = '"';

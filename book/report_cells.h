@@ -36,6 +36,10 @@ inline char* put(char* to, std::string_view text) {
 }
 
 inline char* put_number(char* to, std::uint64_t number) {
+  if (number < 10) {
+    *to = static_cast<char>('0' + number);
+    return to + 1;
+  }
   return std::to_chars(to, to + kMostDigits, number).ptr;
 }
 

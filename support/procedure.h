@@ -114,4 +114,16 @@ inline void skip_faults(std::initializer_list<std::function<void()>> steps) {
   }
 }
 
+/// Runs one step and keeps the fault that ended it; null where none did. For work that goes on to
+/// its end first: whoever keeps a fault raises it again inside of a procedure.
+template <class Step>
+std::exception_ptr keep_fault(Step step) {
+  try {
+    step();
+    return nullptr;
+  } catch (const std::exception&) {
+    return std::current_exception();
+  }
+}
+
 }  // namespace quenda

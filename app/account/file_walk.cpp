@@ -3,10 +3,12 @@
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <span>
 #include <string_view>
 #include <utility>
 #include <vector>
 
+#include "app/account/number_cells.h"
 #include "app/account/shown_number.h"
 #include "book/entry_list.h"
 #include "sources/cell_adaptation.h"
@@ -35,32 +37,25 @@ bool differs_in_file(std::string_view field, bool adapted) {
   return std::any_of(field.begin(), field.end(), [](char c) { return kChanged.contains(c); });
 }
 
-/// The last of the number columns.
-std::size_t last_number_column(const Composition& composition) {
-  std::size_t last = 0;
-  for (const std::size_t column : composition.columns.numbers) last = std::max(last, column);
-  return last;
-}
-
 /// The numbers of records that nothing was composed of. They are looked at without composing, since
 /// that is what failed.
 class UnreadRecords {
  public:
   explicit UnreadRecords(const ComposedFile& file)
-      : file_(file), last_(last_number_column(file.composition)) {}
+      : file_(file), cells_(file.records, file.delimiter, file.composition.columns.numbers) {}
 
   /// `number` has the place of the record; each of its numbers is told with the rest.
   void tell(std::size_t at, SourceNumber number, const OnSourceNumber& on_number) {
-    const std::vector<std::size_t>& columns = file_.composition.columns.numbers;
     const bool adapt = file_.composition.adapt;
-    fields_.split(file_.records, at, file_.delimiter, last_);
+    cells_.find(at);
     number.fate = Fate::kUnread;
     bool any = false;
-    for (std::size_t row = 0; row < std::min(columns.size(), kNumberRows); ++row) {
-      if (!fields_.has(columns[row])) continue;
-      const std::string cell = replace_all(fields_[columns[row]].text, "\"", "");
+    for (std::size_t row = 0; row < cells_.columns(); ++row) {
+      const auto field = cells_[row];
+      if (!field) continue;
+      const std::string cell = replace_all(*field, "\"", "");
       if (cell.empty()) continue;
-      const std::string raw = cell_of_file(fields_[columns[row]].text, file_.delimiter, adapt);
+      const std::string raw = cell_of_file(*field, file_.delimiter, adapt);
       number.raw = raw;
       number.row = static_cast<int>(row) + 1;
       number.origin = entry_origin(at, row + 1);
@@ -78,49 +73,49 @@ class UnreadRecords {
 
  private:
   const ComposedFile& file_;
-  std::size_t last_;
-  RecordFields fields_;
+  NumberCells cells_;
 };
 
 /// The numbers of records that the final list shows: only what the list does not know is looked up.
 class ListedRecords {
  public:
   ListedRecords(const ComposedFile& file, ListRows& listed)
-      : file_(file), listed_(listed), last_(last_number_column(file.composition)) {}
+      : file_(file),
+        listed_(listed),
+        cells_(file.records, file.delimiter, file.composition.columns.numbers) {}
 
   /// Whether every number of the record stands in the list, and it has one. A ";" that does not
   /// separate may break the entry's line, which the list does not show.
   bool look_at(std::size_t at) {
-    const Composition& composition = file_.composition;
-    const std::vector<std::size_t>& columns = composition.columns.numbers;
     found_ = 0;
     if (file_.delimiter != ';' && has_separator(file_.records[at])) return false;
-    fields_.split(file_.records, at, file_.delimiter, last_);
+    cells_.find(at);
     listed_.begin_record(at);
-    for (std::size_t row = 0; row < std::min(columns.size(), kNumberRows); ++row) {
-      if (!fields_.has(columns[row])) return false;
-      const std::string_view cell = fields_[columns[row]].text;
-      if (cell.find_first_not_of('"') == cell.npos) continue;
-      if (composition.adapt && !is_plain_number(cell)) return false;
+    for (std::size_t row = 0; row < cells_.columns(); ++row) {
+      const auto cell = cells_[row];
+      if (!cell) return false;
+      if (cell->find_first_not_of('"') == cell->npos) continue;
+      if (file_.composition.adapt && !is_plain_number(*cell)) return false;
       if (!listed_.has(entry_origin(at, row + 1))) return false;
-      rows_.at(found_++) = row;
+      numbers_[found_++] = {row, *cell};
     }
     return found_ > 0;
   }
-  [[nodiscard]] std::size_t count() const { return found_; }
 
-  /// Which of the number columns the record's n-th number stands in, and the cell.
-  [[nodiscard]] std::size_t row(std::size_t n) const { return rows_.at(n); }
-  [[nodiscard]] std::string_view cell(std::size_t n) const {
-    return fields_[file_.composition.columns.numbers[row(n)]].text;
+  /// A number of the record: which of the number columns it stands in, and the cell.
+  struct Number {
+    std::size_t row = 0;
+    std::string_view cell;
+  };
+  [[nodiscard]] std::span<const Number> numbers() const {
+    return std::span(numbers_).first(found_);
   }
 
  private:
   const ComposedFile& file_;
   ListRows& listed_;
-  std::size_t last_;
-  RecordFields fields_;
-  std::array<std::size_t, kNumberRows> rows_{};
+  NumberCells cells_;
+  std::array<Number, kNumberRows> numbers_;
   std::size_t found_ = 0;
 };
 
@@ -146,7 +141,7 @@ class FileWalk {
       if (at_ > 0 && only_delimiters(file_.records[at_], file_.delimiter)) continue;
       if (at_ > 0) ++count_;
       if (at_ >= file_.until) {
-        if (at_ > 0) unread_.tell(at_, placed(shown_.make("", "", "", "")), on_number_);
+        if (at_ > 0) tell_unread();
       } else if (at_ > 0 && listed_.look_at(at_)) {
         tell_listed();
       } else {
@@ -157,13 +152,12 @@ class FileWalk {
   }
 
  private:
-  [[nodiscard]] SourceNumber placed(SourceNumber number) const {
+  void place(SourceNumber& number) const {
     number.line = file_.lines.line_of(at_);
     number.record = count_;
-    return number;
   }
 
-  void tell(SourceNumber number, std::size_t row, std::string_view cell) {
+  void tell(SourceNumber& number, std::size_t row, std::string_view cell) {
     if (differs_in_file(cell, file_.composition.adapt)) {
       raw_ = cell_of_file(cell, file_.delimiter, file_.composition.adapt);
       cell = raw_;
@@ -171,15 +165,22 @@ class FileWalk {
     number.raw = cell;
     number.row = static_cast<int>(row) + 1;
     number.origin = entry_origin(at_, row + 1);
-    on_number_(placed(number));
+    place(number);
+    on_number_(number);
   }
 
   void tell_listed() {
-    for (std::size_t n = 0; n < listed_.count(); ++n) {
+    for (const ListedRecords::Number& listed : listed_.numbers()) {
       SourceNumber number;
       number.composed = composed_++;
-      tell(number, listed_.row(n), listed_.cell(n));
+      tell(number, listed.row, listed.cell);
     }
+  }
+
+  void tell_unread() {
+    SourceNumber number;
+    place(number);
+    unread_.tell(at_, number, on_number_);
   }
 
   void compose() {
@@ -187,9 +188,10 @@ class FileWalk {
     unused_.clear();
     composer_.compose(file_.records, at_, unused_);
     if (any_ || at_ == 0) return;
-    SourceNumber number = placed(shown_.make("", "", composer_.name(), ""));
+    SourceNumber number = shown_.make("", "", composer_.name(), "");
     number.origin = entry_origin(at_, 0);
     number.fate = Fate::kNoNumber;
+    place(number);
     on_number_(number);
   }
 

@@ -25,22 +25,27 @@ class Repeats {
   std::size_t next_ = 0;
 };
 
-}  // namespace
-
-ReportRow told_of_row(const AccountInput& input, std::size_t row) {
-  ReportRow told;
+/// What the report tells of a row of the final list, but for its place in the source.
+void tell_of_row(const AccountInput& input, std::size_t row, ReportRow& told) {
   told.list_row = row;
   told.name = input.list.cell(row, kEntryName);
   told.number = input.list.cell(row, kEntryNumber);
   told.address = input.list.cell(row, kEntryAddress);
   if (told.number.empty()) {
     told.fate = Fate::kNoNumber;
-    return told;
+    return;
   }
   const MergeAccount::Verdict verdict = input.verdict(row);
   told.fate = verdict.fate;
   if (verdict.with) told.with = input.line_of(input.list.origin(*verdict.with));
   if (verdict.existing) told.existing = input.name_in_book(*verdict.existing);
+}
+
+}  // namespace
+
+ReportRow told_of_row(const AccountInput& input, std::size_t row) {
+  ReportRow told;
+  tell_of_row(input, row, told);
   return told;
 }
 
@@ -61,7 +66,7 @@ std::size_t account_for(const AccountInput& input,
       if (!earlier && !input.composed) {
         row.fate = Fate::kUnread;
       } else if (listed) {
-        row = told_of_row(input, *listed);
+        tell_of_row(input, *listed, row);
       } else if (earlier) {
         row.fate = Fate::kRepeated;
         row.with = input.line_of(*earlier);

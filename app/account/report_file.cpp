@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "platform/files.h"
+#include "support/procedure.h"
 
 namespace quenda {
 ReportFile::ReportFile(std::string path) : path_(std::move(path)), format_(report_format(path_)) {}
@@ -15,26 +16,58 @@ ReportTrouble ReportFile::trouble(const Files& files, std::string_view source,
   return files.can_write(path_) ? ReportTrouble::kNone : ReportTrouble::kNotWritable;
 }
 
-std::string ReportFile::text(const TellRows& tell_rows) const {
-  ReportText text;
-  append_report_head(text, format_, head);
-  tell_rows([&](const ReportRow& row) { append_report_row(text, format_, row); });
-  return std::string(text.text());
+void ReportFile::count(Files& files, const TellRows& tell_rows) {
+  const bool at_once = wanted() && !head_tells_counts(format_);
+  if (at_once) begin(files);
+  head.records = tell_rows([&](const ReportRow& row) {
+    ++head.fates.at(static_cast<std::size_t>(row.fate));
+    if (at_once) add(files, row);
+  });
+  has_rows_ = at_once;
 }
 
-void ReportFile::write(Files& files, const TellRows& tell_rows) const {
+void ReportFile::write(Files& files, const TellRows& tell_rows) {
+  add_rows(files, tell_rows);
+  write_part(files);
+  if (trouble_) std::rethrow_exception(trouble_);
+}
+
+std::string_view ReportFile::text(Files& files, const TellRows& tell_rows) {
+  add_rows(files, tell_rows);
+  return part_.text();
+}
+
+void ReportFile::begin(Files& files) {
+  append_report_head(part_, format_, head);
+  if (!on_terminal()) write_part(files);
+}
+
+void ReportFile::add(Files& files, const ReportRow& row) {
   constexpr std::size_t kPart = 1024UL * 1024;
-  ReportText part;
-  append_report_head(part, format_, head);
-  files.write(path_, part.text());
-  part.clear();
-  tell_rows([&](const ReportRow& row) {
-    append_report_row(part, format_, row);
-    if (part.size() < kPart) return;
-    files.append(path_, part.text());
-    part.clear();
+  if (trouble_) return;
+  append_report_row(part_, format_, row);
+  if (part_.size() >= kPart && !on_terminal()) write_part(files);
+}
+
+void ReportFile::add_rows(Files& files, const TellRows& tell_rows) {
+  if (has_rows_) return;
+  has_rows_ = true;
+  begin(files);
+  tell_rows([&](const ReportRow& row) { add(files, row); });
+}
+
+void ReportFile::write_part(Files& files) {
+  if (trouble_) return;
+  // The numbers are counted to the end all the same.
+  trouble_ = keep_fault([&] {
+    if (begun_) {
+      files.append(path_, part_.text());
+    } else {
+      files.write(path_, part_.text());
+    }
   });
-  files.append(path_, part.text());
+  begun_ = true;
+  part_.clear();
 }
 
 }  // namespace quenda

@@ -75,10 +75,13 @@ void BatchRun::give_account() {
   head.source = options_.outlook ? "outlook" : main_.source.IsISpyFile ? "ispy" : "file";
   head.dry_run = options_.dry_run;
   head.options = options_that_held();
+  const ReportFile::TellRows tell_rows = [this](const ReportFile::OnRow& on_row) {
+    return composed_ ? main_.account(on_row) : 0;
+  };
   if (composed_) {
     // A run that was refused half way is told as what it would have done.
     if (link_.result().empty() && !main_.composition_failed()) main_.look_ahead();
-    head.records = main_.account([this](const ReportRow& row) { report_.count(row); });
+    report_.count(machine_.files, tell_rows);
   }
   head.result = account_result();
   progress_.clear();
@@ -86,11 +89,8 @@ void BatchRun::give_account() {
   if (status_ == kExitDone && options_.strict && count_lost(report_.fates()) > 0) {
     status_ = kExitNumbersLost;
   }
-  const auto tell_rows = [this](const ReportFile::OnRow& on_row) {
-    if (composed_) main_.account(on_row);
-  };
   if (report_.on_terminal()) {
-    console_.out << report_.text(tell_rows);
+    console_.out << report_.text(machine_.files, tell_rows);
   } else if (report_.wanted()) {
     const bool written = procedure(app_.errors, "quenda-import.give_account", {},
                                    [&] { report_.write(machine_.files, tell_rows); });
