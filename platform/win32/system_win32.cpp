@@ -74,8 +74,18 @@ bool Win32System::previous_instance() const {
 
 std::string Win32System::long_path(std::string_view path) const {
   const std::wstring given = wide(path);
-  std::wstring answer(GetLongPathNameW(given.c_str(), nullptr, 0), L'\0');
-  answer.resize(GetLongPathNameW(given.c_str(), answer.data(), static_cast<DWORD>(answer.size())));
+  // Every call looks into each folder on the way: one has to do where the path is no longer than
+  // most.
+  std::wstring answer(MAX_PATH, L'\0');
+  const auto ask = [&] {
+    return GetLongPathNameW(given.c_str(), answer.data(), static_cast<DWORD>(answer.size()));
+  };
+  DWORD length = ask();
+  if (length > answer.size()) {
+    answer.resize(length);
+    length = ask();
+  }
+  answer.resize(length);
   return answer.empty() ? std::string(path) : exact_1252(answer).value_or(std::string(path));
 }
 

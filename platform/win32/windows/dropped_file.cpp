@@ -9,10 +9,6 @@
 
 namespace quenda {
 
-void accept_drops(HWND window, const Form& form) {
-  DragAcceptFiles(window, form.on_drop_file ? TRUE : FALSE);
-}
-
 void take_drop(const Form& form, WPARAM drop, bool taken) {
   auto* const dropped = from_lparam<HDROP__>(static_cast<LPARAM>(drop));
   std::wstring path(DragQueryFileW(dropped, 0, nullptr, 0), L'\0');

@@ -5,9 +5,6 @@
 
 namespace quenda {
 
-/// Has a form's window take files that are dropped onto it, if the form knows what to do with them.
-void accept_drops(HWND window, const Form& form);
-
 /// Hands what the user has dropped onto a form's window to the form: the first of several files, or
 /// that its name cannot be used. With `taken` false it is only put away.
 void take_drop(const Form& form, WPARAM drop, bool taken);

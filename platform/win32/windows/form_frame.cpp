@@ -22,6 +22,7 @@ DialogTemplate dialog_template(const Form& form, bool over_owner) {
   made.fixed.style |= over_owner ? WS_POPUP | DS_MODALFRAME : WS_OVERLAPPED | WS_MINIMIZEBOX;
   if (form.resizable()) made.fixed.style |= WS_THICKFRAME | WS_MAXIMIZEBOX;
   made.fixed.dwExtendedStyle = WS_EX_CONTROLPARENT;
+  if (form.on_drop_file) made.fixed.dwExtendedStyle |= WS_EX_ACCEPTFILES;
   const std::wstring_view name = kFormClass;
   std::copy(name.begin(), name.end(), made.texts.begin() + 1);
   return made;
