@@ -1,7 +1,12 @@
 // What the phone book hears, and what becomes of the import when the phone book goes or hangs.
 #include <gmock/gmock.h>
 
+#include "platform/win32/handles.h"
+#include "platform/win32/text_win32.h"
+#include "text/text.h"
 #include "tools/driver/wizard_test.h"
+// dde.h needs windows.h first.
+#include <dde.h>
 
 namespace quenda {
 namespace {
@@ -72,6 +77,36 @@ TEST_F(Host, TwoHostsHearTheSame) {
   EXPECT_TRUE(phone_book_->hears("data"));
   EXPECT_TRUE(second.hears("closed"));
   EXPECT_THAT(second.heard(), ElementsAre("ON", "data", "closed"));
+}
+
+/// Calls every window once, as the system's library does; how many have answered.
+int answers_to_a_call() {
+  static int answers;
+  answers = 0;
+  const WindowHandle caller(
+      CreateWindowExW(0, L"Static", L"", 0, 0, 0, 0, 0, nullptr, nullptr, nullptr, nullptr));
+  const WNDPROC count = [](HWND window, UINT message, WPARAM wparam, LPARAM lparam) -> LRESULT {
+    if (message == WM_DDE_ACK) ++answers;
+    return DefWindowProcW(window, message, wparam, lparam);
+  };
+  SetWindowLongPtrW(caller.get(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(count));
+  SendMessageTimeoutW(HWND_BROADCAST, WM_DDE_INITIATE, reinterpret_cast<WPARAM>(caller.get()),
+                      MAKELPARAM(GlobalAddAtomW(L"Import"), GlobalAddAtomW(L"book")),
+                      SMTO_ABORTIFHUNG, 5000, nullptr);
+  return answers;
+}
+
+TEST_F(Host, WhoeverSeesTheWindowIsAnsweredOnceByThen) {
+  for (int round = 0; round < 5; ++round) {
+    tool_ = Process(concat("\"", suite_.tool(), "\" /i"));
+    HWND window = nullptr;
+    while (tool_.running() && IsWindowVisible(window) == 0) {
+      window = FindWindowW(nullptr, wide(kMainTitle).c_str());
+    }
+    EXPECT_EQ(answers_to_a_call(), 1);
+    PostMessageW(window, WM_CLOSE, 0, 0);
+    EXPECT_EQ(tool_.exit_code(), DWORD{0});
+  }
 }
 
 TEST_F(Host, AHostThatDiesOnTheFirstWordIsNoLoss) {

@@ -1,5 +1,7 @@
 #include "platform/win32/windows/form_window.h"
 
+#include <dde.h>
+
 #include <algorithm>
 #include <utility>
 
@@ -37,7 +39,6 @@ FormWindow::FormWindow(MessageLoop& loop, Form& form, HWND owner)
     SendMessageW(window(), DM_SETDEFID, static_cast<WPARAM>(id_of(*form_.default_button)), 0);
   }
   show_title();
-  accept_drops(window(), form_);
   form_.attach(this);
   loop_.add(*this);
   show_changes();
@@ -281,6 +282,11 @@ INT_PTR FormWindow::on_message(UINT message, WPARAM wparam, LPARAM lparam) {
       if (form_.pointer() != Pointer::kHourglass || LOWORD(lparam) != HTCLIENT) return FALSE;
       SetCursor(LoadCursorW(nullptr, IDC_WAIT));
       return answer(TRUE);
+    case WM_DDE_INITIATE:
+      if (owner_ == nullptr && loop_.on_host_call) {
+        loop_.on_host_call(reinterpret_cast<HWND>(wparam), lparam);
+      }
+      return TRUE;
     case WM_SETFOCUS:
       return focus_.rests() ? TRUE : FALSE;
     case WM_ACTIVATE:

@@ -33,6 +33,10 @@ class MessageLoop {
   /// Sees every click and key before the windows do.
   [[nodiscard]] PressGuard& presses() { return presses_; }
 
+  /// Another program looks for somebody to talk to: its window, and the names that it asks for. The
+  /// main window hears of it, and whoever offers a link takes the call here.
+  std::function<void(HWND host, LPARAM names)> on_host_call;
+
   /// Runs a handler on behalf of the system, which gets `otherwise` when the handler throws.
   template <class Body, class Result>
   Result at_edge(Body&& body, Result otherwise) noexcept {

@@ -1,6 +1,9 @@
 // The host link with real hosts: each runs in a thread of its own with its own message loop, as
 // the phone book does in its process.
 #include "platform/win32/dde_server.h"
+// windows.h has to come first.
+#include <dde.h>
+#include <ddeml.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -12,11 +15,13 @@
 
 #include "platform/win32/handles.h"
 #include "platform/win32/text_win32.h"
+#include "platform/win32/windows/form_window.h"
 
 namespace quenda {
 namespace {
 
 using testing::ElementsAre;
+using testing::IsEmpty;
 
 /// What a host has heard, in its order.
 class Heard {
@@ -151,6 +156,8 @@ class DdeServerTest : public testing::Test {
 
   MessageLoop loop_;
   DdeServer server_{loop_, "Import"};
+  Form form_{"fTest"};
+  FormWindow main_{loop_, form_, nullptr};  // what hosts find
   int opened_ = 0;
   int closed_ = 0;
   int failed_ = 0;
@@ -212,6 +219,120 @@ TEST_F(DdeServerTest, AnotherTopicIsRefused) {
   Host stranger(loop_, "journal", CF_TEXT);
   EXPECT_TRUE(becomes([&] { return stranger.refused(); }));
   EXPECT_EQ(opened_, 0);
+}
+
+/// A host that speaks by bare messages, as programs do that are older than the system's library.
+class BareHost {
+ public:
+  BareHost()
+      : window_(CreateWindowExW(0, WC_STATICW, L"", 0, 0, 0, 0, 0, nullptr, nullptr, nullptr,
+                                nullptr)) {
+    SetWindowLongPtrW(window_.get(), GWLP_USERDATA, as_lparam(this));
+    SetWindowLongPtrW(window_.get(), GWLP_WNDPROC,
+                      reinterpret_cast<LONG_PTR>(&BareHost::procedure));
+  }
+
+  void call(HWND tool, const wchar_t* service, const wchar_t* topic) {
+    const auto name = [](const wchar_t* text) {
+      return text == nullptr ? ATOM{0} : GlobalAddAtomW(text);
+    };
+    SendMessageW(tool, WM_DDE_INITIATE, reinterpret_cast<WPARAM>(window_.get()),
+                 MAKELPARAM(name(service), name(topic)));
+  }
+  void post(UINT message, UINT_PTR low, const wchar_t* item) {
+    post(message, low, UINT_PTR{GlobalAddAtomW(item)});
+  }
+  void post(UINT message, UINT_PTR low, UINT_PTR high) {
+    PostMessageW(partner, message, reinterpret_cast<WPARAM>(window_.get()),
+                 PackDDElParam(message, low, high));
+  }
+  static UINT_PTR data() {
+    return reinterpret_cast<UINT_PTR>(GlobalAlloc(GMEM_MOVEABLE | GMEM_ZEROINIT, sizeof(DDEPOKE)));
+  }
+  /// Watches in Windows-1252.
+  void watch(const wchar_t* item) {
+    const HGLOBAL options = GlobalAlloc(GMEM_MOVEABLE | GMEM_ZEROINIT, sizeof(DDEADVISE));
+    static_cast<DDEADVISE*>(GlobalLock(options))->cfFormat = CF_TEXT;
+    GlobalUnlock(options);
+    post(WM_DDE_ADVISE, reinterpret_cast<UINT_PTR>(options), item);
+  }
+
+  HWND partner = nullptr;
+  std::vector<std::string> heard;
+
+ private:
+  static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
+    if (message < WM_DDE_FIRST || message > WM_DDE_LAST) {
+      return DefWindowProcW(window, message, wparam, lparam);
+    }
+    auto* const self = from_lparam<BareHost>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    UINT_PTR low = 0;
+    UINT_PTR high = 0;
+    if (InSendMessage() != FALSE || self->partner == nullptr) {
+      self->partner = reinterpret_cast<HWND>(wparam);
+      self->heard.emplace_back("(here)");
+    } else if (message == WM_DDE_TERMINATE) {
+      self->heard.emplace_back("(end)");
+    } else if (UnpackDDElParam(message, lparam, &low, &high) != FALSE) {
+      if (message == WM_DDE_ACK) {
+        self->heard.emplace_back(low == 0x8000 ? "(yes)" : "(no)");
+      } else {
+        const auto* const data =
+            static_cast<const DDEDATA*>(GlobalLock(reinterpret_cast<HGLOBAL>(low)));
+        self->heard.emplace_back(from_lparam<char>(as_lparam(data->Value)));
+      }
+    }
+    return 0;
+  }
+
+  WindowHandle window_;
+};
+
+class BareHostTest : public DdeServerTest {
+ protected:
+  /// What the host hears by what has just been posted.
+  std::vector<std::string> answers() {
+    host_.heard.clear();
+    becomes([] { return false; }, 60);
+    return host_.heard;
+  }
+  BareHost host_;
+};
+
+TEST_F(BareHostTest, IsAnsweredOnceAndOnlyIfItMeansTheTool) {
+  host_.call(main_.window(), L"Journal", L"book");
+  host_.call(main_.window(), L"Import", L"journal");
+  EXPECT_THAT(host_.heard, IsEmpty());
+  host_.call(main_.window(), nullptr, nullptr);
+  EXPECT_THAT(host_.heard, ElementsAre("(here)"));
+  EXPECT_EQ(opened_, 1);
+  host_.post(WM_DDE_TERMINATE, 0, UINT_PTR{0});
+  EXPECT_THAT(answers(), ElementsAre("(end)"));
+  EXPECT_EQ(closed_, 1);
+}
+
+TEST_F(BareHostTest, GetsTheItemAndNothingElse) {
+  host_.call(main_.window(), L"Import", L"book");
+  host_.post(WM_DDE_REQUEST, CF_TEXT, L"txtDDE");
+  EXPECT_THAT(answers(), ElementsAre("ON"));
+  host_.post(WM_DDE_REQUEST, CF_TEXT, L"txtOther");
+  host_.post(WM_DDE_REQUEST, CF_BITMAP, L"txtDDE");
+  host_.watch(L"txtOther");
+  host_.post(WM_DDE_POKE, BareHost::data(), L"txtDDE");
+  host_.post(WM_DDE_EXECUTE, 0, BareHost::data());
+  EXPECT_THAT(answers(), ElementsAre("(no)", "(no)", "(no)", "(no)", "(no)"));
+}
+
+TEST_F(BareHostTest, HearsNothingMoreAfterItHasCeasedToWatch) {
+  host_.call(main_.window(), L"Import", L"book");
+  host_.watch(L"txtDDE");
+  EXPECT_THAT(answers(), ElementsAre("(yes)", "ON"));
+  host_.post(WM_DDE_UNADVISE, CF_TEXT, L"txtDDE");
+  EXPECT_THAT(answers(), ElementsAre("(yes)"));
+  server_.set_text("data");
+  EXPECT_THAT(answers(), IsEmpty());
+  server_.shut_down();
+  EXPECT_THAT(answers(), ElementsAre("(end)"));
 }
 
 }  // namespace
