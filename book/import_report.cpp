@@ -161,8 +161,8 @@ std::size_t room_for_row(const ReportRow& row) {
          (row.existing ? room_for_csv(*row.existing) : 0);
 }
 
-char* put_field(char* to, std::uint64_t number) {
-  to = put_number(to, number);
+char* put_field(char* to, CountedNumber& counted, std::uint64_t number) {
+  to = counted.put(to, number);
   *to++ = ';';
   return to;
 }
@@ -175,9 +175,9 @@ char* put_field(char* to, std::string_view text) {
 
 void append_csv_row(ReportText& out, const ReportRow& row) {
   char* to = out.room(room_for_row(row));
-  to = put_field(to, row.line);
-  to = put_field(to, std::uint64_t{row.record});
-  to = put_field(to, static_cast<std::uint64_t>(row.row));
+  to = put_field(to, out.line, row.line);
+  to = put_field(to, out.record, row.record);
+  to = put_field(to, out.column, static_cast<std::uint64_t>(row.row));
   to = put_field(to, row.name);
   to = put_field(to, row.number);
   to = put_field(to, row.raw);

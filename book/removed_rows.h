@@ -18,7 +18,7 @@ class RemovedRows {
   void note(const FlatTable& list, std::size_t row);
   /// Whether the user has taken out the row that was the nth of its origin, counted from 0.
   [[nodiscard]] bool has(std::uint32_t origin, std::size_t nth) const {
-    return removed_.contains({origin, nth});
+    return !removed_.empty() && removed_.contains({origin, nth});
   }
 
  private:

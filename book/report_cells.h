@@ -1,9 +1,11 @@
 #pragma once
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <string_view>
 
 #include "text/byte_block.h"
@@ -36,12 +38,34 @@ inline char* put(char* to, std::string_view text) {
 }
 
 inline char* put_number(char* to, std::uint64_t number) {
-  if (number < 10) {
-    *to = static_cast<char>('0' + number);
-    return to + 1;
-  }
   return std::to_chars(to, to + kMostDigits, number).ptr;
 }
+
+/// A number that mostly is the one after the last: then only its digits at the end are changed.
+/// `kMostDigits` bytes have to be there, whatever it takes.
+class CountedNumber {
+ public:
+  char* put(char* to, std::uint64_t number) {
+    if (number != last_) count_to(number);
+    std::memcpy(to, digits_.data(), digits_.size());
+    return to + size_;
+  }
+
+ private:
+  void count_to(std::uint64_t number) {
+    char& last_digit = digits_[size_ - 1];
+    if (number > last_ && number - last_ == 1 && last_digit != '9') {
+      ++last_digit;
+    } else {
+      size_ = static_cast<std::size_t>(put_number(digits_.data(), number) - digits_.data());
+    }
+    last_ = number;
+  }
+
+  std::uint64_t last_ = 0;
+  std::array<char, kMostDigits> digits_{'0'};
+  std::size_t size_ = 1;
+};
 
 /// A cell of CSV, in quotes where a reader needs them.
 char* put_csv_cell(char* to, std::string_view text);

@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "book/report_cells.h"
+
 namespace quenda {
 
 /// The text of a report, which grows row by row. Rows are written straight into its room.
@@ -26,6 +28,11 @@ class ReportText {
     end_at(std::copy(text.begin(), text.end(), to));
   }
   void clear() { used_ = 0; }
+
+  // What the rows count up.
+  CountedNumber line;
+  CountedNumber record;
+  CountedNumber column;
 
  private:
   std::string buffer_;  // with room behind what is used of it

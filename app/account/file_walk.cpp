@@ -171,9 +171,8 @@ class FileWalk {
 
   void tell_listed() {
     for (const ListedRecords::Number& listed : listed_.numbers()) {
-      SourceNumber number;
-      number.composed = composed_++;
-      tell(number, listed.row, listed.cell);
+      listed_number_.composed = composed_++;
+      tell(listed_number_, listed.row, listed.cell);
     }
   }
 
@@ -212,6 +211,7 @@ class FileWalk {
   EntryComposer composer_;
   FlatTable unused_{kEntryColumns};
   ShownNumber shown_;
+  SourceNumber listed_number_;  // without texts and fate, as of all that the list shows
   std::string raw_;
   std::size_t at_ = 0;
   std::size_t count_ = 0;       // of records

@@ -53,8 +53,12 @@ std::size_t account_for(const AccountInput& input,
                         const std::function<void(const ReportRow&)>& on_row) {
   Repeats repeats(input.repeated);
   ListRows list_rows(input.list, input.removed);
+  ReportRow row;
   return input.walk(list_rows, [&](const SourceNumber& number) {
-    ReportRow row;
+    // Of the row before, only what not every number sets has to be forgotten.
+    row.with.reset();
+    row.existing.reset();
+    row.list_row.reset();
     row.name = number.name;
     row.number = number.number;
     row.address = number.address;

@@ -9,6 +9,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "book/report_cells.h"
 #include "text/literal_1252.h"
@@ -83,6 +84,17 @@ std::string in_json(std::string_view text) {
 std::string in_csv(std::string_view text) {
   const std::string cell = replace_all(to_utf8(text), "\"", "\"\"");
   return text.find_first_of(";\"\r\n") == text.npos ? cell : concat("\"", cell, "\"");
+}
+
+TEST(ReportCells, ANumberCountsOnOrJumps) {
+  CountedNumber counted;
+  std::vector<std::uint64_t> numbers = {0, 1, 1, 5, 6, 3, 0, 10, 9, 100, 99, ~std::uint64_t{0}};
+  for (std::uint64_t number = 0; number < 1200; ++number) numbers.push_back(number);
+  for (const std::uint64_t number : numbers) {
+    std::array<char, kMostDigits> room{};
+    const char* const end = counted.put(room.data(), number);
+    ASSERT_EQ(std::string(static_cast<const char*>(room.data()), end), std::to_string(number));
+  }
 }
 
 TEST(ReportCells, EveryCharacterIsWrittenAtEveryPlace) {
