@@ -110,6 +110,8 @@ class NativeComboList : public PeerOf<ComboList> {
   [[nodiscard]] WindowSpec spec() const override {
     return {WC_COMBOBOXW, true, WS_VSCROLL | CBS_DROPDOWNLIST};
   }
+  /// The system makes its list with it, a window of the screen's own.
+  [[nodiscard]] bool can_wait() const override { return true; }
 
   void show(Aspect aspect) override {
     if (aspect == Aspect::kItems) {

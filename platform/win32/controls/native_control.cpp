@@ -33,6 +33,10 @@ NativeControl::~NativeControl() {
   SetWindowLongPtrW(window_, GWLP_USERDATA, 0);
 }
 
+bool NativeControl::wants_window() const {
+  return control_.visible() && (form_.is_up() || !can_wait());
+}
+
 void NativeControl::create(HWND parent, int id, bool begins_group) {
   const WindowSpec made = spec();
   const bool reached = made.takes_input && control_.tab_index() >= 0;
@@ -83,7 +87,7 @@ void NativeControl::note_all() {
 void NativeControl::show_changes() {
   if (noted_ == 0) return;
   if (window_ == nullptr) {
-    if (!control_.visible()) return;
+    if (!wants_window()) return;
     form_.create_late(*this);
   }
   const unsigned noted = std::exchange(noted_, 0);

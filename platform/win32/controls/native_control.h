@@ -50,6 +50,8 @@ class NativeControl : public ControlPeer {
   [[nodiscard]] HWND window() const { return window_; }
   /// Whether the control was brought to the front while it had no window.
   [[nodiscard]] bool in_front() const { return in_front_; }
+  /// Whether the control is to have its native window by now.
+  [[nodiscard]] bool wants_window() const;
   /// Makes the native window inside its parent. Arrow keys go round within a group.
   void create(HWND parent, int id, bool begins_group);
   /// Moves the window to where the control lies at the form's DPI and size.
@@ -76,6 +78,9 @@ class NativeControl : public ControlPeer {
   };
 
   [[nodiscard]] virtual WindowSpec spec() const = 0;
+  /// Whether the form's window is rather shown first, because this one takes long to make or is not
+  /// to be seen. It is there by the first picture all the same.
+  [[nodiscard]] virtual bool can_wait() const { return false; }
   /// Runs once after the window has been made.
   virtual void prepare() {}
   /// Shows one changed aspect that the kind of control has beyond the common ones.

@@ -3,15 +3,15 @@
 namespace quenda {
 namespace {
 
-void register_class(const wchar_t* name, WNDPROC procedure, int extra,
-                    const wchar_t* pointer = IDC_ARROW, UINT style = 0) {
+void register_class(const wchar_t* name, WNDPROC procedure, int extra, HCURSOR pointer,
+                    UINT style = 0) {
   WNDCLASSEXW window_class{};
   window_class.cbSize = sizeof window_class;
   window_class.style = style;
   window_class.lpfnWndProc = procedure;
   window_class.cbWndExtra = extra;
   window_class.hInstance = GetModuleHandleW(nullptr);
-  window_class.hCursor = LoadCursorW(nullptr, pointer);
+  window_class.hCursor = pointer;
   window_class.hbrBackground = GetSysColorBrush(COLOR_3DFACE);
   window_class.lpszClassName = name;
   RegisterClassExW(&window_class);
@@ -22,10 +22,14 @@ void register_class(const wchar_t* name, WNDPROC procedure, int extra,
 void register_window_classes() {
   const INITCOMMONCONTROLSEX used{sizeof used, ICC_STANDARD_CLASSES | ICC_WIN95_CLASSES};
   InitCommonControlsEx(&used);
-  register_class(kPanelClass, &DefWindowProcW, 0);
-  register_class(kPictureClass, &DefWindowProcW, 0);
-  register_class(kSplitterClass, &DefWindowProcW, 0, IDC_SIZENS, CS_DBLCLKS);
-  register_class(kFormClass, &DefDlgProcW, DLGWINDOWEXTRA);
+  const HCURSOR arrow = LoadCursorW(nullptr, IDC_ARROW);
+  register_class(kPanelClass, &DefWindowProcW, 0, arrow);
+  register_class(kPictureClass, &DefWindowProcW, 0, arrow);
+  register_class(kFormClass, &DefDlgProcW, DLGWINDOWEXTRA, arrow);
+}
+
+void register_splitter_class() {
+  register_class(kSplitterClass, &DefWindowProcW, 0, LoadCursorW(nullptr, IDC_SIZENS), CS_DBLCLKS);
 }
 
 bool forward_to_parent(HWND area, UINT message, WPARAM wparam, LPARAM lparam, LRESULT& result) {

@@ -13,8 +13,10 @@ inline constexpr const wchar_t* kSplitterClass = L"QuendaSplitter";
 /// The window of a form.
 inline constexpr const wchar_t* kFormClass = L"QuendaForm";
 
-/// Registers the classes above; again is no harm.
+/// Registers the classes above; again is no harm. That of the border by itself, since no form shows
+/// one when it comes up.
 void register_window_classes();
+void register_splitter_class();
 
 /// Passes the notices of controls that lie in an area on to the window that the area lies in.
 /// True when the message was one of those.

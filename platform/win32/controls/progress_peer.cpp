@@ -90,6 +90,7 @@ class NativeTimer : public PeerOf<Timer> {
 
  protected:
   [[nodiscard]] WindowSpec spec() const override { return {kPanelClass, false, 0}; }
+  [[nodiscard]] bool can_wait() const override { return true; }
 
   void show(Aspect aspect) override {
     if (aspect == Aspect::kVisible) ShowWindow(window(), SW_HIDE);

@@ -153,6 +153,7 @@ class NativeSplitter : public PeerOf<Splitter> {
 }  // namespace
 
 std::unique_ptr<NativeControl> make_splitter(FormWindow& form, Splitter& splitter) {
+  register_splitter_class();
   return std::make_unique<NativeSplitter>(form, splitter);
 }
 

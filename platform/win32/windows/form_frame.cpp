@@ -37,4 +37,13 @@ WindowHandle make_form_window(const Form& form, HWND owner, DLGPROC procedure, L
                                                  procedure, parameter));
 }
 
+void show_pointer(HWND window) {
+  POINT at{};
+  GetCursorPos(&at);
+  const HWND under = WindowFromPoint(at);
+  if (under != window && IsChild(window, under) == 0) return;
+  SendMessageW(under, WM_SETCURSOR, reinterpret_cast<WPARAM>(under),
+               MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
+}
+
 }  // namespace quenda

@@ -34,10 +34,11 @@ FormWindow::FormWindow(MessageLoop& loop, Form& form, HWND owner)
   colors_.follow(window());
   place_.place(window());
   captions_.renew();
-  create_controls(window(), nullptr);
+  // Before the controls are there, or the system would look through all of them.
   if (form_.default_button != nullptr) {
     SendMessageW(window(), DM_SETDEFID, static_cast<WPARAM>(id_of(*form_.default_button)), 0);
   }
+  create_controls(window(), nullptr);
   show_title();
   form_.attach(this);
   loop_.add(*this);
@@ -60,7 +61,7 @@ void FormWindow::create_controls(HWND parent, const Control* frame) {
     NativeControl& native = *controls_.back();
     control->attach(&native);
     native.note_all();
-    if (control->visible()) {
+    if (native.wants_window()) {
       native.create(parent, id_of(*control), begins_group(before, *control));
       if (control->kind() == ControlKind::kFrame) create_controls(native.window(), control);
     }
@@ -130,6 +131,8 @@ NativeControl* FormWindow::peer_of(int id) const {
 
 void FormWindow::show() {
   ShowWindow(window(), SW_SHOWNORMAL);
+  up_ = true;
+  show_changes();
   SetForegroundWindow(window());
   UpdateWindow(window());
   ready_ = true;
@@ -151,7 +154,7 @@ void FormWindow::refresh(Aspect aspect) {
       follow_scale();
       break;
     case Aspect::kPointer:
-      show_pointer();
+      show_pointer(window());
       break;
     case Aspect::kVisible:
       // The form is unloaded; its window goes with this object. A dialog stays until its owner
@@ -219,15 +222,6 @@ void FormWindow::show_title() const {
     title = concat(std::to_string(*progress_), " % - ", title);
   }
   SetWindowTextW(window(), wide(title).c_str());
-}
-
-void FormWindow::show_pointer() const {
-  POINT at{};
-  GetCursorPos(&at);
-  const HWND under = WindowFromPoint(at);
-  if (under != window() && IsChild(window(), under) == 0) return;
-  SendMessageW(under, WM_SETCURSOR, reinterpret_cast<WPARAM>(under),
-               MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
 }
 
 /// A window under a dialog can still be sent messages by other programs.

@@ -41,6 +41,8 @@ class FormWindow : public ControlPeer, public LoopClient {
   [[nodiscard]] const ColorScheme& colors() const { return colors_.scheme(); }
   [[nodiscard]] bool dark() const { return colors_.dark(); }
 
+  /// Whether the window is to be seen.
+  [[nodiscard]] bool is_up() const { return up_; }
   /// A frame has come into view: its controls get their windows, if they have none yet, and the
   /// focus when the work at hand is done.
   void page_shown(NativeControl& frame);
@@ -64,7 +66,8 @@ class FormWindow : public ControlPeer, public LoopClient {
                                     LPARAM lparam) noexcept;
   /// Native controls for the controls in a frame, null for the form. Hidden ones get their windows
   /// when they are shown, and so does all that lies in a hidden frame: making all of them at once
-  /// would double the time until the form's window is there.
+  /// would double the time until the form's window is there. Those that are slow to make, or are
+  /// not to be seen, follow between the window's showing and its first picture.
   void create_controls(HWND parent, const Control* frame);
   [[nodiscard]] int id_of(const Control& control) const;
   [[nodiscard]] NativeControl* peer_of(int id) const;
@@ -84,7 +87,6 @@ class FormWindow : public ControlPeer, public LoopClient {
   [[nodiscard]] bool takes_input() const;
   /// Has the controls follow another DPI or other settings of the system.
   void follow_scale();
-  void show_pointer() const;
 
   MessageLoop& loop_;
   Form& form_;
@@ -98,7 +100,8 @@ class FormWindow : public ControlPeer, public LoopClient {
   TaskBarProgress task_bar_;
   std::optional<int> progress_;
   std::vector<std::unique_ptr<NativeControl>> controls_;
-  bool ready_ = false;
+  bool up_ = false;     // the window is to be seen
+  bool ready_ = false;  // and what lies in it, too
   bool showing_ = false;
   WindowHandle window_;
 };
