@@ -17,7 +17,7 @@ class ReportText {
 
   /// Where so many bytes can be written behind the text; good until room is asked for again.
   [[nodiscard]] char* room(std::size_t bytes) {
-    if (buffer_.size() - used_ < bytes) buffer_.resize(std::max(2 * used_, used_ + bytes));
+    if (buffer_.size() - used_ < bytes) buffer_.resize(used_ + std::max(used_ / 4, bytes));
     return buffer_.data() + used_;
   }
   /// What was written there is the text's new end.
