@@ -1,6 +1,7 @@
 #include "app/account/number_cells.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "text/place_finder.h"
 #include "wizard/composition.h"
@@ -8,8 +9,8 @@
 namespace quenda {
 
 NumberCells::NumberCells(const RecordTable& records, char delimiter,
-                         const std::vector<std::size_t>& columns)
-    : records_(records), delimiter_(delimiter), columns_(columns) {
+                         std::vector<std::size_t> columns)
+    : records_(records), delimiter_(delimiter), columns_(std::move(columns)) {
   columns_.resize(std::min(columns_.size(), kNumberRows));
   for (const std::size_t position : columns_) {
     fields_.resize(std::max(fields_.size(), position + 1));

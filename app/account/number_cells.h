@@ -14,7 +14,7 @@ namespace quenda {
 class NumberCells {
  public:
   /// More columns than entries can be made of do not count.
-  NumberCells(const RecordTable& records, char delimiter, const std::vector<std::size_t>& columns);
+  NumberCells(const RecordTable& records, char delimiter, std::vector<std::size_t> columns);
 
   /// How many columns count.
   [[nodiscard]] std::size_t columns() const { return columns_.size(); }
