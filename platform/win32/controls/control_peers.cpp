@@ -42,6 +42,7 @@ class NativeLabel : public PeerOf<Label> {
     const DWORD cut = typed().one_line() ? SS_ENDELLIPSIS : 0;
     return {WC_STATICW, false, side | prefix | cut, 0, form().captions().of(typed())};
   }
+  [[nodiscard]] bool can_wait() const override { return typed().caption().empty(); }
   void show(Aspect aspect) override {
     if (aspect == Aspect::kCaption) set_window_text(form().captions().of(typed()));
     if (typed().announced()) say_news();

@@ -42,6 +42,7 @@ class NativeSplitter : public PeerOf<Splitter> {
  protected:
   [[nodiscard]] WindowSpec spec() const override {
     // A button that lies over its end stays whole.
+    register_splitter_class();
     return {kSplitterClass, true, WS_CLIPSIBLINGS};
   }
 
@@ -153,7 +154,6 @@ class NativeSplitter : public PeerOf<Splitter> {
 }  // namespace
 
 std::unique_ptr<NativeControl> make_splitter(FormWindow& form, Splitter& splitter) {
-  register_splitter_class();
   return std::make_unique<NativeSplitter>(form, splitter);
 }
 
