@@ -93,6 +93,8 @@ void BatchRun::run() {
     }
     go_on(Page::kEntries);
     composed_ = true;
+    // Nobody goes back to the pages; only an account has to look at the source once more.
+    if (!main_.wizard.account_wanted) main_.source.give_up_text();
     write_or_show();
   } catch (const EndProgram&) {
     // The forms end the program in the end, and whenever they have to.

@@ -30,6 +30,12 @@ struct ImportSource {
   [[nodiscard]] Source kind() const {
     return IsOutlookSource ? Source::kOutlook : IsISpyFile ? Source::kIspy : Source::kFile;
   }
+  /// Gives the memory of the text and its records back, for a program that needs neither again: a
+  /// large book takes their place.
+  void give_up_text() {
+    ImportText = std::make_shared<std::string>();
+    ImportRows = RecordTable();
+  }
 };
 
 /// Where the wizard stands.
