@@ -4,8 +4,9 @@
 
 #include "book/book_scanner.h"
 #include "book/entry_list.h"
+#include "text/row_index.h"
+#include "text/short_hash.h"
 #include "text/text.h"
-#include "text/view_index.h"
 
 namespace quenda {
 

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cstdint>
 
+#include "text/row_index.h"
 #include "text/text.h"
-#include "text/view_index.h"
 
 namespace quenda {
 namespace {
@@ -58,7 +58,7 @@ std::size_t remove_doubles(BookList& list, DoubleRule& rule,
   constexpr std::size_t kNear = 5;
   using Outcome = DoubleDecision::Outcome;
   const std::size_t total = list.size();
-  ViewIndex by_number(total);
+  RowIndex by_number(total);
   const auto decide = [&](std::size_t existing, std::size_t fresh) {
     const BookContact old_contact = list.contact(existing);
     const BookContact new_contact = list.contact(fresh);
@@ -72,14 +72,14 @@ std::size_t remove_doubles(BookList& list, DoubleRule& rule,
     if (i + kAhead < total) by_number.announce(list.hash_of_number(i + kAhead));
     if (i + kNear < total) {
       const std::uint32_t likely = by_number.likely_row(list.hash_of_number(i + kNear));
-      if (likely != ViewIndex::kNone) list.announce(likely);
+      if (likely != RowIndex::kNone) list.announce(likely);
     }
     if (!list.written(i)) continue;
     const auto entry = static_cast<std::uint32_t>(i);
     const std::uint32_t hash = list.hash_of_number(i);
     const auto same = [&](std::uint32_t other) { return list.number(other) == list.number(i); };
     const std::uint32_t found = by_number.find_or_add(hash, entry, same);
-    if (found == ViewIndex::kNone) {
+    if (found == RowIndex::kNone) {
       ++kept;
       continue;
     }

@@ -2,7 +2,8 @@
 
 #include <string_view>
 
-#include "text/view_index.h"
+#include "text/row_index.h"
+#include "text/short_hash.h"
 
 namespace quenda {
 
@@ -16,7 +17,7 @@ std::vector<RepeatedLine> remove_repeated_lines(FlatTable& rows,
     hashes[i] = short_hash_of(rows.line(i));
   }
   std::vector<RepeatedLine> repeated;
-  ViewIndex kept(rows.rows());
+  RowIndex kept(rows.rows());
   rows.keep_rows([&](std::size_t row, std::size_t place) {
     if (row % kRowsPerPause == 0) pause();
     if (row + kAhead < hashes.size()) kept.announce(hashes[row + kAhead]);
@@ -25,7 +26,7 @@ std::vector<RepeatedLine> remove_repeated_lines(FlatTable& rows,
     const auto same = [&](std::uint32_t other) { return rows.line(other) == line; };
     const std::uint32_t first =
         kept.find_or_add(hashes[row], static_cast<std::uint32_t>(place), same);
-    if (first == ViewIndex::kNone) return true;
+    if (first == RowIndex::kNone) return true;
     repeated.push_back({static_cast<std::uint32_t>(row), rows.origin(first)});
     return false;
   });

@@ -10,6 +10,7 @@
 #include <string_view>
 #include <vector>
 
+#include "text/row_index.h"
 #include "text/view_index.h"
 
 namespace quenda {
@@ -95,7 +96,7 @@ TEST(FlatTable, WrittenRowsAndRewrittenOnesStandAsTheyWere) {
   EXPECT_EQ(rows.cell(1, 1), "12;6");
 }
 
-TEST(ViewIndex, GrowsFindsAndReplaces) {
+TEST(ViewIndex, GrowsAndFinds) {
   std::vector<std::string> keys;
   const auto key_of = [&](std::uint32_t row) { return std::string_view(keys[row]); };
   ViewIndex index;
@@ -103,11 +104,30 @@ TEST(ViewIndex, GrowsFindsAndReplaces) {
     keys.push_back("key" + std::to_string(i));
     EXPECT_EQ(index.find_or_add(keys.back(), i, key_of), ViewIndex::kNone);
   }
+  EXPECT_EQ(index.find_or_add("key5", 1000, key_of), 5U);
   EXPECT_EQ(index.find("key777", key_of), 777U);
   EXPECT_EQ(index.find("key1000", key_of), ViewIndex::kNone);
-  keys.emplace_back("key5");
-  index.replace(short_hash_of("key5"), 1000, [&](auto row) { return keys[row] == "key5"; });
-  EXPECT_EQ(index.find_or_add("key5", 1, key_of), 1000U);
+}
+
+TEST(RowIndex, TellsRowsApartWhoseHashesDoNot) {
+  for (const std::uint32_t rows : {1U, 2U, 3U, 64U, 1000U}) {
+    RowIndex index(rows);
+    // Of five hashes each is one for many texts, and the slots of some have all of their bits.
+    const std::array<std::uint32_t, 5> hashes = {0U, 1U, 0xFFFFFFFFU, 0xFFFF0000U, 0x80000001U};
+    const auto hash_of = [&](std::uint32_t row) { return hashes.at(row % hashes.size()); };
+    for (std::uint32_t row = 0; row < rows; ++row) {
+      const auto never = [](std::uint32_t) { return false; };
+      ASSERT_EQ(index.find_or_add(hash_of(row), row, never), RowIndex::kNone);
+    }
+    const auto is = [](std::uint32_t wanted) {
+      return [wanted](std::uint32_t row) { return row == wanted; };
+    };
+    for (std::uint32_t row = 0; row < rows; ++row) {
+      ASSERT_EQ(index.find_or_add(hash_of(row), 0, is(row)), row) << rows << " rows";
+    }
+    index.replace(hash_of(rows - 1), 0, is(rows - 1));
+    EXPECT_EQ(index.find_or_add(hash_of(rows - 1), 0, [](auto) { return true; }), 0U);
+  }
 }
 
 }  // namespace
