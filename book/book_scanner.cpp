@@ -19,18 +19,19 @@ bool BookScanner::next(std::string_view& line) {
 }
 
 bool BookScanner::take_usual_line() {
+  separators_.go_to(start_);
   std::size_t field_start = start_;
-  std::size_t mark = 0;
   for (std::string_view& field : fields_) {
-    for (mark = marks_.next(); mark < book_.size() && book_[mark] != ';'; mark = marks_.next()) {
-      if (ends_line(mark) || has_there(mark, kCardOpen) || has_there(mark, kCardClose))
-        return false;
-    }
-    if (mark == book_.size()) return false;
-    field = book_.substr(field_start, mark - field_start);
-    field_start = mark + 1;
+    const std::size_t separator = separators_.next();
+    if (separator == book_.size()) return false;
+    field = book_.substr(field_start, separator - field_start);
+    field_start = separator + 1;
   }
-  mark = marks_.next();
+  // What lies between is text: neither a mark of a card nor the line's end may be in it.
+  std::size_t mark = marks_.next();
+  for (; mark < field_start; mark = marks_.next()) {
+    if (ends_line(mark) || has_there(mark, kCardOpen) || has_there(mark, kCardClose)) return false;
+  }
   if (mark != field_start || !has_there(mark, kCardOpen)) return false;
   do {
     mark = marks_.next();

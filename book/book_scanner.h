@@ -15,7 +15,7 @@ namespace quenda {
 class BookScanner {
  public:
   BookScanner(std::string_view book, LineEnd end)
-      : book_(book), end_(end), marks_(book, ';', '[', ')', '\n') {}
+      : book_(book), end_(end), separators_(book, ';'), marks_(book, '[', ')', '\n') {}
 
   /// The next line, without its end; false after the last one.
   bool next(std::string_view& line);
@@ -34,7 +34,8 @@ class BookScanner {
 
   std::string_view book_;
   LineEnd end_;
-  PlaceFinder<4> marks_;
+  PlaceFinder<1> separators_;
+  PlaceFinder<3> marks_;
   std::size_t start_ = 0;  // of the line that comes next
   std::string_view line_;
   bool usual_ = false;

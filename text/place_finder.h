@@ -28,33 +28,44 @@ class PlaceFinder {
 
   /// Goes on from a place behind the one found last.
   void go_to(std::size_t place) {
-    block_ = place;
+    window_ = place;
     found_ = 0;
   }
 
   /// The next place of one of the characters; the size of the text when there is none left.
   std::size_t next() {
     while (found_ == 0) {
-      if (block_ >= text_.size()) return text_.size();
-      found_ = look_at(block_);
-      block_ += kBlock;
+      if (window_ >= text_.size()) return text_.size();
+      found_ = look_at(window_);
+      window_ += kWindow;
     }
     const auto place = static_cast<std::size_t>(std::countr_zero(found_));
     found_ &= found_ - 1;
-    return block_ - kBlock + place;
+    return window_ - kWindow + place;
   }
 
  private:
   static constexpr std::size_t kBlock = ByteBlock::kSize;
+  static constexpr std::size_t kWindow = 64;
 
-  /// One bit for each of the sixteen bytes from a place on that is one of the characters.
-  [[nodiscard]] std::uint32_t look_at(std::size_t start) const {
+  /// One bit for each of the bytes of a window that is one of the characters.
+  [[nodiscard]] std::uint64_t look_at(std::size_t start) const {
     const char* const from = text_.data() + start;
     const std::size_t left = text_.size() - start;
-    const bool readable = readable_ - start >= kBlock;
-    const std::uint32_t found =
-        matches(readable ? ByteBlock::load(from) : ByteBlock::load_part(from, left));
-    return left >= kBlock ? found : found & ((1U << left) - 1);
+    std::uint64_t found = 0;
+    if (readable_ - start >= kWindow) {
+      for (std::size_t at = 0; at < kWindow; at += kBlock) {
+        found |= std::uint64_t{matches(ByteBlock::load(from + at))} << at;
+      }
+    } else {
+      for (std::size_t at = 0; at < left && at < kWindow; at += kBlock) {
+        const bool readable = readable_ - start - at >= kBlock;
+        found |= std::uint64_t{matches(readable ? ByteBlock::load(from + at)
+                                                : ByteBlock::load_part(from + at, left - at))}
+                 << at;
+      }
+    }
+    return left >= kWindow ? found : found & ((std::uint64_t{1} << left) - 1);
   }
 
   [[nodiscard]] std::uint32_t matches(ByteBlock bytes) const {
@@ -68,8 +79,8 @@ class PlaceFinder {
   std::string_view text_;
   std::size_t readable_;
   std::array<ByteBlock, kCharacters> patterns_;
-  std::size_t block_ = 0;    // where the block to be looked at next begins
-  std::uint32_t found_ = 0;  // places of the block before it that have not been returned
+  std::size_t window_ = 0;   // where the window to be looked at next begins
+  std::uint64_t found_ = 0;  // places of the window before it that have not been returned
 };
 
 template <std::same_as<char>... Characters>
