@@ -76,16 +76,15 @@ void look_at_characters(const char* bytes, std::size_t count, ByteFlags& flags) 
   flags.broken = flags.broken || any(broken);
 }
 
-/// The same where a broken byte has been found already: only whether there is a sequence is open.
+/// The same where a broken byte has been found already: only whether there is a sequence is open,
+/// for which the first byte of a character has to have one behind it.
 void look_for_sequence(const char* bytes, std::size_t count, ByteFlags& flags) {
   ByteBlock sequence = nothing();
   for (std::size_t at = 0; at < count; at += ByteBlock::kSize) {
     const ByteBlock block = ByteBlock::load(bytes + at);
-    const ByteBlock wanted = ByteBlock::load(bytes + at - 1).above('\xC1') |
-                             ByteBlock::load(bytes + at - 2).above('\xDF') |
-                             ByteBlock::load(bytes + at - 3).above('\xEF');
     const ByteBlock follows = block & block.up_to('\xBF');
-    sequence = sequence | follows.without(wanted.equal_to('\0'));
+    const ByteBlock no_first = ByteBlock::load(bytes + at - 1).up_to('\xC1');
+    sequence = sequence | follows.without(no_first);
   }
   flags.sequence = flags.sequence || any(sequence);
 }

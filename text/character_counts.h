@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <concepts>
 #include <cstddef>
+#include <cstdint>
 #include <string_view>
 #include <utility>
 
@@ -53,8 +55,15 @@ std::array<std::size_t, sizeof...(Characters)> count_each(std::string_view text,
   std::array<std::size_t, sizeof...(Characters)> counts{};
   const std::string_view rest = text.substr(at);
   for (std::size_t i = 0; i < wanted.size(); ++i) {
-    counts[i] = matches[i].total() +
-                static_cast<std::size_t>(std::count(rest.begin(), rest.end(), wanted[i]));
+    counts[i] = matches[i].total();
+    if (at == 0) {
+      counts[i] += static_cast<std::size_t>(std::count(rest.begin(), rest.end(), wanted[i]));
+    } else if (!rest.empty()) {
+      // The last sixteen bytes, without those that have been counted already.
+      const ByteBlock block = ByteBlock::load(text.data() + (text.size() - kSize));
+      const std::uint32_t found = block.equal_to(patterns[i]).top_bits();
+      counts[i] += static_cast<std::size_t>(std::popcount(found >> (kSize - rest.size())));
+    }
   }
   return counts;
 }

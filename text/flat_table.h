@@ -59,6 +59,11 @@ class FlatTable {
   /// Whether a cell of the rows that were added has a ";" inside, so that a row's line does not
   /// tell its cells. Only for a table that rows were added to and kept in, and nothing else.
   [[nodiscard]] bool has_separators_inside() const;
+  /// False when no row has the text; true also for one that rows had which are gone, or that goes
+  /// over from one row to the next.
+  [[nodiscard]] bool may_have(std::string_view text) const {
+    return std::string_view(buffer_).substr(0, used_).find(text) != std::string_view::npos;
+  }
   /// Puts one character for another in all cells. Neither may be ";".
   void replace(char from, char to);
 

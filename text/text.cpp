@@ -61,12 +61,6 @@ std::string concat(std::initializer_list<std::string_view> parts) {
   return result;
 }
 
-std::string_view trim(std::string_view text) {
-  while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
-  while (!text.empty() && text.back() == ' ') text.remove_suffix(1);
-  return text;
-}
-
 char to_lower(char character) { return kLower[static_cast<unsigned char>(character)]; }
 
 std::string to_lower(std::string_view text) {

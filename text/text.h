@@ -23,7 +23,11 @@ std::string concat(const Parts&... parts) {
 }
 
 /// The text without the blanks (code 32 only, no tabs) at both ends.
-std::string_view trim(std::string_view text);
+inline std::string_view trim(std::string_view text) {
+  while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
+  while (!text.empty() && text.back() == ' ') text.remove_suffix(1);
+  return text;
+}
 
 /// Small letter of a character; covers the letters of the whole code page, umlauts too.
 char to_lower(char character);

@@ -8,6 +8,7 @@
 
 #include "app/quenda-import/batch_steps.h"
 #include "app/quenda-import/printable.h"
+#include "book/book_entry.h"
 #include "book/entry_list.h"
 #include "text/fault.h"
 #include "text/literal_1252.h"
@@ -153,10 +154,11 @@ void BatchRun::write_or_show() {
 void BatchRun::warn_about_cards() {
   constexpr std::size_t kMostShown = 10;
   const FlatTable& rows = main_.lstImpFinal.table();
+  if (!rows.may_have(kCardOpen) && !rows.may_have(kCardClose)) return;
   std::size_t found = 0;
   for (std::size_t row = 0; row < rows.rows(); ++row) {
     const std::string_view line = rows.line(row);
-    if (line.find("[vcd(") == line.npos && line.find(")vcd]") == line.npos) continue;
+    if (line.find(kCardOpen) == line.npos && line.find(kCardClose) == line.npos) continue;
     if (++found > kMostShown) continue;
     say(concat("Warnung: Eintrag ", std::to_string(row + 1), " (", rows.cell(row, kEntryName),
                u8") enthält Zeichen einer Kontaktkarte; das Telefonbuch liest sie als Karte."_de));
