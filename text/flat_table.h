@@ -75,6 +75,8 @@ class FlatTable {
     return std::span(lengths_).subspan(row * columns_, columns_);
   }
   [[nodiscard]] std::size_t size_of(std::size_t row) const;
+  /// Whether cells that are parts of the row's line are those that the row has.
+  [[nodiscard]] bool has_cells(std::size_t row, std::span<const std::string_view> cells) const;
   /// Writes cells that are parts of the row's line as its line.
   void rewrite_row(std::size_t row, std::span<const std::string_view> cells);
   /// Lets an earlier place have the row.
@@ -102,22 +104,29 @@ void FlatTable::keep_rows(Keep keep) {
 template <class Rewrite>
 void FlatTable::rewrite_rows(Rewrite rewrite) {
   std::size_t kept = 0;
-  std::vector<std::string_view> before(columns_);
   std::vector<std::string_view> cells(columns_);
-  const auto is_same = [](std::string_view a, std::string_view b) {
-    return a.data() == b.data() && a.size() == b.size();
-  };
   for (std::size_t row = 0; row < rows(); ++row) {
     const char* start = buffer_.data() + starts_[row];
     for (std::size_t i = 0; i < columns_; ++i) {
-      before[i] = cells[i] = {start, lengths_[row * columns_ + i]};
-      start += before[i].size() + 1;
+      const std::size_t size = lengths_[row * columns_ + i];
+      cells[i] = {start, size};
+      start += size + 1;
     }
     if (!rewrite(std::span(cells))) continue;
-    if (!std::equal(cells.begin(), cells.end(), before.begin(), is_same)) rewrite_row(row, cells);
+    if (!has_cells(row, cells)) rewrite_row(row, cells);
     move_row(row, kept++);
   }
   cut(kept);
+}
+
+inline bool FlatTable::has_cells(std::size_t row, std::span<const std::string_view> cells) const {
+  const char* start = buffer_.data() + starts_[row];
+  const std::uint32_t* length = &lengths_[row * columns_];
+  for (const std::string_view cell : cells) {
+    if (cell.data() != start || cell.size() != *length) return false;
+    start += *length++ + 1;
+  }
+  return true;
 }
 
 inline void FlatTable::move_row(std::size_t row, std::size_t place) {
