@@ -8,17 +8,17 @@ namespace quenda {
 
 bool BookScanner::next(std::string_view& line) {
   if (start_ >= book_.size()) return false;
-  usual_ = end_ == LineEnd::kCrLf && take_usual_line();
+  usual_ = end_ == LineEnd::kCrLf && take_usual_line(line);
   if (!usual_) {
     BookLines(book_.substr(start_), end_).next(line_);
     start_ += line_.size() + (end_ == LineEnd::kCrLf ? kCrLf.size() : 1);
     marks_.go_to(std::min(start_, book_.size()));
+    line = line_;
   }
-  line = line_;
   return true;
 }
 
-bool BookScanner::take_usual_line() {
+bool BookScanner::take_usual_line(std::string_view& line) {
   separators_.go_to(start_);
   std::size_t field_start = start_;
   for (std::string_view& field : fields_) {
@@ -40,7 +40,7 @@ bool BookScanner::take_usual_line() {
   const std::size_t end = mark + kCardClose.size();
   if (!has_there(end, kCrLf)) return false;
   marks_.next();  // the line feed
-  line_ = book_.substr(start_, end - start_);
+  line = book_.substr(start_, end - start_);
   start_ = end + kCrLf.size();
   return true;
 }

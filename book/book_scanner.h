@@ -23,7 +23,7 @@ class BookScanner {
   [[nodiscard]] ExaminedLine examined() const;
 
  private:
-  bool take_usual_line();
+  bool take_usual_line(std::string_view& line);
   /// Whether a line feed ends the line at hand.
   [[nodiscard]] bool ends_line(std::size_t mark) const {
     return book_[mark] == '\n' && mark > start_ && book_[mark - 1] == '\r';
@@ -37,9 +37,9 @@ class BookScanner {
   PlaceFinder<1> separators_;
   PlaceFinder<3> marks_;
   std::size_t start_ = 0;  // of the line that comes next
-  std::string_view line_;
   bool usual_ = false;
-  BookFields fields_;  // of a usual line
+  std::string_view line_;  // that is not usual
+  BookFields fields_;      // of one that is
 };
 
 }  // namespace quenda

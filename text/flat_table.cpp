@@ -68,16 +68,17 @@ void FlatTable::add_row(std::span<const std::string_view> cells, std::uint32_t o
   ++added_;
 }
 
-void FlatTable::add_written_row(std::span<const std::string_view> cells, std::uint32_t origin) {
+void FlatTable::add_written_row(std::span<const std::size_t> sizes, std::uint32_t origin) {
   starts_.push_back(used_);
   origins_.push_back(origin);
-  for (const std::string_view cell : cells) {
-    if (cell.size() > std::numeric_limits<std::uint32_t>::max()) raise_fault(kFaultOutOfMemory);
-    lengths_.push_back(static_cast<std::uint32_t>(cell.size()));
-    used_ += cell.size();
-    buffer_[used_++] = kBetweenCells;
+  std::size_t end = used_;
+  for (const std::size_t size : sizes) {
+    if (size > std::numeric_limits<std::uint32_t>::max()) raise_fault(kFaultOutOfMemory);
+    lengths_.push_back(static_cast<std::uint32_t>(size));
+    end += size;
+    buffer_[end++] = kBetweenCells;
   }
-  --used_;
+  used_ = end - 1;
   ++added_;
 }
 

@@ -37,9 +37,8 @@ class FlatTable {
   /// Where a row of so many bytes at most can be written, its cells one byte apart, which
   /// `add_written_row` fills. Good until the table is changed.
   [[nodiscard]] char* room_for_row(std::size_t most_bytes);
-  /// Adds the row that was written there; the cells tell where in it they lie, one behind the
-  /// other.
-  void add_written_row(std::span<const std::string_view> cells, std::uint32_t origin);
+  /// Adds the row that was written there, by the sizes of its cells.
+  void add_written_row(std::span<const std::size_t> sizes, std::uint32_t origin);
   void set_cell(std::size_t row, std::size_t column, std::string_view text);
   void remove_row(std::size_t row);
   void clear();

@@ -106,11 +106,12 @@ void EntryComposer::compose(const RecordTable& records, std::size_t record, Flat
 
 void EntryComposer::compose_name() {
   const ColumnChoice& columns = composition_.columns;
-  const auto name_part = [&](std::size_t part) {
-    return part < columns.names.size() ? fields_[columns.names[part]] : RecordField();
+  static const RecordField kEmpty;
+  const auto name_part = [&](std::size_t part) -> const RecordField& {
+    return part < columns.names.size() ? fields_[columns.names[part]] : kEmpty;
   };
-  const RecordField first = name_part(composition_.flip_name ? 1 : 0);
-  const RecordField second = name_part(composition_.flip_name ? 0 : 1);
+  const RecordField& first = name_part(composition_.flip_name ? 1 : 0);
+  const RecordField& second = name_part(composition_.flip_name ? 0 : 1);
   const std::size_t most = first.text.size() + 1 + second.text.size();
   if (name_room_.size() < most) name_room_.resize(most);
   char* end = put(name_room_.data(), cell_of(first, changed_));
@@ -181,7 +182,8 @@ void EntryComposer::add_entry(std::size_t record, std::size_t row, std::string_v
     on_number({row, raw, digits, name, address, numeric});
   }
   if (numeric) {
-    entries.add_written_row(std::array{name, digits, address}, entry_origin(record, row + 1));
+    entries.add_written_row(std::array{name.size(), digits.size(), address.size()},
+                            entry_origin(record, row + 1));
   }
 }
 
