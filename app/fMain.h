@@ -129,7 +129,7 @@ class fMain : public WizardShell,
   void ask_and_take_back();
   void tell_of(const BookBackup::Outcome& outcome, const std::string& folder);
   /// False when the book cannot be read without losing entries; the user has been told then.
-  bool book_readable(std::string_view book);
+  bool book_readable(MergeRun& run);
   DoubleAnswer ask_about_double(const DoubleQuestion& question);
 
   /// Whether the settings want a report that can be written; the user is told when it cannot.

@@ -97,11 +97,11 @@ MergeRun::End fMain::merge_into_book(MergeRun& run, const AskAboutDouble& ask) {
     StatusBar.set_panel(2, texts["Import_Info_LoadBook"]);
     run.has_book = true;
     run.book = app_.machine.files.read(app_.paths.book_file());
-    if (!book_readable(run.book)) return MergeRun::End::kFailed;
+    if (!book_readable(run)) return MergeRun::End::kFailed;
   }
   run.list.emplace(run.book, book_line_end, lstImpFinal.table());
   BookList& list = *run.list;
-  list.read_book(run.line, busy.on_step());
+  list.read_book(run.line, busy.on_step(), run.lines);
 
   StatusBar.set_panel(2, texts["Import_Info_FilterData"]);
   list.add_rows(busy.on_step());
@@ -135,8 +135,10 @@ MergeRun::End fMain::write_book(MergeRun& run) {
   return MergeRun::End::kWritten;
 }
 
-bool fMain::book_readable(std::string_view book) {
+bool fMain::book_readable(MergeRun& run) {
+  const std::string_view book = run.book;
   const LineBreaks breaks = count_line_breaks(book);
+  run.lines = breaks.lf + 1;
   book_line_end = line_end_of(book, breaks);
   if (book_line_end == LineEnd::kLf) StatusBar.set_panel(3, texts["Import_Info_BookHasLf"]);
   const std::size_t joined = line_of_joined_entries(book, book_line_end, breaks);

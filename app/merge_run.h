@@ -23,6 +23,7 @@ struct MergeRun {
   MergeAccount::Questions questions = MergeAccount::Questions::kAnswered;
   bool has_book = false;  // or it is made now
   std::string book;       // its text as it was read
+  std::size_t lines = 0;  // of the book; 0 where nobody has counted them
   std::string_view line;  // the line that is being read, for the report of a fault
   std::optional<BookList> list;
   std::optional<MergeAccount> account;  // where one is wanted

@@ -85,13 +85,13 @@ class ChangeBuilder {
 
 }  // namespace
 
-BookChange compose_book(std::string_view old_text, const BookList& list,
-                        const BookList::OnStep& on_step) {
+BookChange compose_book(std::string_view old_text, const BookList& list, const OnStep& on_step) {
   ChangeBuilder change(old_text);
   const std::size_t total = list.size();
+  Steps steps(on_step, total);
   for (std::size_t i = 0; i < total;) {
     const std::size_t first = i;
-    for (; i < total && list.plain(i); ++i) on_step(i + 1, total);
+    for (; i < total && list.plain(i); ++i) steps.row_done(i + 1);
     if (i > first) {
       change.add_run(list.start(first), list.start(i));
       continue;
@@ -101,7 +101,7 @@ BookChange compose_book(std::string_view old_text, const BookList& list,
     } else if (list.written(i)) {
       change.add_line(list.entry(i));
     }
-    on_step(++i, total);
+    steps.row_done(++i);
   }
   return change.finish();
 }

@@ -29,7 +29,6 @@ struct BookChange {
 
 /// Composes the lines of the entries that are written and whose bytes do not stand in the old text
 /// already. That text has to be the one that the list was read from, and to outlive the result.
-BookChange compose_book(std::string_view old_text, const BookList& list,
-                        const BookList::OnStep& on_step);
+BookChange compose_book(std::string_view old_text, const BookList& list, const OnStep& on_step);
 
 }  // namespace quenda

@@ -10,13 +10,14 @@
 
 namespace quenda {
 
-void BookList::read_book(std::string_view& line, const OnStep& on_step) {
-  const std::size_t lines = count_of(book_, '\n') + 1;
+void BookList::read_book(std::string_view& line, const OnStep& on_step, std::size_t lines) {
+  if (lines == 0) lines = count_of(book_, '\n') + 1;
   places_.reserve(lines);
   hashes_.reserve(lines + rows_.rows());
   marks_.reserve(lines + rows_.rows());
   const std::size_t line_end = end_ == LineEnd::kCrLf ? kCrLf.size() : 1;
   BookScanner reader(book_, end_);
+  Steps steps(on_step, book_.size());
   std::size_t characters = 0;
   std::size_t next_start = 0;
   while (reader.next(line)) {
@@ -29,7 +30,7 @@ void BookList::read_book(std::string_view& line, const OnStep& on_step) {
     const ExaminedLine read = reader.examined();
     add(read.number, read.plain && end_ == LineEnd::kCrLf ? Mark::kPlain : Mark::kComposed);
     places_.push_back(static_cast<std::uint32_t>(start));
-    on_step(characters, book_.size());
+    steps.row_done(characters);
   }
   if (next_start != book_.size() && size() > 0) compose_last();
   in_book_ = size();
@@ -38,9 +39,10 @@ void BookList::read_book(std::string_view& line, const OnStep& on_step) {
 
 void BookList::add_rows(const OnStep& on_step) {
   const std::size_t count = rows_.rows();
+  Steps steps(on_step, count);
   for (std::size_t row = 0; row < count; ++row) {
     add(rows_.cell(row, kEntryNumber), Mark::kComposed);
-    on_step(row + 1, count);
+    steps.row_done(row + 1);
   }
 }
 

@@ -2,13 +2,13 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <string_view>
 #include <vector>
 
 #include "book/book_entry.h"
 #include "book/book_lines.h"
 #include "text/flat_table.h"
+#include "text/steps.h"
 
 namespace quenda {
 
@@ -17,15 +17,14 @@ namespace quenda {
 /// a `BookEntry` is made when somebody asks for it.
 class BookList {
  public:
-  using OnStep = std::function<void(std::size_t done, std::size_t total)>;
-
   /// The texts have to live as long as the list, and stay as they are.
   BookList(std::string_view book, LineEnd end, const FlatTable& rows)
       : book_(book), end_(end), rows_(rows) {}
 
   /// Reads the book. `line` is the line being read, for the report of a fault; the faults are those
-  /// of `read_book_line`. `on_step` is told the characters read after each line.
-  void read_book(std::string_view& line, const OnStep& on_step);
+  /// of `read_book_line`. `on_step` is told of the characters that have been read. `lines`: how
+  /// many the book has, where that is known.
+  void read_book(std::string_view& line, const OnStep& on_step, std::size_t lines = 0);
   /// Adds the rows of the final list.
   void add_rows(const OnStep& on_step);
 

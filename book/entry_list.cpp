@@ -36,13 +36,12 @@ bool number_importable(std::string_view number) {
 
 bool name_too_short(std::string_view name) { return name.size() < kShortestName; }
 
-FlatTable entry_rows(FlatTable rows, bool suppress_short_names,
-                     const std::function<void(std::size_t, std::size_t)>& on_step) {
-  const std::size_t total = rows.rows();
+FlatTable entry_rows(FlatTable rows, bool suppress_short_names, const OnStep& on_step) {
+  Steps steps(on_step, rows.rows());
   std::size_t done = 0;
   const bool shifted = rows.has_separators_inside();
   rows.rewrite_rows([&](Cells cells) {
-    on_step(++done, total);
+    steps.row_done(++done);
     if (shifted) shift_at_separators(cells);
     if (!number_importable(cells[kEntryNumber])) return false;
     if (suppress_short_names && name_too_short(cells[kEntryName])) return false;

@@ -1,10 +1,10 @@
 #pragma once
 
 #include <cstddef>
-#include <functional>
 #include <string_view>
 
 #include "text/flat_table.h"
+#include "text/steps.h"
 
 // From the rows that the sources give (name, number, address; "|" standing for a comma) to the rows
 // of the final list.
@@ -22,10 +22,9 @@ bool name_too_short(std::string_view name);
 /// The rows of the final list. A row is left out when its number is not importable, and, where
 /// short names are suppressed, when its name has fewer than 3 characters. A ";" inside a cell,
 /// which a file with another delimiter can have, shifts the cells: a row counts as the line
-/// "name;number;address", of which the first three fields are taken. `on_step` is told after each
+/// "name;number;address", of which the first three fields are taken. `on_step` is told of each
 /// row.
-FlatTable entry_rows(FlatTable rows, bool suppress_short_names,
-                     const std::function<void(std::size_t done, std::size_t total)>& on_step);
+FlatTable entry_rows(FlatTable rows, bool suppress_short_names, const OnStep& on_step);
 
 /// The same for the callers of a call log, of whom only the number's being numeric is asked. A ";"
 /// inside a name shifts the cells here, too, and such a row has no number.

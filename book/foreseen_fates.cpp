@@ -6,7 +6,7 @@
 namespace quenda {
 
 std::vector<RowFate> foresee_fates(std::string_view book, LineEnd end, const FlatTable& rows,
-                                   MergeMode mode, const BookList::OnStep& on_step) {
+                                   MergeMode mode, const OnStep& on_step) {
   BookList list(book, end, rows);
   std::string_view line;
   list.read_book(line, on_step);
@@ -18,8 +18,9 @@ std::vector<RowFate> foresee_fates(std::string_view book, LineEnd end, const Fla
   if (list.in_book() >= kept) account.withhold();
 
   std::vector<RowFate> fates(rows.rows());
+  Steps steps(on_step, fates.size());
   for (std::size_t row = 0; row < fates.size(); ++row) {
-    on_step(row + 1, fates.size());
+    steps.row_done(row + 1);
     if (rows.cell(row, kEntryNumber).empty()) {
       fates[row].fate = Fate::kNoNumber;
       continue;

@@ -24,6 +24,6 @@ static_assert(sizeof(RowFate) == 8, "there may be a million of them");
 /// row is `kAsked`, and the merge goes on as if the book's entry stayed. Faults are those of
 /// reading a line of the book, and whatever `on_step` raises, which is called after each entry.
 std::vector<RowFate> foresee_fates(std::string_view book, LineEnd end, const FlatTable& rows,
-                                   MergeMode mode, const BookList::OnStep& on_step);
+                                   MergeMode mode, const OnStep& on_step);
 
 }  // namespace quenda

@@ -51,13 +51,13 @@ class DoubleRule {
   bool asked_ = false;
 };
 
-std::size_t remove_doubles(BookList& list, DoubleRule& rule,
-                           const std::function<void(std::size_t, std::size_t)>& on_step,
+std::size_t remove_doubles(BookList& list, DoubleRule& rule, const OnStep& on_step,
                            const OnDecision& on_decision) {
   constexpr std::size_t kAhead = 12;
   constexpr std::size_t kNear = 5;
   using Outcome = DoubleDecision::Outcome;
   const std::size_t total = list.size();
+  Steps steps(on_step, total);
   RowIndex by_number(total);
   const auto decide = [&](std::size_t existing, std::size_t fresh) {
     const BookContact old_contact = list.contact(existing);
@@ -68,7 +68,7 @@ std::size_t remove_doubles(BookList& list, DoubleRule& rule,
   };
   std::size_t kept = 0;
   for (std::size_t i = 0; i < total; ++i) {
-    on_step(i + 1, total);
+    steps.row_done(i + 1);
     if (i + kAhead < total) by_number.announce(list.hash_of_number(i + kAhead));
     if (i + kNear < total) {
       const std::uint32_t likely = by_number.likely_row(list.hash_of_number(i + kNear));
@@ -107,7 +107,8 @@ std::size_t count_of_questions(BookList list) {
   };
   const std::function<std::size_t()> unknown = [] { return std::size_t{0}; };
   DoubleRule rule(MergeMode::kAsk, keep, unknown);
-  remove_doubles(list, rule, [](auto, auto) {}, {});
+  const OnStep nobody = [](auto, auto) {};
+  remove_doubles(list, rule, nobody, {});
   return questions;
 }
 
@@ -118,8 +119,7 @@ std::string in_words(const BookContact& contact) {
 }
 
 std::size_t remove_double_entries(BookList& list, MergeMode mode, const AskAboutDouble& ask,
-                                  const std::function<void(std::size_t, std::size_t)>& on_step,
-                                  const OnDecision& on_decision) {
+                                  const OnStep& on_step, const OnDecision& on_decision) {
   const std::function<std::size_t()> count = [&list] { return count_of_questions(list); };
   DoubleRule rule(mode, ask, count);
   return remove_doubles(list, rule, on_step, on_decision);

@@ -54,11 +54,9 @@ using OnDecision = std::function<void(const DoubleDecision&)>;
 /// make an exact double, which is dropped. A replacing entry takes over `Tag` and `Count`, and the
 /// replaced one is dropped; the order of the list stays. Returns how many entries were kept, those
 /// that were replaced later included. `mode` is where the run starts; answers for all change it for
-/// the rest of the run. `on_step` is told after each entry, `on_decision`, where one is given, of
-/// each double.
-std::size_t remove_double_entries(
-    BookList& list, MergeMode mode, const AskAboutDouble& ask,
-    const std::function<void(std::size_t done, std::size_t total)>& on_step,
-    const OnDecision& on_decision = {});
+/// the rest of the run. `on_step` is told of the entries done, `on_decision`, where one is given,
+/// of each double.
+std::size_t remove_double_entries(BookList& list, MergeMode mode, const AskAboutDouble& ask,
+                                  const OnStep& on_step, const OnDecision& on_decision = {});
 
 }  // namespace quenda

@@ -120,13 +120,14 @@ SourceLines lines_of_log(std::string_view text) {
 void pad_records(RecordTable& records, char delimiter, const OnStep& on_step) {
   if (records.empty()) return;
   const std::size_t header = delimiters_of(records[0], delimiter);
+  Steps steps(on_step, records.size());
   for (std::size_t i = 0; i < records.size(); ++i) {
     if (records[i].size() > kMostDelimiters) {
       // Padded as far as this record, should the count overflow.
       records.pad(header, i);
       delimiters_of(records[i], delimiter);
     }
-    on_step(i + 1, records.size());
+    steps.row_done(i + 1);
   }
   records.pad(header, records.size());
 }

@@ -10,6 +10,7 @@
 
 #include "sources/record_table.h"
 #include "sources/source_lines.h"
+#include "text/steps.h"
 
 // The rules of delimited contact files: which delimiter a file uses, how quotes are taken out, and
 // how its text becomes records.
@@ -17,9 +18,6 @@ namespace quenda {
 
 /// The delimiters that the tool knows, in the order of the choice list.
 inline constexpr std::array<char, 3> kDelimiters = {';', ',', '\t'};
-
-/// Told now and then by long work: what has been done of the total, in bytes or records.
-using OnStep = std::function<void(std::size_t done, std::size_t total)>;
 
 /// The columns of a file are counted in 16 bits.
 inline constexpr std::size_t kMostFields = 32767;

@@ -4,9 +4,11 @@
 
 namespace quenda::modImport {
 
-std::optional<std::size_t> RemoveDoubleEntriesTypedImportArray(
-    clsErrorHandling& errors, BookList& list, MergeMode mode, const AskAboutDouble& ask,
-    const std::function<void(std::size_t, std::size_t)>& on_step, const OnDecision& on_decision) {
+std::optional<std::size_t> RemoveDoubleEntriesTypedImportArray(clsErrorHandling& errors,
+                                                               BookList& list, MergeMode mode,
+                                                               const AskAboutDouble& ask,
+                                                               const OnStep& on_step,
+                                                               const OnDecision& on_decision) {
   std::optional<std::size_t> kept;
   const bool done = procedure_with_message(
       errors, "modImport.RemoveDoubleEntriesTypedImportArray", {}, {},

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstddef>
-#include <functional>
 #include <optional>
 
 #include "book/merge.h"
@@ -14,7 +13,6 @@ namespace quenda::modImport {
 /// user has then been shown, and which leaves the list of no use.
 [[nodiscard]] std::optional<std::size_t> RemoveDoubleEntriesTypedImportArray(
     clsErrorHandling& errors, BookList& list, MergeMode mode, const AskAboutDouble& ask,
-    const std::function<void(std::size_t done, std::size_t total)>& on_step,
-    const OnDecision& on_decision = {});
+    const OnStep& on_step, const OnDecision& on_decision = {});
 
 }  // namespace quenda::modImport

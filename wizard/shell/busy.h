@@ -35,7 +35,7 @@ class BusyWork {
 
   /// A callable for rules that report their steps.
   [[nodiscard]] auto on_step() {
-    return [this](std::size_t done, std::size_t total) { form_.step(done, total); };
+    return [this](std::size_t done, std::size_t total) { form_.show_step(done, total); };
   }
 
  private:

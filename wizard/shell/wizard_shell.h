@@ -57,11 +57,13 @@ class WizardShell : public Form {
   /// One record, line or entry of a long loop is done: shows the progress, handles what the user
   /// does meanwhile, and ends the program when the user wants that.
   void step(std::size_t done, std::size_t total) {
-    // A record takes well under a microsecond: to look at the clock for each would cost more than
-    // the work itself. The wish to end is seen at once.
+    // As in `Steps`: to look at the clock for each record would cost more than the work itself. The
+    // wish to end is seen at once.
     constexpr unsigned kStepsPerLook = 64;
     if (++steps_ % kStepsPerLook == 0 || done >= total || wizard.abort) show_step(done, total);
   }
+  /// The same for work that tells of a few of its steps only.
+  void show_step(std::size_t done, std::size_t total);
   /// The same in work that shows no progress.
   void answer_events();
 
@@ -98,7 +100,6 @@ class WizardShell : public Form {
 
  private:
   void design();
-  void show_step(std::size_t done, std::size_t total);
   void colour(bool enabled, std::string_view name, int index,
               const std::function<Control&()>& find);
   void hide_pages();
