@@ -47,8 +47,8 @@ BookBackup fMain::book_backup() {
 ReplaceResult fMain::replace_book(const MergeRun& run, const BookChange& change) {
   const std::string path = app_.paths.book_file();
   return app_.machine.files.replace_tail(path, {.old_text = run.book,
-                                                .keep = change.keep,
-                                                .pieces = change.pieces,
+                                                .keep = change.keep(),
+                                                .tail = &change,
                                                 .texts = book_texts(),
                                                 .spoil = &make_unreadable});
 }
@@ -58,8 +58,8 @@ ReplaceResult fMain::back_up_and_replace(const MergeRun& run, const BookChange& 
   const LocalTime now = app_.machine.clock.now();
   head.when = concat(date_text(now, ".", false, false), " ", time_text(now).substr(0, 5));
   head.before = mark_of(run.book);
-  head.after = mark_of(std::string_view(run.book).substr(0, change.keep));
-  for (const std::string_view piece : change.pieces) head.after.add(piece);
+  head.after = mark_of(std::string_view(run.book).substr(0, change.keep()));
+  change.tell(0, change.size(), [&](std::string_view part) { head.after.add(part); });
 
   BookBackup backup = book_backup();
   backup.begin(now, run.book, run.has_book, [&](const std::string& copy) {

@@ -126,7 +126,7 @@ MergeRun::End fMain::merge_into_book(MergeRun& run, const AskAboutDouble& ask) {
 MergeRun::End fMain::write_book(MergeRun& run) {
   BusyWork busy(*this);
   StatusBar.set_panel(2, texts["Import_Info_WriteBook"]);
-  const BookChange change = compose_book(run.book, *run.list, busy.on_step());
+  const BookChange change(run.book, *run.list, busy.on_step());
   const ReplaceResult result =
       chkBackup.ticked() ? back_up_and_replace(run, change) : replace_book(run, change);
   if (result == ReplaceResult::kChangedMeanwhile) return MergeRun::End::kChangedMeanwhile;

@@ -13,6 +13,10 @@
 namespace quenda {
 namespace {
 
+// What stands in a new line between its texts and behind them.
+constexpr std::string_view kNewBetween = ";0;0;0;0;";
+constexpr std::string_view kNewEnd = ";;[vcd()vcd]\r\n";
+
 constexpr std::size_t kMostBesidesTexts = 64;  // separators, flags, count, marks of the card
 
 BookFields split_fields(std::string_view line) {
@@ -124,10 +128,6 @@ std::size_t book_line_size(const BookEntry& entry) {
          entry.CardData.size() + kMostBesidesTexts;
 }
 
-std::size_t book_line_size(std::string_view name_and_number, std::string_view address) {
-  return name_and_number.size() + address.size() + kMostBesidesTexts;
-}
-
 void append_book_line(std::string& text, const BookEntry& entry) {
   std::array<char, 8> digits{};
   const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), entry.Count).ptr;
@@ -139,9 +139,11 @@ void append_book_line(std::string& text, const BookEntry& entry) {
 
 void append_new_book_line(std::string& text, std::string_view name_and_number,
                           std::string_view address) {
-  constexpr std::string_view kBetween = ";0;0;0;0;";
-  constexpr std::string_view kEnd = ";;[vcd()vcd]\r\n";
-  text.append(name_and_number).append(kBetween).append(address).append(kEnd);
+  text.append(name_and_number).append(kNewBetween).append(address).append(kNewEnd);
+}
+
+std::size_t new_book_line_size(std::string_view name_and_number, std::string_view address) {
+  return name_and_number.size() + kNewBetween.size() + address.size() + kNewEnd.size();
 }
 
 }  // namespace quenda

@@ -56,7 +56,6 @@ BookContact book_line_contact(std::string_view text);
 
 /// Bytes that the entry's line has at most.
 std::size_t book_line_size(const BookEntry& entry);
-std::size_t book_line_size(std::string_view name_and_number, std::string_view address);
 
 /// Adds the entry's line, with its CR LF, to the text. `Extra` is not written: the tool leaves that
 /// field empty whatever the book held there. Nothing is escaped; a ";" inside a text shifts the
@@ -65,5 +64,7 @@ void append_book_line(std::string& text, const BookEntry& entry);
 /// The same for an entry that has nothing but name, number and address.
 void append_new_book_line(std::string& text, std::string_view name_and_number,
                           std::string_view address);
+/// Bytes that this one adds.
+std::size_t new_book_line_size(std::string_view name_and_number, std::string_view address);
 
 }  // namespace quenda

@@ -2,9 +2,10 @@
 
 #include <cstdint>
 #include <memory>
-#include <span>
 #include <string>
 #include <string_view>
+
+#include "platform/tail_text.h"
 
 namespace quenda {
 
@@ -21,8 +22,8 @@ struct TailTexts {
 struct TailChange {
   std::string_view old_text;  // the whole content as it was read; empty for a file to be created
   std::uint64_t keep = 0;     // bytes at the front that stay as they are
-  std::span<const std::string_view> pieces;  // what follows them; may be views into `old_text`
-  TailTexts texts = {};                      // in the user's language
+  const TailText* tail = nullptr;  // what follows them, where anything does
+  TailTexts texts = {};            // in the user's language
   /// Makes lines unreadable for those who know the format, without changing their lengths: in each
   /// line, the first byte that it changes has to do that alone. Null where it does not matter.
   void (*spoil)(std::string& lines) = nullptr;

@@ -63,33 +63,17 @@ class BlockWriter {
   std::string block_;
 };
 
-/// The text from `from` to `to` of all that follows the kept bytes.
-template <class Take>
-void take_range(std::span<const std::string_view> pieces, std::uint64_t from, std::uint64_t to,
-                Take take) {
-  for (const std::string_view piece : pieces) {
-    if (to == 0) return;
-    const std::uint64_t start = std::min<std::uint64_t>(from, piece.size());
-    const std::uint64_t end = std::min<std::uint64_t>(to, piece.size());
-    if (start < end) take(piece.substr(start, end - start));
-    from -= start;
-    to -= end;
-  }
-}
-
-std::uint64_t size_of(std::span<const std::string_view> pieces) {
-  std::uint64_t size = 0;
-  for (const std::string_view piece : pieces) size += piece.size();
-  return size;
+std::uint64_t size_of(const TailChange& change) {
+  return change.tail == nullptr ? 0 : change.tail->size();
 }
 
 /// Where the first line begins at or behind `from`; the end when none does.
-std::uint64_t line_start(std::span<const std::string_view> pieces, std::uint64_t from) {
+std::uint64_t line_start(const TailText& tail, std::uint64_t from) {
   if (from == 0) return 0;
-  const std::uint64_t end = size_of(pieces);
+  const std::uint64_t end = tail.size();
   std::uint64_t at = from - 1;
   bool found = false;
-  take_range(pieces, from - 1, end, [&](std::string_view text) {
+  tail.tell(from - 1, end, [&](std::string_view text) {
     if (found) return;
     const std::size_t line_end = text.find('\n');
     found = line_end != text.npos;
@@ -119,7 +103,7 @@ class Replacement {
         change_(change),
         old_(change.old_text),
         keep_(change.keep),
-        new_end_(change.keep + size_of(change.pieces)) {}
+        new_end_(change.keep + size_of(change)) {}
 
   void run() {
     const bool only_cut = new_end_ == keep_;
@@ -159,8 +143,13 @@ class Replacement {
  private:
   void write_tail(std::uint64_t position, std::uint64_t from, std::uint64_t to) {
     BlockWriter writer(file_, position);
-    take_range(change_.pieces, from, to, [&](std::string_view text) { writer.put(text); });
+    put_tail(writer, from, to);
     writer.done();
+  }
+
+  void put_tail(BlockWriter& writer, std::uint64_t from, std::uint64_t to) const {
+    if (from == to) return;
+    change_.tail->tell(from, to, [&](std::string_view text) { writer.put(text); });
   }
 
   void write_behind() {
@@ -168,17 +157,17 @@ class Replacement {
     const std::uint64_t replaced = old_.size() - keep_;
     // The gap before the first whole line is blank, and a line by itself: no entry either.
     constexpr std::uint64_t kSmallestGap = 3;
-    in_place_ = line_start(change_.pieces, replaced + kSmallestGap);
+    in_place_ = line_start(*change_.tail, replaced + kSmallestGap);
     BlockWriter writer(file_, old_.size());
     if (end > replaced) {
       const std::uint64_t gap = in_place_ - replaced;
       writer.put_blanks(gap < 2 ? 0 : gap - 2);
       writer.put(kCrLf.substr(kCrLf.size() - std::min<std::uint64_t>(gap, kCrLf.size())));
-      take_range(change_.pieces, in_place_, end, [&](std::string_view text) { writer.put(text); });
+      put_tail(writer, in_place_, end);
     }
     writer.put(kInterrupted);
     writer.put(old_.substr(first_line(), keep_ - first_line()));
-    take_range(change_.pieces, 0, in_place_, [&](std::string_view text) { writer.put(text); });
+    put_tail(writer, 0, in_place_);
     writer.done();
   }
 
@@ -245,7 +234,7 @@ class Replacement {
 
 ReplaceResult replace_tail_of(TailFile& file, const TailChange& change) {
   if (change.keep > change.old_text.size()) raise_fault(kFaultInvalidCall);
-  if (change.keep + size_of(change.pieces) > kLargestFile) {
+  if (change.keep + size_of(change) > kLargestFile) {
     throw RuntimeFault(kFaultOutOfMemory, change.texts.large);
   }
   if (!holds(file, change.old_text)) return ReplaceResult::kChangedMeanwhile;

@@ -41,10 +41,10 @@ std::string BookBackup::import_time() const {
 }
 
 void BookBackup::put(const std::string& path, std::string_view old_text, std::string_view text) {
-  const std::array pieces = {text};
+  const TailPieces tail({text});
   // What only some may read in the book is not for others here either.
   const ReplaceResult result = files_.replace_tail(
-      path, {.old_text = old_text, .keep = 0, .pieces = pieces, .rights_of = book_file_});
+      path, {.old_text = old_text, .keep = 0, .tail = &tail, .rights_of = book_file_});
   if (result == ReplaceResult::kChangedMeanwhile) raise_fault(kFaultPermissionDenied);
 }
 
@@ -172,10 +172,10 @@ bool BookBackup::write_book(std::string_view old_text, std::string_view text) {
                     text.begin())
           .first -
       old_text.begin());
-  const std::array pieces = {text.substr(keep)};
+  const TailPieces tail({text.substr(keep)});
   return files_.replace_tail(book_file_, {.old_text = old_text,
                                           .keep = keep,
-                                          .pieces = pieces,
+                                          .tail = &tail,
                                           .texts = texts_.book,
                                           .spoil = &make_unreadable}) == ReplaceResult::kReplaced;
 }

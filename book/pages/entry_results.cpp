@@ -122,11 +122,8 @@ void EntryResults::tick() {
 }
 
 void EntryResults::look() {
-  constexpr unsigned kStepsPerLook = 64;
   const unsigned begun = changes_;
-  unsigned steps = 0;
   const auto on_step = [&](std::size_t, std::size_t) {
-    if (++steps % kStepsPerLook != 0) return;
     shell_.answer_events();
     if (begun != changes_ || !seen()) throw Overtaken();
   };

@@ -114,7 +114,7 @@ TEST_P(Kill, LeavesOldAndNewEntriesOnlyAtEveryByte) {
       std::mismatch(c.before.begin(), c.before.end(), c.after.begin(), c.after.end()).first -
       c.before.begin());
   const std::string_view tail = std::string_view(c.after).substr(keep);
-  const std::string_view pieces[] = {tail.substr(0, tail.size() / 3), tail.substr(tail.size() / 3)};
+  const TailPieces pieces({tail.substr(0, tail.size() / 3), tail.substr(tail.size() / 3)});
   const LineEnd end = line_end_of(c.before);
   const Readable old = read(c.before, end);
   const Readable fresh = read(c.after, end);
@@ -128,7 +128,7 @@ TEST_P(Kill, LeavesOldAndNewEntriesOnlyAtEveryByte) {
     bool killed = false;
     try {
       static_cast<void>(replace_tail_of(
-          file, {.old_text = c.before, .keep = keep, .pieces = pieces, .spoil = &make_unreadable}));
+          file, {.old_text = c.before, .keep = keep, .tail = &pieces, .spoil = &make_unreadable}));
     } catch (const Killed&) {
       killed = true;
     }

@@ -68,11 +68,11 @@ constexpr TailTexts kTexts = {.unchanged = "unchanged",
 
 /// The message of the fault; nothing when there was none.
 std::optional<std::string> fault_of_replacing(TailFile& file, const Scene& scene) {
-  const std::string_view tail = scene.tail;
+  const TailPieces tail({scene.tail});
   try {
     static_cast<void>(replace_tail_of(file, {.old_text = kBefore,
                                              .keep = scene.keep,
-                                             .pieces = {&tail, 1},
+                                             .tail = &tail,
                                              .texts = kTexts,
                                              .spoil = &make_unreadable}));
     return std::nullopt;
@@ -128,10 +128,11 @@ TEST(PutBack, WhatCouldNotBeReadAgainIsNotWritten) {
   const std::string_view rest(block);
   pieces.push_back(rest.substr(1 + kBefore.size()));
   pieces.push_back("..");
+  const TailPieces tail(pieces);
   MemoryTail file{std::string(kBefore)};
   try {
     static_cast<void>(replace_tail_of(
-        file, {.old_text = kBefore, .keep = kBefore.size(), .pieces = pieces, .texts = kTexts}));
+        file, {.old_text = kBefore, .keep = kBefore.size(), .tail = &tail, .texts = kTexts}));
     ADD_FAILURE() << "one byte too many was written";
   } catch (const RuntimeFault& fault) {
     EXPECT_EQ(fault.number(), kFaultOutOfMemory);

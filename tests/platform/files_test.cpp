@@ -80,9 +80,9 @@ class FilesContract : public testing::TestWithParam<bool> {
   ReplaceResult replace(const std::string& name, std::string_view old, std::uint64_t keep,
                         std::string_view tail) const {
     // Two pieces, so that what is left of one counts too.
-    const std::string_view pieces[] = {tail.substr(0, 2),
-                                       tail.substr(std::min<std::size_t>(2, tail.size()))};
-    return files().replace_tail(path(name), {.old_text = old, .keep = keep, .pieces = pieces});
+    const TailPieces pieces(
+        {tail.substr(0, 2), tail.substr(std::min<std::size_t>(2, tail.size()))});
+    return files().replace_tail(path(name), {.old_text = old, .keep = keep, .tail = &pieces});
   }
   void expect_no_reading(const std::string& name, int fault) const {
     EXPECT_EQ(fault_of([&] { static_cast<void>(read(name)); }), fault);

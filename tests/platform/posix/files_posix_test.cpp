@@ -42,8 +42,8 @@ int fault_of_replacing(PosixFiles& files, const std::string& path, std::uint64_t
                        std::string_view tail) {
   return fault_of([&] {
     const std::string old = files.has_file(path) ? files.read(path) : std::string();
-    static_cast<void>(
-        files.replace_tail(path, {.old_text = old, .keep = keep, .pieces = {&tail, 1}}));
+    const TailPieces pieces({tail});
+    static_cast<void>(files.replace_tail(path, {.old_text = old, .keep = keep, .tail = &pieces}));
   });
 }
 
@@ -93,9 +93,9 @@ TEST(PosixFiles, AProgramThatHasTheBookOpenMayFinishItsLine) {
   }
   char byte = 0;
   ASSERT_EQ(read(opened[0], &byte, 1), 1);
-  constexpr std::string_view kTail = "ours\n";
+  const TailPieces tail({"ours\n"});
   const ReplaceResult result =
-      files.replace_tail(path, {.old_text = "old\n", .keep = 4, .pieces = {&kTail, 1}});
+      files.replace_tail(path, {.old_text = "old\n", .keep = 4, .tail = &tail});
   int status = 0;
   ASSERT_EQ(waitpid(other, &status, 0), other);
   EXPECT_EQ(status, 0);
