@@ -5,8 +5,8 @@
 #include <string_view>
 
 #include "book/book_list.h"
-#include "platform/tail_text.h"
 #include "text/steps.h"
+#include "text/tail_text.h"
 
 namespace quenda {
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/tail_text.h"
+#include "text/tail_text.h"
 
 namespace quenda {
 

@@ -1,4 +1,4 @@
-#include "platform/tail_text.h"
+#include "text/tail_text.h"
 
 #include <algorithm>
 
