@@ -21,7 +21,7 @@ namespace quenda {
 /// Bytes that have to be there for such a text: the quotes, and more than it takes, since some are
 /// written and looked at meanwhile. Long texts are looked at, so that they take no more than they
 /// need.
-inline constexpr std::size_t kLongText = 16UL * 1024;
+inline constexpr std::size_t kLongText = std::size_t{16} * 1024;
 inline constexpr std::size_t kBesideText = 2 + ByteBlock::kSize;
 [[nodiscard]] inline std::size_t room_for_csv(std::string_view text) {
   return kBesideText + (text.size() < kLongText ? 3 * text.size() : size_in_csv(text));
