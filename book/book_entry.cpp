@@ -17,8 +17,6 @@ namespace {
 constexpr std::string_view kNewBetween = ";0;0;0;0;";
 constexpr std::string_view kNewEnd = ";;[vcd()vcd]\r\n";
 
-constexpr std::size_t kMostBesidesTexts = 64;  // separators, flags, count, marks of the card
-
 BookFields split_fields(std::string_view line) {
   BookFields fields;
   PlaceFinder separators(line, ';');
@@ -121,11 +119,6 @@ BookContact book_line_contact(std::string_view text) {
   std::size_t before = name.size();
   for (std::size_t i = 0; i < kFieldsBetween; ++i) before = separators.next();
   return {name, text.substr(before + 1, separators.next() - before - 1)};
-}
-
-std::size_t book_line_size(const BookEntry& entry) {
-  return entry.Name.size() + entry.Number.size() + entry.Tag.size() + entry.Address.size() +
-         entry.CardData.size() + kMostBesidesTexts;
 }
 
 void append_book_line(std::string& text, const BookEntry& entry) {

@@ -54,9 +54,6 @@ struct BookContact {
 std::string_view book_line_number(std::string_view text);
 BookContact book_line_contact(std::string_view text);
 
-/// Bytes that the entry's line has at most.
-std::size_t book_line_size(const BookEntry& entry);
-
 /// Adds the entry's line, with its CR LF, to the text. `Extra` is not written: the tool leaves that
 /// field empty whatever the book held there. Nothing is escaped; a ";" inside a text shifts the
 /// fields of the line.
